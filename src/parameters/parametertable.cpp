@@ -1,0 +1,128 @@
+#include "parameters/parametertable.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <limits>
+
+#include "frame/numbertext.h"
+#include "frame/text.h"
+#include "parameters/parameterrowdata.h"
+
+namespace tarq {
+namespace {
+
+using parameterdata::rows;
+
+constexpr std::int8_t noString = -1;
+
+/// For each row the place of its text, so that the other rows cost no string.
+constexpr auto stringPlaces = [] {
+    std::array<std::int8_t, parameterCount> places{};
+    std::int8_t next = 0;
+    for (std::size_t row = 0; row < places.size(); ++row) {
+        places[row] = rows[row].type == ParameterType::String ? next++ : noString;
+    }
+    return places;
+}();
+
+constexpr std::size_t indexOf(int row) {
+    assert(row >= 0 && row < parameterCount);
+    return static_cast<std::size_t>(row);
+}
+
+constexpr std::size_t slotOf(int slot) {
+    assert(slot >= 0 && slot < resultCount);
+    return static_cast<std::size_t>(slot);
+}
+
+Outcome wrongKind() { return {status::wrongKind, "Variant argument is of wrong type."}; }
+
+Outcome outOfRange() { return {status::valueOutOfRange, "Passed value is not within valid range."}; }
+
+}  // namespace
+
+ParameterTable::ParameterTable() {
+    static_assert(std::ranges::count(rows, ParameterType::String, &ParameterRow::type) == stringRowCount);
+    reset();
+}
+
+void ParameterTable::reset() {
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        longs_[row] = rows[row].longDefault;
+        doubles_[row] = rows[row].doubleDefault;
+        if (stringPlaces[row] != noString)
+            strings_[static_cast<std::size_t>(stringPlaces[row])] = rows[row].stringDefault;
+    }
+    clearResults();
+}
+
+std::int32_t ParameterTable::longValue(int row) const { return longs_[indexOf(row)]; }
+
+double ParameterTable::doubleValue(int row) const { return doubles_[indexOf(row)]; }
+
+const std::string& ParameterTable::stringValue(int row) const {
+    static const std::string empty;
+    const std::int8_t place = stringPlaces[indexOf(row)];
+    return place == noString ? empty : strings_[static_cast<std::size_t>(place)];
+}
+
+Outcome ParameterTable::setLong(int row, std::int32_t value) {
+    const ParameterRow& about = rows[indexOf(row)];
+    if (about.type != ParameterType::Long) return wrongKind();
+    if (value < about.longMinimum || value > about.longMaximum) return outOfRange();
+    longs_[indexOf(row)] = value;
+    return {};
+}
+
+Outcome ParameterTable::setDouble(int row, double value) {
+    const ParameterRow& about = rows[indexOf(row)];
+    if (about.type != ParameterType::Double) return wrongKind();
+    const bool inRange = value >= about.doubleMinimum && value <= about.doubleMaximum;
+    if (!inRange) return outOfRange();
+    doubles_[indexOf(row)] = value;
+    return {};
+}
+
+Outcome ParameterTable::setString(int row, std::string_view value) {
+    const ParameterRow& about = rows[indexOf(row)];
+    if (about.type != ParameterType::String) return wrongKind();
+    if (utf16Length(value) > static_cast<std::size_t>(about.stringMaxLength)) {
+        return {status::textTooLong, "Passed string is to long."};
+    }
+    strings_[static_cast<std::size_t>(stringPlaces[indexOf(row)])] = value;
+    return {};
+}
+
+std::string ParameterTable::valueText(int row) const {
+    switch (rows[indexOf(row)].type) {
+        case ParameterType::Long:
+            return fmt::to_string(longValue(row));
+        case ParameterType::Double:
+            return realText(doubleValue(row));
+        case ParameterType::String:
+            return stringValue(row);
+    }
+    return {};
+}
+
+std::int32_t ParameterTable::resultLong(int slot) const {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const double value = resultDouble(slot);
+    if (std::isnan(value)) return 0;
+    return static_cast<std::int32_t>(std::clamp(value, double{Limits::min()}, double{Limits::max()}));
+}
+
+double ParameterTable::resultDouble(int slot) const { return results_[slotOf(slot)].load(std::memory_order_relaxed); }
+
+void ParameterTable::setResult(int slot, double value) {
+    results_[slotOf(slot)].store(value, std::memory_order_relaxed);
+}
+
+void ParameterTable::clearResults() {
+    for (std::atomic<double>& result : results_) result.store(0.0, std::memory_order_relaxed);
+}
+
+}  // namespace tarq
