@@ -1,0 +1,39 @@
+# `cmake --install`: programs, libraries, public headers, and the package that find_package(tarq) finds.
+
+include(CMakePackageConfigHelpers)
+
+# Inside the project a header is named by its room ("frame/variant.h"); outside, everything lies under tarq/.
+set(public_headers
+  component/createobject.h
+  frame/export.h frame/guid.h frame/object.h frame/objecterror.h frame/safearray.h frame/status.h frame/valuelist.h
+  frame/variant.h
+  interfaces/classids.h interfaces/enumerations.h interfaces/itarqmodel.h)
+set(staged "${CMAKE_BINARY_DIR}/public-headers")
+foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
+  if(header MATCHES "/")
+    set(origin "${CMAKE_SOURCE_DIR}/src/${header}")
+  else()
+    set(origin "${CMAKE_SOURCE_DIR}/include/tarq/${header}")
+  endif()
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${origin}")
+  file(READ "${origin}" text)
+  string(REGEX REPLACE "#include \"(component|frame|interfaces)/" "#include \"tarq/\\1/" text "${text}")
+  file(CONFIGURE OUTPUT "${staged}/tarq/${header}" CONTENT "${text}" @ONLY)
+endforeach()
+install(DIRECTORY "${staged}/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+
+# The engine lies beside the component, where the component looks first.
+install(TARGETS tarqcom EXPORT tarq
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+install(TARGETS tarq_engine_highs LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS tarq_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(FILES LICENSE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/tarq")
+install(EXPORT tarq NAMESPACE tarq:: FILE tarqTargets.cmake DESTINATION "${package_folder}")
+file(WRITE "${CMAKE_BINARY_DIR}/tarqConfig.cmake" "include(\"\${CMAKE_CURRENT_LIST_DIR}/tarqTargets.cmake\")\n")
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/tarqConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(FILES "${CMAKE_BINARY_DIR}/tarqConfig.cmake" "${CMAKE_BINARY_DIR}/tarqConfigVersion.cmake"
+  DESTINATION "${package_folder}")
