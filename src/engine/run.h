@@ -1,12 +1,17 @@
 // runOptimization: one whole run of the engine on one model.
+//
+// The engine's state and the two values that its callback finds are process-wide (see enginecallback.h), so a process
+// drives one run at a time reliably. Nothing refuses an edit of the model during a run; that is for the client to
+// avoid.
 #pragma once
 
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <memory>
 
 #include "engine/enginebinding.h"
+#include "engine/sharedvalue.h"
 #include "frame/status.h"
 #include "interfaces/enumerations.h"
 #include "model/modelstore.h"
@@ -15,7 +20,7 @@
 namespace tarq {
 
 /// Summary of the latest run. The engine writes the counters and objective values while it works and another thread may
-/// read them then; all access goes through std::atomic_ref (see readShared).
+/// read them then; all access goes through readShared and writeShared.
 struct SolutionSummary {
     double lpObjectiveValue = 0.0;
     double ipObjectiveValue = 0.0;
@@ -27,10 +32,13 @@ struct SolutionSummary {
     std::int32_t integerSolutions = 0;
     TARQSolverStatusTyp solverStatus = TARQSolverStatusTyp::UndefinedSolverStatus;
     TARQSolutionStatusTyp solutionStatus = TARQSolutionStatusTyp::UndefinedSolutionStatus;
-    std::string lastSolverMessage;
+    SharedText lastSolverMessage;
+
+    /// Back to the state before any run.
+    void reset();
 };
 
-/// All that a run reads and writes of its model.
+/// All that a run reads and writes of its model. It must outlive the run; the fields are set before it.
 struct RunModel {
     ModelStore& store;
     ParameterTable& parameters;
@@ -38,10 +46,25 @@ struct RunModel {
     EngineBinding& binding;
     std::atomic<bool>& stopRequested;
     std::atomic<bool>& busy;
-    Outcome& pendingError;           ///< failure of the run, left for whoever reports it
-    std::function<void()> finished;  ///< fires the finish event
+    Outcome& pendingError;           ///< failure of the run, left for whoever reports it; untouched by other endings
+    std::function<void()> finished;  ///< fires the finish event; may be empty, must not throw
+
+    /// The engine of the run in progress, set and cleared by the run: it keeps its engine even when the client moves
+    /// the location meanwhile.
+    std::shared_ptr<EngineInterface> engine{};
 };
 
+/// Binds the engine, hands over parameters and model, solves the LP and, if wanted, the integer program, and copies the
+/// solution into the store. Runs to its end on the calling thread, however long that takes.
+///
+/// Returns 0 when the run ended normally, also when it was stopped between stages; resourceLimit or stoppedAtBreak when
+/// a limit or a break ended it, with the best result so far in the store; libraryNotFound or entryPointsMissing when no
+/// engine is bound; engineMemory, engineSetup or crucialError, with pendingError set, when the engine failed; and
+/// outOfMemory, without a pendingError, when this process has no memory for the transfer. A failure before the summary
+/// is reset leaves the statuses of the latest run.
+///
+/// In every ending the engine's memory is released first, then `busy` is cleared, then `finished` is called, on this
+/// thread; it may start the next run.
 [[nodiscard]] Status runOptimization(RunModel& model);
 
 }  // namespace tarq

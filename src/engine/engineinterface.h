@@ -1,0 +1,71 @@
+// EngineInterface: the operations of a solver engine that a run uses.
+//
+// The operations bear the names, arguments and results of the C interface in tarq/engine.h. A result of 0 means success
+// unless an operation says otherwise. An engine holds one model and one set of parameters, so all operations of a run
+// come from one thread; only GetParameter may come from another, for the version. Nothing here throws.
+#pragma once
+
+#include <cstdint>
+
+#include "tarq/engine.h"
+
+namespace tarq {
+
+class EngineInterface {
+public:
+    EngineInterface() = default;
+    EngineInterface(const EngineInterface&) = delete;
+    EngineInterface& operator=(const EngineInterface&) = delete;
+    virtual ~EngineInterface() = default;
+
+    /// What the engine offers of the optional operations. Without Initialize the older start is used (AllocateMemory,
+    /// GetMaxDim, SetMaxLPDim, InitModel), without SetCallback a stage can't be stopped from outside, and without
+    /// GetParameter there are no messages, no result values and no version.
+    [[nodiscard]] virtual bool hasInitialize() const = 0;
+    [[nodiscard]] virtual bool hasSetCallback() const = 0;
+    [[nodiscard]] virtual bool hasGetParameter() const = 0;
+
+    /// Whether the licence lets this run go on; asked once a run, right after the engine has taken its memory. There is
+    /// no operation for it in the C interface, so an engine accepts unless it says otherwise.
+    [[nodiscard]] virtual bool licenceAccepted() { return true; }
+
+    /// Releases all that the engine holds for the current run.
+    virtual std::int32_t FreeMemory() = 0;
+
+    virtual std::int32_t Initialize() = 0;
+    virtual std::int32_t AllocateMemory(std::int32_t megabytes) = 0;
+    virtual std::int32_t GetMaxDim(std::int32_t* rows, std::int32_t* columns, std::int32_t* nonzeros) = 0;
+    /// Sets the maximal dimensions; the five reserved arguments of the C operation are passed as 0.
+    virtual std::int32_t SetMaxLPDim(std::int32_t rows, std::int32_t columns, std::int32_t nonzeros) = 0;
+    virtual std::int32_t InitModel() = 0;
+
+    /// Takes "name=value", string values in single quotes, or "XCBSTP=1", the request to stop.
+    virtual std::int32_t SetParameter(const char* assignment) = 0;
+    /// Writes the value as text; `buffer` holds at least 255 characters.
+    virtual std::int32_t GetParameter(const char* name, char* buffer) = 0;
+    /// flag: 1 for a model without integer columns, 0 for one with.
+    virtual std::int32_t SetCallback(TarqCallback callback, std::int32_t flag) = 0;
+
+    /// Result 1: not enough memory; 2: input error; anything else: accepted. The arrays live only for the call.
+    virtual std::int32_t PutModel(std::int32_t zero, double infinity, std::int32_t rows, std::int32_t columns,
+                                  std::int32_t nonzeros, const std::int32_t* rowIndices,
+                                  const std::int32_t* columnIndices, const double* values, const double* lower,
+                                  const double* upper, const double* cost, const std::int32_t* type) = 0;
+
+    /// Result 0: solved; 1: a resource limit ended it; 2 input, 3 output, 4 numeric, 5 general, 6 internal error;
+    /// 999: stopped at a break. The outputs may change during the call.
+    virtual std::int32_t OptimizeLP(std::int32_t iterationFrequency, std::int32_t* iterations,
+                                    std::int32_t* infeasibilities, std::int32_t* lpStatus, double* objective,
+                                    double* sumOfInfeasibilities) = 0;
+    /// Results as of OptimizeLP.
+    virtual std::int32_t OptimizeIP(std::int32_t nodeFrequency, std::int32_t* nodes, std::int32_t* integerSolutions,
+                                    std::int32_t* stopReason, double* objective, double* bestPossible) = 0;
+
+    /// Arrays of n + m entries, columns first. The outputs stay as they are when the engine delivers nothing.
+    virtual std::int32_t GetLPSolution(std::int32_t* status, double* objective, double* values, double* reducedCosts,
+                                       std::int32_t* basisStatus) = 0;
+    virtual std::int32_t GetIPSolution(std::int32_t* status, double* objective, double* values, double* reducedCosts,
+                                       std::int32_t* basisStatus) = 0;
+};
+
+}  // namespace tarq
