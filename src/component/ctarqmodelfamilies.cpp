@@ -1,0 +1,44 @@
+// CTARQModel: the hidden members by which families keep their columns and rows.
+#include "component/ctarqmodel.h"
+#include "component/memberguard.h"
+#include "model/modeledit.h"
+
+namespace tarq {
+
+// NOLINTBEGIN(bugprone-reserved-identifier)
+Status CTARQModel::_AddVarSetElement(const std::string* bsName, IUnknown* family) {
+    if (bsName == nullptr) return status::nullPointer;
+    return guarded(classid::TARQModel, [&] { return addFamilyColumn(store_, *bsName, family); });
+}
+
+Status CTARQModel::_AddResSetElement(const std::string* bsName, IUnknown* family) {
+    if (bsName == nullptr) return status::nullPointer;
+    return guarded(classid::TARQModel, [&] { return addFamilyRow(store_, *bsName, family); });
+}
+
+Status CTARQModel::get_VarSetStartIndex(IUnknown* family, std::int32_t* value) {
+    if (value == nullptr) return status::nullPointer;
+    return guarded(classid::TARQModel, [&] { return getFamilyColumnStart(store_, family, *value); });
+}
+
+Status CTARQModel::get_ResSetStartIndex(IUnknown* family, std::int32_t* value) {
+    if (value == nullptr) return status::nullPointer;
+    return guarded(classid::TARQModel, [&] { return getFamilyRowStart(store_, family, *value); });
+}
+
+Status CTARQModel::_ClearTARQVarSet(IUnknown* family) {
+    return guarded(classid::TARQModel, [&] {
+        clearFamilyColumns(store_, family);
+        return Outcome();
+    });
+}
+
+Status CTARQModel::_ClearTARQResSet(IUnknown* family) {
+    return guarded(classid::TARQModel, [&] {
+        clearFamilyRows(store_, family);
+        return Outcome();
+    });
+}
+// NOLINTEND(bugprone-reserved-identifier)
+
+}  // namespace tarq

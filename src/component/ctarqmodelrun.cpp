@@ -1,0 +1,92 @@
+// CTARQModel: running the engine and the summary of the latest run.
+#include "component/ctarqmodel.h"
+#include "component/memberguard.h"
+
+namespace tarq {
+
+RunModel CTARQModel::runModel() {
+    return {.store = store_,
+            .parameters = parameters_,
+            .summary = summary_,
+            .binding = binding_,
+            .stopRequested = stopRequested_,
+            .busy = busy_,
+            .pendingError = pendingError_,
+            .finished = {}};
+}
+
+Status CTARQModel::Optimize() {
+    return guarded(classid::TARQModel, [&] {
+        pendingError_ = {};
+        RunModel model = runModel();
+        const Status ended = runOptimization(model);
+        return pendingError_.isOk() ? Outcome(ended) : pendingError_;
+    });
+}
+
+Status CTARQModel::StopOptimizeAsync() {
+    stopRequested_ = true;
+    return status::ok;
+}
+
+Status CTARQModel::get_IsBusy(std::int32_t* value) {
+    return guardedGet(value, [&] { return busy_ ? 1 : 0; });
+}
+
+Status CTARQModel::get_TARQDLLVersion(std::string* value) {
+    return guardedGet(value, [&] { return binding_.versionText(); });
+}
+
+Status CTARQModel::get_LocationOfTARQDLL(std::string* value) {
+    return guardedGet(value, [&] { return binding_.location(); });
+}
+
+Status CTARQModel::put_LocationOfTARQDLL(const std::string& value) {
+    return guarded(classid::TARQModel, [&] { return binding_.setLocation(value); });
+}
+
+Status CTARQModel::get_LastSolverMessage(std::string* value) {
+    return guardedGet(value, [&] { return summary_.lastSolverMessage.get(); });
+}
+
+Status CTARQModel::get_SolverStatus(TARQSolverStatusTyp* value) {
+    return guardedGet(value, [&] { return readShared(summary_.solverStatus); });
+}
+
+Status CTARQModel::get_SolutionStatus(TARQSolutionStatusTyp* value) {
+    return guardedGet(value, [&] { return readShared(summary_.solutionStatus); });
+}
+
+Status CTARQModel::get_LPObjFunctValue(double* value) {
+    return guardedGet(value, [&] { return readShared(summary_.lpObjectiveValue); });
+}
+
+Status CTARQModel::get_LPSumInfeas(double* value) {
+    return guardedGet(value, [&] { return readShared(summary_.lpSumInfeasibilities); });
+}
+
+Status CTARQModel::get_NumberOfLPInfeas(std::int32_t* value) {
+    return guardedGet(value, [&] { return readShared(summary_.lpInfeasibilities); });
+}
+
+Status CTARQModel::get_NumberOfLPIterations(std::int32_t* value) {
+    return guardedGet(value, [&] { return readShared(summary_.lpIterations); });
+}
+
+Status CTARQModel::get_IPObjFunctValue(double* value) {
+    return guardedGet(value, [&] { return readShared(summary_.ipObjectiveValue); });
+}
+
+Status CTARQModel::get_IPObjFunctBestPossible(double* value) {
+    return guardedGet(value, [&] { return readShared(summary_.ipBestPossible); });
+}
+
+Status CTARQModel::get_NumberOfNodesProcessed(std::int32_t* value) {
+    return guardedGet(value, [&] { return readShared(summary_.nodesProcessed); });
+}
+
+Status CTARQModel::get_NumberOfIntSolutions(std::int32_t* value) {
+    return guardedGet(value, [&] { return readShared(summary_.integerSolutions); });
+}
+
+}  // namespace tarq

@@ -1,0 +1,154 @@
+// CTARQModel: birth, clearing, names, locations and the other properties that need no room of their own.
+#include <string>
+#include <string_view>
+
+#include "component/ctarqmodel.h"
+#include "component/memberguard.h"
+#include "frame/text.h"
+#include "parameters/parameteraccess.h"
+
+namespace tarq {
+namespace {
+
+constexpr std::size_t maxModelNameLength = 32;
+constexpr std::size_t maxPathLength = 255;
+constexpr std::int32_t minAmplOutputBufferSize = 1024;
+
+// The names of the vectors to take from an MPS file belong to the model they were read with.
+constexpr std::string_view vectorNames[] = {"xrhs", "xobj", "xdata", "xrange", "xbound"};
+
+Outcome storePath(std::string& path, const std::string& value) {
+    if (value.size() > maxPathLength) return {status::textTooLong, "Passed string is to long."};
+    path = value;
+    return {};
+}
+
+}  // namespace
+
+CTARQModel::CTARQModel() { resetSolution(); }
+
+void CTARQModel::resetSolution() { summary_.reset(); }
+
+void CTARQModel::clearModel() {
+    store_.clear();
+    resetSolution();
+    amplOutputBuffer_ = std::string();
+    for (const std::string_view name : vectorNames) setParameter(name, "");
+}
+
+void CTARQModel::setParameter(std::string_view name, std::string_view value) {
+    // A refused value leaves the parameter as it was, and the reader goes on.
+    (void)writeParameter(parameters_, name, Variant(value), store_.infinity());
+}
+
+Status CTARQModel::Test() { return status::ok; }
+
+Status CTARQModel::DelModel() {
+    return guarded(classid::TARQModel, [&] {
+        clearModel();
+        return Outcome();
+    });
+}
+
+Status CTARQModel::AutoRenameVariables() {
+    return guarded(classid::TARQModel, [&] {
+        store_.autoRename();
+        return Outcome();
+    });
+}
+
+Status CTARQModel::get_Name(std::string* value) {
+    return guardedGet(value, [&] { return objectName_; });
+}
+
+Status CTARQModel::put_Name(const std::string& value) {
+    return guarded(classid::TARQModel, [&] {
+        objectName_ = value;
+        return Outcome();
+    });
+}
+
+Status CTARQModel::get_ModelName(std::string* value) {
+    return guardedGet(value, [&] { return modelName_; });
+}
+
+Status CTARQModel::put_ModelName(const std::string& value) {
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        if (utf16Length(value) > maxModelNameLength) return {status::textTooLong, "Passed string is to long."};
+        modelName_ = value;
+        return {};
+    });
+}
+
+Status CTARQModel::get_INF(double* value) {
+    return guardedGet(value, [&] { return store_.infinity(); });
+}
+
+Status CTARQModel::get_ObjectNET(Ref<IUnknown>* value) {
+    return guardedGet(value, [&] { return Ref<IUnknown>(static_cast<ITARQModel*>(this)); });
+}
+
+Status CTARQModel::SetRequiresSaveProperties(std::int32_t bSave) {
+    requiresSave_ = (bSave & 1) != 0;
+    return status::ok;
+}
+
+Status CTARQModel::get_LocationOfMathProgDLL(std::string* value) {
+    return guardedGet(value, [&] { return locationOfMathProgDll_; });
+}
+
+Status CTARQModel::put_LocationOfMathProgDLL(const std::string& value) {
+    return guarded(classid::TARQModel, [&] { return storePath(locationOfMathProgDll_, value); });
+}
+
+Status CTARQModel::get_LocationOfAMPLEXE(std::string* value) {
+    return guardedGet(value, [&] { return locationOfAmplExe_; });
+}
+
+Status CTARQModel::put_LocationOfAMPLEXE(const std::string& value) {
+    return guarded(classid::TARQModel, [&] { return storePath(locationOfAmplExe_, value); });
+}
+
+Status CTARQModel::get_LocationOfTARQAMPLEXE(std::string* value) {
+    return guardedGet(value, [&] { return locationOfTarqAmplExe_; });
+}
+
+Status CTARQModel::put_LocationOfTARQAMPLEXE(const std::string& value) {
+    return guarded(classid::TARQModel, [&] { return storePath(locationOfTarqAmplExe_, value); });
+}
+
+Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
+    return guardedGet(value, [&] { return mplWorkingDirectory_; });
+}
+
+Status CTARQModel::put_MPLWorkingDirectory(const std::string& value) {
+    return guarded(classid::TARQModel, [&] { return storePath(mplWorkingDirectory_, value); });
+}
+
+Status CTARQModel::get_MPLErrorMessage(std::string* value) {
+    return guardedGet(value, [&] { return mplErrorMessage_; });
+}
+
+Status CTARQModel::get_MPLErrorLine(std::int32_t* value) {
+    return guardedGet(value, [&] { return mplErrorLine_; });
+}
+
+Status CTARQModel::get_AMPLOutputBuffer(std::string* value) {
+    return guardedGet(value, [&] { return amplOutputBuffer_; });
+}
+
+Status CTARQModel::get_AMPLOutputBufferMaxSize(std::int32_t* value) {
+    return guardedGet(value, [&] { return amplOutputBufferMaxSize_; });
+}
+
+Status CTARQModel::put_AMPLOutputBufferMaxSize(std::int32_t value) {
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        if (value < minAmplOutputBufferSize) {
+            return {status::invalidArgument, "AMPLOutputBuffer must be at least 1024 Bytes long"};
+        }
+        amplOutputBufferMaxSize_ = value;
+        return {};
+    });
+}
+
+}  // namespace tarq
