@@ -1,25 +1,15 @@
 // What every object has: an identity, a count of references and a way to ask for its interfaces.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
 
 #include "frame/export.h"
+#include "frame/guid.h"
 #include "frame/status.h"
 
 namespace tarq {
-
-/// Identifier of an interface or a class, as in "{00020846-0000-0000-C000-000000000046}".
-struct Guid {
-    std::uint32_t data1 = 0;
-    std::uint16_t data2 = 0;
-    std::uint16_t data3 = 0;
-    std::array<std::uint8_t, 8> data4{};
-
-    friend constexpr bool operator==(const Guid&, const Guid&) = default;
-};
 
 /// Base of all interfaces. Objects are born with a count of 0; whoever asks for an interface owns one reference to it.
 class IUnknown {

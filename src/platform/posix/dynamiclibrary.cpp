@@ -1,0 +1,89 @@
+#include "platform/dynamiclibrary.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace tarq {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Directory of the file that this code was linked into; empty when the system can't tell.
+fs::path findOwnDirectory() {
+    Dl_info info{};
+    std::error_code error;
+    if (dladdr(reinterpret_cast<const void*>(&findOwnDirectory), &info) != 0 && info.dli_fname != nullptr) {
+        const fs::path file = info.dli_fname;
+        if (file.has_parent_path()) return fs::absolute(file, error).parent_path();
+    }
+    // A program that was found through PATH is known to the loader by its plain name only.
+    return fs::read_symlink("/proc/self/exe", error).parent_path();
+}
+
+const fs::path& ownDirectory() {
+    static const fs::path directory = findOwnDirectory();
+    return directory;
+}
+
+bool endsWithDll(std::string_view name) {
+    constexpr std::string_view extension = ".dll";
+    if (name.size() <= extension.size()) return false;
+    name.remove_prefix(name.size() - extension.size());
+    return std::ranges::equal(name, extension, [](char found, char wanted) {
+        return (found >= 'A' && found <= 'Z' ? found - 'A' + 'a' : found) == wanted;
+    });
+}
+
+/// The name that a conventional one stands for here, libNAME.so for NAME.dll; empty for other names.
+fs::path nativeName(const fs::path& path) {
+    const std::string file = path.filename().string();
+    if (!endsWithDll(file)) return {};
+    return path.parent_path() / ("lib" + file.substr(0, file.size() - 4) + ".so");
+}
+
+void* open(const fs::path& path) { return path.empty() ? nullptr : dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL); }
+
+/// Opens a path with a directory; a file that is there but no library ends the attempt.
+void* openFile(const fs::path& path, bool& isThere) {
+    std::error_code error;
+    const fs::path native = nativeName(path);
+    if (fs::exists(path, error)) {
+        isThere = true;
+        return open(path);
+    }
+    isThere = !native.empty() && fs::exists(native, error);
+    return isThere ? open(native) : nullptr;
+}
+
+}  // namespace
+
+DynamicLibrary DynamicLibrary::load(const std::string& name) {
+    DynamicLibrary library;
+    if (name.empty() || name.find('\0') != std::string::npos) return library;
+    const fs::path path = name;
+    bool isThere = false;
+    if (path.has_parent_path()) {
+        library.handle_ = openFile(path, isThere);
+        return library;
+    }
+    if (!ownDirectory().empty()) library.handle_ = openFile(ownDirectory() / path, isThere);
+    if (isThere) return library;
+    library.handle_ = open(path);
+    if (library.handle_ == nullptr) library.handle_ = open(nativeName(path));
+    return library;
+}
+
+bool DynamicLibrary::release() {
+    if (handle_ == nullptr) return false;
+    const bool agreed = dlclose(handle_) == 0;
+    handle_ = nullptr;
+    return agreed;
+}
+
+void* DynamicLibrary::symbol(const char* name) const { return handle_ == nullptr ? nullptr : dlsym(handle_, name); }
+
+}  // namespace tarq
