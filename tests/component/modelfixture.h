@@ -15,9 +15,11 @@ MATCHER(Succeeds, "") { return arg == status::ok; }
 
 /// The call failed with this status, and the thread's error tells this description.
 MATCHER_P2(FailsWith, status, description, "") {
-    *result_listener << "described as '" << lastError().description << "'";
-    return arg == status && lastError().status == status && lastError().description == description &&
-           lastError().classId == classid::TARQModel;
+    const ObjectError* error = lastError();
+    if (error == nullptr) return false;
+    *result_listener << "described as '" << error->description << "'";
+    return arg == status && error->status == status && error->description == description &&
+           error->classId == classid::TARQModel;
 }
 
 class ModelTest : public testing::Test {
@@ -36,9 +38,9 @@ protected:
         }
     }
 
-    /// The value of a getter that must succeed: `valueOf(&ITARQModel::get_ColLB, Variant("x"))`.
-    template <class Value, class... Parameters, class... Arguments>
-    Value valueOf(Status (ITARQModel::*getter)(Parameters..., Value*), const Arguments&... arguments) {
+    /// The value of a getter that must succeed: `valueOf<double>(&ITARQModel::get_ColLB, Variant("x"))`.
+    template <class Value, class Getter, class... Arguments>
+    Value valueOf(Getter getter, const Arguments&... arguments) {
         Value value{};
         EXPECT_THAT((model.get()->*getter)(arguments..., &value), Succeeds());
         return value;

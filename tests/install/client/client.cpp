@@ -29,6 +29,6 @@ int main() {
     ok = ok && model->get_ColLPSol(Variant("tables"), &tables).isOk();
     ok = ok && model->get_RowDual(Variant("work"), &workPrice).isOk();
     std::printf("profit %g with %g tables; an hour of work is worth %g\n", profit, tables, workPrice);
-    if (!ok) std::printf("failed: %s\n", lastError().description.c_str());
+    if (!ok && lastError() != nullptr) std::printf("failed: %s\n", lastError()->description.c_str());
     return ok && std::abs(profit - 4100.0) < 1e-6 && std::abs(tables - 30.0) < 1e-6 ? 0 : 1;
 }
