@@ -1,18 +1,19 @@
 // ModelStore: one linear or mixed-integer model, independent of any engine.
 //
 // Positions are 0-based, numbers are 1-based. The objective stands in the costs of the columns; there is no objective
-// row. The store has no lock: one thread at a time.
+// row. A nonzero never names a column or row beyond the counts. Editing leaves the solution values of the records as
+// they are. The store has no lock: one thread at a time. When memory runs out an operation throws std::bad_alloc.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "frame/object.h"
 #include "frame/status.h"
 #include "interfaces/enumerations.h"
 #include "model/nonzerotable.h"
+#include "model/recordtable.h"
 
 namespace tarq {
 
@@ -42,38 +43,71 @@ struct RowRecord {
 
 class ModelStore {
 public:
-    [[nodiscard]] std::int32_t columnCount() const;
-    [[nodiscard]] std::int32_t rowCount() const;
-    [[nodiscard]] double infinity() const;
-    void setInfinity(double value);
+    ModelStore();
+
+    [[nodiscard]] std::int32_t columnCount() const { return columns_.count(); }
+    [[nodiscard]] std::int32_t rowCount() const { return rows_.count(); }
+    /// The model's value for infinity, 1e25 unless a model file says otherwise.
+    [[nodiscard]] double infinity() const { return infinity_; }
+    void setInfinity(double value) { infinity_ = value; }
 
     /// The record at a 0-based position below the count. Names change only through renameColumn and renameRow.
-    [[nodiscard]] const ColumnRecord& column(std::int32_t position) const;
-    [[nodiscard]] ColumnRecord& column(std::int32_t position);
-    [[nodiscard]] const RowRecord& row(std::int32_t position) const;
-    [[nodiscard]] RowRecord& row(std::int32_t position);
+    [[nodiscard]] const ColumnRecord& column(std::int32_t position) const { return columns_[position]; }
+    [[nodiscard]] ColumnRecord& column(std::int32_t position) { return columns_[position]; }
+    [[nodiscard]] const RowRecord& row(std::int32_t position) const { return rows_[position]; }
+    [[nodiscard]] RowRecord& row(std::int32_t position) { return rows_[position]; }
 
     /// 0-based position of the column or row of this name, -1 when there is none. The empty name is never found.
-    [[nodiscard]] std::int32_t findColumn(std::string_view name) const;
-    [[nodiscard]] std::int32_t findRow(std::string_view name) const;
+    [[nodiscard]] std::int32_t findColumn(std::string_view name) const { return columns_.find(name); }
+    [[nodiscard]] std::int32_t findRow(std::string_view name) const { return rows_.find(name); }
 
+    /// Makes room for so many records in all, for readers that know the number beforehand.
+    void reserveColumns(std::int32_t count) { columns_.reserve(count); }
+    void reserveRows(std::int32_t count) { rows_.reserve(count); }
+
+    /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
+    /// A name that is taken is 0x80041026 for columns and 0x8004102B for rows, and nothing is added.
     [[nodiscard]] Outcome addColumnRecord(ColumnRecord record);
     [[nodiscard]] Outcome addRowRecord(RowRecord record);
+    /// Gives the record at a 0-based position another name, or none. Fails with the same statuses: a name of more than
+    /// 64 bytes changes nothing; a name that is taken leaves the record without a name. A position outside the table is
+    /// 0x8004101A.
     [[nodiscard]] Outcome renameColumn(std::int32_t position, std::string_view name);
     [[nodiscard]] Outcome renameRow(std::int32_t position, std::string_view name);
+    /// Removes the records from `firstNumber` to `lastNumber` with their nonzeros; what lies behind moves up. Numbers
+    /// outside the table are ignored. One pass over the records, the names and the nonzeros.
     void removeColumns(std::int32_t firstNumber, std::int32_t lastNumber);
     void removeRows(std::int32_t firstNumber, std::int32_t lastNumber);
 
-    /// Column number first, row number second, as everywhere in the store.
+    /// Column number first, row number second, as everywhere in the store. A place outside the tables holds no nonzero:
+    /// setting, adding and loading pass over it. Setting 0.0, or adding up to it, erases.
     void setNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double value);
     void addToNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double delta);
+    /// Sets `value`, to 0.0 when there is no nonzero.
     [[nodiscard]] bool findNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double& value) const;
-    [[nodiscard]] const NonzeroTable& nonzeros() const;
+    /// True when there was a nonzero.
+    bool eraseNonzero(std::int32_t columnNumber, std::int32_t rowNumber);
+    /// Sets all that the loader has collected, in its order, and leaves the loader empty. The rows and columns must
+    /// have been added before. Faster and smaller than setting each: see NonzeroTable::load.
+    void loadNonzeros(NonzeroLoader& loader);
+    [[nodiscard]] const NonzeroTable& nonzeros() const { return nonzeros_; }
 
+    /// The value limited to the range from -infinity to infinity; not-a-number stays.
     [[nodiscard]] double clampToInfinity(double value) const;
+    /// True when any column has a type other than Continuous. Linear.
     [[nodiscard]] bool hasIntegerColumn() const;
+    /// Renames all columns to C1, C2 and so on, and all rows to R1, R2 and so on.
     void autoRename();
-    void clear();
+    /// Empties the store and gives its memory back. `infinity` stays.
+    void clear() noexcept;
+
+private:
+    [[nodiscard]] bool holdsPlace(std::int32_t columnNumber, std::int32_t rowNumber) const;
+
+    RecordTable<ColumnRecord> columns_;
+    RecordTable<RowRecord> rows_;
+    NonzeroTable nonzeros_;
+    double infinity_ = 1e25;
 };
 
 }  // namespace tarq

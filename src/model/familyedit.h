@@ -1,0 +1,29 @@
+// The operations of the object interface by which families keep their columns and rows; modeledit.h tells their rules.
+//
+// A family adds all its members at once, so they stand next to each other. A family is known by its address only, and a
+// null family has no members.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "frame/object.h"
+#include "frame/status.h"
+#include "model/modelstore.h"
+
+namespace tarq {
+
+/// Adds a column from 0 to infinity, or a row with these bounds. The length of the name isn't tested.
+[[nodiscard]] Outcome addFamilyColumn(ModelStore& store, const std::string& name, IUnknown* family);
+[[nodiscard]] Outcome addFamilyRow(ModelStore& store, const std::string& name, IUnknown* family);
+
+/// Number of the family's first column. When there is none: 0x80041032. Linear.
+[[nodiscard]] Outcome getFamilyColumnStart(const ModelStore& store, const IUnknown* family, std::int32_t& number);
+/// Number of the family's first row. When there is none: status 1 without a description. Linear.
+[[nodiscard]] Outcome getFamilyRowStart(const ModelStore& store, const IUnknown* family, std::int32_t& number);
+
+/// Removes the family's columns or rows in one pass; nothing when it has none.
+void clearFamilyColumns(ModelStore& store, const IUnknown* family);
+void clearFamilyRows(ModelStore& store, const IUnknown* family);
+
+}  // namespace tarq

@@ -1,0 +1,93 @@
+#include "model/modelstore.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarq {
+namespace {
+
+constexpr NameTexts columnTexts{"Duplicate col name: ", "Col name '", "' is too long.", status::badColumnName};
+constexpr NameTexts rowTexts{"Duplicate row name: ", "Row name '", "' is too long.", status::badRowName};
+
+}  // namespace
+
+ModelStore::ModelStore() : columns_(columnTexts), rows_(rowTexts) {}
+
+Outcome ModelStore::addColumnRecord(ColumnRecord record) { return columns_.add(std::move(record)); }
+
+Outcome ModelStore::addRowRecord(RowRecord record) { return rows_.add(std::move(record)); }
+
+Outcome ModelStore::renameColumn(std::int32_t position, std::string_view name) {
+    return columns_.rename(position, std::string(name));
+}
+
+Outcome ModelStore::renameRow(std::int32_t position, std::string_view name) {
+    return rows_.rename(position, std::string(name));
+}
+
+void ModelStore::removeColumns(std::int32_t firstNumber, std::int32_t lastNumber) {
+    const std::int32_t first = std::max(firstNumber, 1);
+    const std::int32_t last = std::min(lastNumber, columnCount());
+    if (first > last) return;
+    columns_.remove(first, last);
+    nonzeros_.removeColumns(first, last);
+}
+
+void ModelStore::removeRows(std::int32_t firstNumber, std::int32_t lastNumber) {
+    const std::int32_t first = std::max(firstNumber, 1);
+    const std::int32_t last = std::min(lastNumber, rowCount());
+    if (first > last) return;
+    rows_.remove(first, last);
+    nonzeros_.removeRows(first, last);
+}
+
+bool ModelStore::holdsPlace(std::int32_t columnNumber, std::int32_t rowNumber) const {
+    return columnNumber >= 1 && columnNumber <= columnCount() && rowNumber >= 1 && rowNumber <= rowCount();
+}
+
+void ModelStore::setNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double value) {
+    if (holdsPlace(columnNumber, rowNumber)) nonzeros_.set(columnNumber, rowNumber, value);
+}
+
+void ModelStore::addToNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double delta) {
+    if (holdsPlace(columnNumber, rowNumber)) nonzeros_.add(columnNumber, rowNumber, delta);
+}
+
+bool ModelStore::findNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double& value) const {
+    const double* found = nonzeros_.find(columnNumber, rowNumber);
+    value = found != nullptr ? *found : 0.0;
+    return found != nullptr;
+}
+
+bool ModelStore::eraseNonzero(std::int32_t columnNumber, std::int32_t rowNumber) {
+    return nonzeros_.erase(columnNumber, rowNumber);
+}
+
+void ModelStore::loadNonzeros(NonzeroLoader& loader) {
+    loader.dropBeyond(columnCount(), rowCount());
+    nonzeros_.load(loader);
+}
+
+double ModelStore::clampToInfinity(double value) const {
+    if (value > infinity_) return infinity_;
+    if (value < -infinity_) return -infinity_;
+    return value;
+}
+
+bool ModelStore::hasIntegerColumn() const {
+    return std::ranges::any_of(columns_.records(),
+                               [](const ColumnRecord& column) { return column.type != TARQColType::Continuous; });
+}
+
+void ModelStore::autoRename() {
+    columns_.autoRename('C');
+    rows_.autoRename('R');
+}
+
+void ModelStore::clear() noexcept {
+    columns_.clear();
+    rows_.clear();
+    nonzeros_.clear();
+}
+
+}  // namespace tarq
