@@ -1,0 +1,25 @@
+// Catches the user's wish to stop (Ctrl-C, or a request to terminate) while a run is on.
+#pragma once
+
+#include <csignal>
+
+namespace tarq::command {
+
+/// While it lives, the first SIGINT or SIGTERM is only noted, and a second one ends the process at once with the exit
+/// code 128 plus the signal's number. A signal that was ignored before stays ignored. One object at a time.
+class InterruptWatch {
+public:
+    InterruptWatch();
+    InterruptWatch(const InterruptWatch&) = delete;
+    InterruptWatch& operator=(const InterruptWatch&) = delete;
+    ~InterruptWatch();
+
+    /// True once a signal came.
+    [[nodiscard]] bool interrupted() const;
+
+private:
+    struct sigaction oldInterrupt_ {};
+    struct sigaction oldTerminate_ {};
+};
+
+}  // namespace tarq::command

@@ -1,0 +1,45 @@
+#include "jsonreport.h"
+
+#include <nlohmann/json.hpp>
+
+#include "statusnames.h"
+
+namespace tarq::command {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+template <class Value>
+Json namedValue(Value value) {
+    return {{"value", static_cast<std::int32_t>(value)}, {"name", nameOf(value)}};
+}
+
+}  // namespace
+
+std::string jsonReport(const RunResult& result) {
+    const Json document{
+        {"file", result.file},
+        {"model",
+         {{"name", result.modelName},
+          {"columns", result.columns},
+          {"rows", result.rows},
+          {"nonzeros", result.nonzeros},
+          {"integer", result.integer}}},
+        {"status", result.status.value()},
+        {"solverStatus", namedValue(result.solverStatus)},
+        {"solutionStatus", namedValue(result.solutionStatus)},
+        {"objective", result.objective()},
+        {"lpObjective", result.lpObjective},
+        {"ipObjective", result.ipObjective},
+        {"bestPossible", result.bestPossible},
+        {"iterations", result.iterations},
+        {"nodes", result.nodes},
+        {"integerSolutions", result.integerSolutions},
+        {"seconds", {{"read", result.readSeconds}, {"solve", result.solveSeconds}}},
+        {"message", result.failure.empty() ? result.message : result.failure},
+    };
+    return document.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+}  // namespace tarq::command

@@ -1,0 +1,41 @@
+// tarq: solves model files and explains solver parameters from the command line.
+
+#include <exception>
+
+#include "commandline.h"
+#include "console.h"
+#include "parameterscommand.h"
+#include "solvecommand.h"
+#include "versioncommand.h"
+
+namespace {
+
+using namespace tarq::command;
+
+ExitCode run(int argc, const char* const* argv) {
+    const CommandLine line = parseCommandLine(argc, argv);
+    switch (line.action) {
+        case Action::Solve:
+            return solve(line.solve);
+        case Action::Parameters:
+            return explainParameters(line.parameters);
+        case Action::Version:
+            return showVersion(line.engine);
+        case Action::None:
+            break;
+    }
+    return line.exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return static_cast<int>(run(argc, argv));
+    } catch (const std::bad_alloc&) {
+        showMessage("out of memory");
+    } catch (const std::exception& failure) {
+        showMessage(failure.what());
+    }
+    return static_cast<int>(ExitCode::EngineFailed);
+}

@@ -1,0 +1,162 @@
+#include "modelinput.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "console.h"
+#include "lasterror.h"
+#include "standardinput.h"
+
+namespace tarq::command {
+
+namespace {
+
+struct FormatRow {
+    TARQFileFormatType format;
+    std::string_view name;
+    std::string_view extension;
+};
+
+constexpr FormatRow formats[] = {
+    {TARQFileFormatType::MPS, "mps", ".mps"},
+    {TARQFileFormatType::Triplet, "triplet", ".tri"},
+    {TARQFileFormatType::Lindo, "lindo", ".ltx"},
+};
+constexpr auto formatList = "mps (.mps), triplet (.tri) and lindo (.ltx)";
+
+std::string lowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return text;
+}
+
+Failure unknownFormat(std::string text) {
+    return {ExitCode::WrongUsage, fmt::format("{}\nThe formats are {}.", text, formatList)};
+}
+
+/// Why the system won't let us read a file, in its own words.
+std::string reasonNotReadable(const std::string& file) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file, ignored)) return "it is a directory";
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(std::fopen(file.c_str(), "rb"), std::fclose);
+    if (opened == nullptr) return std::strerror(errno);
+    return "it could not be read to its end, or has 2 gigabytes or more";
+}
+
+/// True for a text in which the keyword NAME is followed by a name too early for fixed columns.
+bool looksLikeFreeColumns(const std::string& file) {
+    constexpr std::size_t nameColumn = 14;
+    std::ifstream input(file, std::ios::binary);
+    std::string line;
+    for (int count = 0; count < 1000 && std::getline(input, line); ++count) {
+        if (line.compare(0, 4, "NAME") != 0) continue;
+        const std::size_t name = line.find_first_not_of(" \t\r", 4);
+        return name != std::string::npos && name < nameColumn;
+    }
+    return false;
+}
+
+struct Hint {
+    std::string_view complaint;
+    std::string_view text;
+};
+
+constexpr std::string_view fixedColumns =
+    "MPS is read in fixed columns: names in columns 5-12, 15-22 and 40-47, numbers in 25-36 and 50-61.";
+constexpr Hint mpsHints[] = {
+    {"ROWS indicator expected", "A section's keyword stands alone in its line and begins in column 1."},
+    {"COLUMNS indicator expected", "A section's keyword stands alone in its line and begins in column 1."},
+    {"not numeric", fixedColumns},
+    {"Empty", fixedColumns},
+    {"does not exist", "Names are compared with their case, in fixed columns of 8 characters."},
+    {"Bad row type", "A row's type is E, L, G or N, in column 2 or 3."},
+    {"Bad type in BOUNDS", "The types of bounds are LO, UP, FX, FR, MI, PL, BV, LI and UI, in columns 2-3."},
+    {"Unexpected end of file", "The file ends before its sections do: is it complete?"},
+};
+
+std::string mpsHint(const std::string& file, std::string_view complaint) {
+    if (complaint.find("NAME indicator") != std::string_view::npos && looksLikeFreeColumns(file)) {
+        return "This looks like free format; the reader takes fixed columns only, with the name from column 15 on.";
+    }
+    for (const Hint& hint : mpsHints) {
+        if (complaint.find(hint.complaint) != std::string_view::npos) return std::string(hint.text);
+    }
+    return {};
+}
+
+/// "FILE, line 3: ROWS indicator expected." from "Error parsing MPS file: ROWS indicator expected. Line 3".
+std::string parseFailureText(const std::string& shown, const std::string& file, TARQFileFormatType format,
+                             std::string complaint) {
+    // The component's prefix tells the format, which the user knows.
+    if (const std::size_t prefix = complaint.find(" file: "); prefix != std::string::npos)
+        complaint.erase(0, prefix + 7);
+    std::string place(shown);
+    if (const std::size_t line = complaint.rfind(" Line "); line != std::string::npos) {
+        place += ", line " + complaint.substr(line + 6);
+        complaint.erase(line);
+    }
+    std::string text = fmt::format("{}: {}", place, complaint);
+    const std::string hint = format == TARQFileFormatType::MPS ? mpsHint(file, complaint) : std::string();
+    if (!hint.empty()) text += "\n" + hint;
+    return text;
+}
+
+Failure explain(Status status, const std::string& shown, const std::string& file, TARQFileFormatType format) {
+    const std::string complaint = lastErrorText(status);
+    std::string text;
+    if (status == status::syntaxError) {
+        text = parseFailureText(shown, file, format, complaint);
+    } else if (status == status::fileAccess) {
+        text = fmt::format("{} can't be read: {}.", shown, reasonNotReadable(file));
+    } else if (status == status::textTooLong) {
+        text = fmt::format("{}: {} A file's name may have 255 bytes.", shown, complaint);
+    } else if (status == status::notImplemented) {
+        text = fmt::format("{}: reading the format {} is not implemented in this version.", shown,
+                           formats[static_cast<std::size_t>(format)].name);
+    } else {
+        text = fmt::format("{}: {}", shown, complaint);
+    }
+    return {ExitCode::InputRejected, text};
+}
+
+}  // namespace
+
+std::string_view shownName(const std::string& file) { return file == "-" ? "standard input" : std::string_view(file); }
+
+std::optional<Failure> chooseFormat(const std::string& file, const std::string& name, TARQFileFormatType& format) {
+    const bool named = !name.empty();
+    if (!named && file == "-") return unknownFormat("standard input needs --format.");
+    const std::string wanted = lowerCase(named ? name : std::filesystem::path(file).extension().string());
+    for (const FormatRow& row : formats) {
+        if (wanted != (named ? row.name : row.extension)) continue;
+        format = row.format;
+        return std::nullopt;
+    }
+    if (named) return unknownFormat(fmt::format("--format {}: there is no such format.", name));
+    return unknownFormat(fmt::format("{}: the extension tells no format; name it with --format.", file));
+}
+
+std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TARQFileFormatType format) {
+    std::optional<StandardInputFile> spooled;
+    std::string path = file;
+    if (file == "-") {
+        spooled.emplace();
+        if (!spooled->failure().empty()) {
+            return Failure{ExitCode::InputRejected,
+                           fmt::format("standard input can't be read: {}.", spooled->failure())};
+        }
+        path = spooled->path();
+    }
+    const Status status = model.ReadModel(path, format);
+    if (status.isOk()) return std::nullopt;
+    return explain(status, printable(shownName(file)), path, format);
+}
+
+}  // namespace tarq::command

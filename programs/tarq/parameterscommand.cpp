@@ -1,0 +1,121 @@
+#include "parameterscommand.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "console.h"
+#include "modelobject.h"
+#include "parameterlist.h"
+#include "table.h"
+#include "terminal.h"
+
+namespace tarq::command {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json jsonOf(const Variant& value) {
+    switch (value.kind()) {
+        case Kind::Long:
+            return value.integer();
+        case Kind::Double:
+            return value.real();
+        case Kind::Text:
+            return value.text();
+        default:
+            return nullptr;
+    }
+}
+
+Json jsonOf(const Parameter& parameter) {
+    Json row{{"id", parameter.id}, {"name", parameter.name}, {"type", parameter.typeName()}};
+    if (parameter.type == Parameter::Type::Text) {
+        row["maxLength"] = parameter.maxLength;
+    } else {
+        row["min"] = jsonOf(parameter.minimum);
+        row["max"] = jsonOf(parameter.maximum);
+    }
+    row["default"] = jsonOf(parameter.defaultValue);
+    row["value"] = jsonOf(parameter.value);
+    row["section"] = parameter.section().empty() ? Json() : Json(parameter.section());
+    row["description"] = parameter.description;
+    row["options"] = Json::array();
+    for (const Parameter::Option& option : parameter.options) {
+        row["options"].push_back({{"value", option.value}, {"text", option.text}});
+    }
+    return row;
+}
+
+std::string documentOf(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
+
+/// The list, a table for each section; descriptions are cut at the terminal's edge, and whole where there is none.
+std::string listText(const std::vector<Parameter>& parameters) {
+    constexpr std::size_t narrowDescription = 20;
+    constexpr std::int32_t sectionCount = 8;
+    const std::size_t width = isTerminal(stdout) ? terminalWidth(stdout) : 0;
+    constexpr std::size_t beforeDescription = 50;
+    const std::size_t room =
+        width > beforeDescription + narrowDescription ? width - beforeDescription : narrowDescription;
+
+    std::string text;
+    for (std::int32_t category = 1; category <= sectionCount; ++category) {
+        Table table(
+            {{"Name", Align::Left}, {"Default", Align::Left}, {"Limits", Align::Left}, {"Meaning", Align::Left}});
+        std::string_view title = "Not in a section";
+        bool any = false;
+        for (const Parameter& row : parameters) {
+            if (row.category != category % sectionCount) continue;
+            if (!row.section().empty()) title = row.section();
+            any = true;
+            table.add({row.name, fmt::format("{:<11}", valueText(row.defaultValue)),
+                       fmt::format("{:<24}", limitsText(row)),
+                       width == 0 ? row.description : shortened(row.description, room)});
+        }
+        if (any) text += fmt::format("{}\n{}\n", title, table.text(2));
+    }
+    return text + "'tarq parameters NAME' explains a parameter in full.\n";
+}
+
+std::string fullText(const Parameter& parameter) {
+    constexpr std::size_t widest = 100;
+    const std::size_t width = std::min(terminalWidth(stdout), widest);
+    std::string text = fmt::format("{} (parameter {})\n", parameter.name, parameter.id);
+    text += fmt::format("  Section  {}\n", parameter.section().empty() ? "none" : parameter.section());
+    text += fmt::format("  Type     {}\n", parameter.typeName());
+    text += fmt::format("  Limits   {}\n", limitsText(parameter));
+    text += fmt::format("  Default  {}\n", valueText(parameter.defaultValue));
+    if (!parameter.description.empty()) text += fmt::format("\n{}\n", wrapped(parameter.description, width, 2));
+    if (parameter.options.empty()) return text;
+    text += "\n  Values\n";
+    for (const Parameter::Option& option : parameter.options) {
+        const std::string meaning = wrapped(option.text.empty() ? "(off)" : option.text, width, 9);
+        text += fmt::format("  {:>5}  {}\n", option.value, meaning.substr(9));
+    }
+    return text;
+}
+
+}  // namespace
+
+ExitCode explainParameters(const ParametersOptions& options) {
+    const Ref<ITARQModel> model = makeModel();
+    if (!model) return ExitCode::EngineFailed;
+    const std::vector<Parameter> parameters = readParameters(*model);
+    if (options.name.empty()) {
+        if (!options.json) return writeResult(listText(parameters), ExitCode::Success);
+        Json list = Json::array();
+        for (const Parameter& parameter : parameters) list.push_back(jsonOf(parameter));
+        return writeResult(documentOf(list), ExitCode::Success);
+    }
+    const Parameter* parameter = findParameter(parameters, options.name);
+    if (parameter == nullptr) {
+        showMessage(fmt::format("there is no parameter '{}'. {}", printable(options.name),
+                                suggestion(parameters, options.name)));
+        return ExitCode::WrongUsage;
+    }
+    return writeResult(options.json ? documentOf(jsonOf(*parameter)) : fullText(*parameter), ExitCode::Success);
+}
+
+}  // namespace tarq::command

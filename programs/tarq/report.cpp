@@ -1,0 +1,91 @@
+#include "report.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+
+#include "console.h"
+#include "solutiontable.h"
+#include "statusnames.h"
+#include "table.h"
+
+namespace tarq::command {
+
+namespace {
+
+std::string fact(std::string_view label, std::string_view value) { return fmt::format("{:<18} {}\n", label, value); }
+
+/// The run's value of the objective, where it has one to show.
+std::string objectiveFact(const RunResult& result) {
+    const SolutionKind solution = result.solution();
+    const bool answers = solution == SolutionKind::Integer || (solution == SolutionKind::Lp && result.lpIsAnswer());
+    return fact("Objective", answers ? numberText(result.objective()) : "none");
+}
+
+std::string integerFacts(const RunResult& result) {
+    std::string text;
+    if (result.solution() == SolutionKind::Integer) {
+        const double gap = relativeGap(result.ipObjective, result.bestPossible);
+        text += fact("Best bound", fmt::format("{}{}", numberText(result.bestPossible),
+                                               std::isfinite(gap) ? fmt::format(" (gap {:.4g} %)", 100.0 * gap) : ""));
+    }
+    if (result.solution() != SolutionKind::None) text += fact("LP relaxation", numberText(result.lpObjective));
+    text += fact("Iterations", fmt::format("{} (in the LP)", result.iterations));
+    text += fact("Nodes", fmt::format("{}", result.nodes));
+    return text + fact("Integer solutions", fmt::format("{}", result.integerSolutions));
+}
+
+std::string columnTable(ITARQModel& model, const RunResult& result) {
+    Table table({{"Column", Align::Left}, {"Value", Align::Point}, {"Reduced cost", Align::Point}});
+    const SolutionTable columns(model, SolutionTable::Side::Columns, result.solution());
+    std::int32_t shown = 0;
+    for (std::int32_t number = 1; number <= columns.size(); ++number) {
+        const SolutionLine line = columns.line(number);
+        if (line.value == 0.0) continue;
+        ++shown;
+        table.add({line.name.empty() ? fmt::format("(number {})", number) : printable(line.name),
+                   numberText(line.value), numberText(line.dual)});
+    }
+    const std::string summary = fmt::format("{} of {} are not zero.\n", shown, counted(columns.size(), "column"));
+    return fmt::format("\n{}{}", shown == 0 ? "" : table.text() + '\n', summary);
+}
+
+}  // namespace
+
+std::string shortReport(const RunResult& result) { return fact("Status", result.ending()) + objectiveFact(result); }
+
+std::string fullReport(ITARQModel& model, const RunResult& result) {
+    std::string text =
+        fact("Model", fmt::format("{}{}{}, {}, {}", printable(result.modelName), result.modelName.empty() ? "" : ": ",
+                                  counted(result.columns, "column"), counted(result.rows, "row"),
+                                  counted(result.nonzeros, "nonzero")));
+    text += shortReport(result);
+    text += result.integer ? integerFacts(result) : fact("Iterations", fmt::format("{}", result.iterations));
+    text += fact("Time", fmt::format("{:.2f} s (and {:.2f} s to read)", result.solveSeconds, result.readSeconds));
+    const bool answered = result.solution() == SolutionKind::Integer || result.lpIsAnswer();
+    if (answered && result.solution() != SolutionKind::None) text += columnTable(model, result);
+    return text;
+}
+
+std::string failureText(ITARQModel& model, const RunResult& result) {
+    if (result.status == status::libraryNotFound) {
+        std::string engine;
+        if (!model.get_LocationOfTARQDLL(&engine).isOk()) engine.clear();
+        return fmt::format(
+            "the engine library {} could not be loaded.\n"
+            "A name without a folder is looked for beside the component (libtarqcom.so), then on the system's search\n"
+            "path; tarq.dll means libtarq.so there. If the file exists, 'ldd FILE' shows whether a library that it "
+            "needs\n"
+            "is missing. '--engine FILE' uses another one.",
+            engine);
+    }
+    std::string text =
+        fmt::format("the engine failed: {}", result.failure.empty() ? "it told no result." : result.failure);
+    if (result.solverStatus != TARQSolverStatusTyp::UndefinedSolverStatus) {
+        text += fmt::format("\nSolver status: {}", nameOf(result.solverStatus));
+    }
+    if (!result.message.empty()) text += fmt::format("\nThe engine says: {}", printable(result.message));
+    return text;
+}
+
+}  // namespace tarq::command

@@ -1,0 +1,64 @@
+// RunResult: all that the command reports of a model and its run.
+#pragma once
+
+#include <tarq/tarq.h>
+
+#include <string>
+
+#include "exitcodes.h"
+
+namespace tarq::command {
+
+/// Which of its solutions a run leaves for the user.
+enum class SolutionKind { None, Lp, Integer };
+
+struct RunResult {
+    std::string file;
+
+    std::string modelName;
+    std::int32_t columns = 0;
+    std::int32_t rows = 0;
+    std::int32_t nonzeros = 0;
+    bool integer = false;
+
+    Status status;        ///< what Optimize returned
+    std::string failure;  ///< description of a failed status
+    bool onlyRelaxation = false;
+    bool interrupted = false;
+
+    TARQSolverStatusTyp solverStatus = TARQSolverStatusTyp::UndefinedSolverStatus;
+    TARQSolutionStatusTyp solutionStatus = TARQSolutionStatusTyp::UndefinedSolutionStatus;
+    double lpObjective = 0.0;
+    double ipObjective = 0.0;
+    double bestPossible = 0.0;
+    std::int32_t iterations = 0;
+    std::int32_t nodes = 0;
+    std::int32_t integerSolutions = 0;
+    double readSeconds = 0.0;
+    double solveSeconds = 0.0;
+    std::string message;
+
+    /// The integer solution if there is one; else the LP's, which for an integer model is that of the relaxation.
+    [[nodiscard]] SolutionKind solution() const;
+    /// True if the LP's solution answers what was asked, and is not only a bound for an integer model.
+    [[nodiscard]] bool lpIsAnswer() const { return !integer || onlyRelaxation; }
+    /// The integer solution's value if there is one, else the LP's.
+    [[nodiscard]] double objective() const;
+    [[nodiscard]] ExitCode exitCode() const;
+    /// How the run ended, in words: "optimal", "infeasible", "stopped at the node limit (xmxnod)".
+    [[nodiscard]] std::string ending() const;
+
+private:
+    [[nodiscard]] std::string earlyEnding() const;
+};
+
+/// Fills in what the model is.
+void readModelFacts(ITARQModel& model, RunResult& result);
+
+/// Fills in what the latest run left.
+void readRunFacts(ITARQModel& model, RunResult& result);
+
+/// |best - bound| as a part of |best|; infinite when best is 0 and the bound isn't.
+[[nodiscard]] double relativeGap(double best, double bound);
+
+}  // namespace tarq::command

@@ -1,0 +1,83 @@
+// Watching a run and stopping it.
+#include <csignal>
+#include <thread>
+
+#include "process.h"
+
+namespace tarq::command {
+namespace {
+
+using namespace std::chrono_literals;
+using Json = nlohmann::ordered_json;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr auto underWay = 700ms;  ///< after which a run has surely begun
+
+class CommandInterruptTest : public CommandTest {
+protected:
+    Process played(const std::string& run, bool terminal = false) {
+        return Process({"solve", file("model.mps", smallModel), "--engine", PLAYED_ENGINE}, folder_,
+                       {.input = {}, .environment = {"PLAYED_RUN=" + run}, .terminal = terminal});
+    }
+};
+
+TEST_F(CommandInterruptTest, InterruptedSearchReportsItsBestSolution) {
+    Process process({"solve", file("hard.mps", hardModel()), "--json", "--solution", path("best.csv")}, folder_, {});
+    std::this_thread::sleep_for(2s);
+    process.send(SIGINT);
+    const auto stopped = std::chrono::steady_clock::now();
+    const Output output = process.wait();
+    EXPECT_LT(std::chrono::steady_clock::now() - stopped, 20s);
+    ASSERT_EQ(output.exitCode, 4) << output.err;
+    const Json document = Json::parse(output.out);
+    EXPECT_EQ(document["solutionStatus"]["name"], "IPSubOptimalSolution");
+    EXPECT_EQ(document["solverStatus"]["name"], "IPxfrndsReached");
+    EXPECT_GE(document["integerSolutions"].get<int>(), 1);
+    EXPECT_THAT(contentOf(path("best.csv")), HasSubstr("column,1,X1,"));
+}
+
+TEST_F(CommandInterruptTest, StopBeforeAnySolutionSaysSo) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        Process process = played("long");
+        std::this_thread::sleep_for(underWay);
+        process.send(signal);
+        const Output output = process.wait();
+        EXPECT_EQ(output.exitCode, 4) << output.err;
+        EXPECT_THAT(output.out, AllOf(HasSubstr("stopped by the user, no optimal solution yet"),
+                                      testing::ContainsRegex("Objective +none"), Not(HasSubstr("Reduced cost"))));
+    }
+}
+
+TEST_F(CommandInterruptTest, SecondInterruptQuitsAtOnce) {
+    Process process = played("deaf");
+    std::this_thread::sleep_for(underWay);
+    process.send(SIGINT);
+    std::this_thread::sleep_for(200ms);
+    process.send(SIGINT);
+    const Output output = process.wait();
+    EXPECT_EQ(output.exitCode, 130);
+    EXPECT_EQ(output.out, "");
+}
+
+TEST_F(CommandInterruptTest, TerminalShowsProgressInOneLineThatIsWiped) {
+    Process process = played("long", true);
+    std::this_thread::sleep_for(underWay);
+    process.send(SIGINT);
+    const Output output = process.wait();
+    EXPECT_EQ(output.exitCode, 4);
+    EXPECT_THAT(output.err,
+                AllOf(testing::ContainsRegex("\r\033\\[Kiterations [0-9]+  objective 1.5  time 0\\.[0-9] s"),
+                      Not(HasSubstr("\n")), testing::EndsWith("\r\033[K")));
+}
+
+TEST_F(CommandInterruptTest, NothingIsShownWhereNobodyWatches) {
+    Process process = played("long");
+    std::this_thread::sleep_for(underWay);
+    process.send(SIGINT);
+    EXPECT_EQ(process.wait().err, "");
+}
+
+}  // namespace
+}  // namespace tarq::command
