@@ -1,4 +1,7 @@
 // Reading a model file: from a file name and a format to a filled model.
+//
+// A reader empties the model before it adds the first record, and nothing is rolled back: after a parse failure the
+// model holds what was read so far. Plain functions; one thread at a time for a target.
 #pragma once
 
 #include <string>
@@ -26,6 +29,13 @@ protected:
 
 /// Reads `fileName` into `target`. Failures before the reader starts leave the target as it was; a parse failure leaves
 /// what was read so far.
+/// 0x80041018 for a name of more than 255 characters, 0x80041028 for a file that can't be read or has 2^31 bytes or
+/// more, 0x80041031 for a format that is none, 0x8004102A for a text that breaks the rules of its format: the
+/// description tells what was expected and on which line. A file that is no regular one, such as a pipe, is read to its
+/// end.
 [[nodiscard]] Outcome readModelFile(const std::string& fileName, TARQFileFormatType format, ModelFileTarget& target);
+
+/// Reads a text that comes from elsewhere, with the failures of readModelFile but those of the file name.
+[[nodiscard]] Outcome readModelText(std::string text, TARQFileFormatType format, ModelFileTarget& target);
 
 }  // namespace tarq

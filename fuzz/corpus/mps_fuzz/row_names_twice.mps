@@ -1,0 +1,14 @@
+NAME          T
+ROWS
+ N  COST
+ E  R1
+ L  R2
+ G  R3
+ E  R1
+ N  COST
+ LE r1
+ GE R7
+ EQ R8
+  N R9
+COLUMNS
+ENDATA

@@ -1,0 +1,47 @@
+#include "modelfiles/modelfile.h"
+
+#include <fmt/format.h>
+
+#include <optional>
+#include <utility>
+
+#include "frame/text.h"
+#include "modelfiles/mpsreader.h"
+#include "modelfiles/wholefile.h"
+
+namespace tarq {
+namespace {
+
+constexpr std::size_t longestFileName = 255;
+
+Outcome fileFailure() { return {status::fileAccess, "Error while opening, reading or writing to a file."}; }
+
+Outcome parseOutcome(std::string_view format, const std::optional<ParseFailure>& failure) {
+    if (!failure) return {};
+    return {status::syntaxError,
+            fmt::format("Error parsing {} file: {} Line {}", format, failure->message, failure->lineNumber)};
+}
+
+}  // namespace
+
+Outcome readModelFile(const std::string& fileName, TARQFileFormatType format, ModelFileTarget& target) {
+    if (utf16Length(fileName) > longestFileName) return {status::textTooLong, "Passed string is to long."};
+    std::optional<std::string> text = readWholeFile(fileName);
+    if (!text) return fileFailure();
+    return readModelText(*std::move(text), format, target);
+}
+
+Outcome readModelText(std::string text, TARQFileFormatType format, ModelFileTarget& target) {
+    if (text.size() > largestWholeFile) return fileFailure();
+    switch (format) {
+        case TARQFileFormatType::MPS:
+            return parseOutcome("MPS", readMps(std::move(text), target));
+        case TARQFileFormatType::Triplet:
+            return {status::notImplemented, "Triplet files cannot be read yet."};
+        case TARQFileFormatType::Lindo:
+            return {status::notImplemented, "Lindo files cannot be read yet."};
+    }
+    return {status::invalidArgument, "Wrong parameter for file format."};
+}
+
+}  // namespace tarq

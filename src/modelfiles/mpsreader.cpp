@@ -1,0 +1,364 @@
+#include "modelfiles/mpsreader.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+#include "modelfiles/fixedfields.h"
+#include "modelfiles/fixedname.h"
+#include "modelfiles/modeltextscanner.h"
+#include "modelfiles/mpstarget.h"
+
+namespace tarq {
+namespace {
+
+/// The message of a failure; empty for none.
+using Failure = std::string_view;
+
+constexpr Failure none;
+constexpr Failure unexpectedEnd = "Unexpected end of file.";
+constexpr Failure emptyRowName = "Empty row name encountered.";
+constexpr Failure unknownRow = "Row name does not exist.";
+
+struct RowTypeCode {
+    std::string_view characters;  ///< columns 2 and 3 in upper case
+    MpsRowType type;
+};
+
+constexpr std::array<RowTypeCode, 11> rowTypeCodes{{{"E ", MpsRowType::Equal},
+                                                    {"EQ", MpsRowType::Equal},
+                                                    {" E", MpsRowType::Equal},
+                                                    {"L ", MpsRowType::AtMost},
+                                                    {"LE", MpsRowType::AtMost},
+                                                    {" L", MpsRowType::AtMost},
+                                                    {"G ", MpsRowType::AtLeast},
+                                                    {"GE", MpsRowType::AtLeast},
+                                                    {" G", MpsRowType::AtLeast},
+                                                    {"N ", MpsRowType::Free},
+                                                    {" N", MpsRowType::Free}}};
+
+/// The fields of the two name and number pairs of a line.
+struct PairFields {
+    std::size_t name;
+    std::size_t number;
+};
+
+constexpr PairFields firstPair{3, 4};
+constexpr PairFields secondPair{5, 6};
+
+/// What the sections of row values say about their numbers.
+struct NumberMessages {
+    Failure empty;
+    Failure notNumeric;
+};
+
+constexpr NumberMessages coefficientMessages{"Empty cost or nonzero value encountered.",
+                                             "Cost or nonzero value is not numeric."};
+constexpr NumberMessages rightHandSideMessages{"Empty RHS value encountered.", "RHS value is not numeric."};
+constexpr NumberMessages rangeMessages{"Empty RANGE value encountered.", "RANGE value is not numeric."};
+
+/// A row name and its number. An empty name with an empty number, where a line has no second pair, is `absent`.
+struct Pair {
+    FixedName rowName;
+    double value = 0.0;
+    bool absent = false;
+};
+
+/// A nonzero whose row is yet to be looked up.
+struct PendingNonzero {
+    FixedName rowName;
+    double value;
+    std::size_t lineStart;
+};
+
+/// So many columns tell how many there will be.
+constexpr std::int32_t sampleLength = 1000;
+
+class MpsReader {
+public:
+    MpsReader(std::string text, ModelFileTarget& model)
+        : scanner_(std::move(text)), model_(model), target_(model.store()) {}
+
+    Failure read();
+    std::size_t lineNumber() const { return scanner_.currentLineNumber(); }
+    void dropText() { scanner_.dropText(); }
+    void storeNonzeros() { target_.storeNonzeros(); }
+
+private:
+    using ApplyToRow = void (MpsTarget::*)(std::int32_t rowPosition, double value);
+    struct OptionalSection {
+        std::string_view keyword;
+        Failure expected;
+        Failure (MpsReader::*read)();
+    };
+    static const std::array<OptionalSection, 3> optionalSections;
+
+    /// Every section method begins on its keyword's line and ends on the line that isn't its own, or on the failure.
+    Failure readName();
+    Failure readRows();
+    Failure readColumns();
+    Failure readOptionalSections();
+    Failure readRightHandSides() {
+        return readRowValues("xrhs", rightHandSideMessages, &MpsTarget::applyRightHandSide);
+    }
+    Failure readRanges() { return readRowValues("XRANGE", rangeMessages, &MpsTarget::applyRange); }
+    Failure readBounds();
+
+    Failure readRow();
+    Failure readColumnLine();
+    Failure readMarker();
+    Failure enterColumn(FixedName name);
+    Failure storePending();
+    Failure readColumnPair(FixedName columnName, PairFields fields, Pair& pair);
+    Failure readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply);
+    Failure readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair);
+    Failure readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const;
+    Failure readBound();
+
+    bool nextLineOfSection() { return scanner_.nextFixedLine() && scanner_.startsWithBlank(); }
+    FixedName fixedName(std::size_t field) const { return FixedName(scanner_.rawField(fixedFieldPlaces[field])); }
+    bool sectionIs(std::string_view keyword) const { return equalsInUpperCase(scanner_.fixedField(0), keyword); }
+    bool isMarkerLine() const { return equalsInUpperCase(scanner_.rawField(fixedFieldPlaces[3]), "'MARKER'"); }
+
+    ModelTextScanner scanner_;
+    ModelFileTarget& model_;
+    MpsTarget target_;
+    FixedName objectiveRowName_;
+    bool integerBlock_ = false;
+    FixedName columnName_;  ///< of the line before; columns mostly stand together
+    std::int32_t columnPosition_ = MpsTarget::absent;
+    std::size_t columnsStart_ = 0;
+    /// The nonzeros of the current column whose rows are on their way from memory; stored before anything else changes.
+    std::array<PendingNonzero, 32> pending_{};
+    std::size_t pendingCount_ = 0;
+    double boundValue_ = 0.0;  ///< what a bound without a number takes: the last one read
+};
+
+constexpr std::array<MpsReader::OptionalSection, 3> MpsReader::optionalSections{
+    {{"RHS", "RHS, RANGES, BOUNDS or ENDDATA indicator expected.", &MpsReader::readRightHandSides},
+     {"RANGES", "RANGES, BOUNDS or ENDDATA indicator expected.", &MpsReader::readRanges},
+     {"BOUNDS", "BOUNDS or ENDDATA indicator expected.", &MpsReader::readBounds}}};
+
+Failure MpsReader::read() {
+    if (scanner_.hasLaterLineWith("QSECTION")) {
+        return "QSECTION found. Quadratic models are not supported by TARQ.";
+    }
+    for (const auto section :
+         {&MpsReader::readName, &MpsReader::readRows, &MpsReader::readColumns, &MpsReader::readOptionalSections}) {
+        if (const Failure failure = (this->*section)(); !failure.empty()) return failure;
+    }
+    return sectionIs("ENDATA") ? none : "ENDDATA indicator expected.";
+}
+
+Failure MpsReader::readName() {
+    if (!scanner_.nextFixedLine()) return unexpectedEnd;
+    if (!sectionIs("NAME")) return "NAME indicator expected.";
+    const std::string_view name = trimBlanks(scanner_.rawField(modelNamePlace));
+    model_.setModelName(std::string(name));
+    model_.setParameter("xdata", name);
+    return scanner_.nextFixedLine() ? none : unexpectedEnd;
+}
+
+Failure MpsReader::readRows() {
+    if (!sectionIs("ROWS")) return "ROWS indicator expected.";
+    target_.reserveRows(scanner_.countIndentedLines());
+    while (nextLineOfSection()) {
+        if (const Failure failure = readRow(); !failure.empty()) return failure;
+    }
+    return none;
+}
+
+Failure MpsReader::readRow() {
+    const FixedName name = fixedName(2);
+    if (name.empty()) return "Empty row name in ROW section.";
+    const std::array<char, 2> characters = scanner_.rowTypeCharacters();
+    const auto code = std::find_if(rowTypeCodes.begin(), rowTypeCodes.end(), [&](const RowTypeCode& candidate) {
+        return candidate.characters == std::string_view(characters.data(), characters.size());
+    });
+    if (code == rowTypeCodes.end()) return "Bad row type in ROW section.";
+    if (code->type == MpsRowType::Free && (objectiveRowName_.empty() || objectiveRowName_ == name)) {
+        objectiveRowName_ = name;
+        model_.setParameter("xobj", name.text());
+        return none;
+    }
+    target_.addRow(name, code->type);
+    return none;
+}
+
+Failure MpsReader::readColumns() {
+    if (!sectionIs("COLUMNS")) return "COLUMNS indicator expected.";
+    columnsStart_ = scanner_.lineStart();
+    while (nextLineOfSection()) {
+        if (const Failure failure = readColumnLine(); !failure.empty()) {
+            // A row that an earlier line names in vain comes first.
+            const Failure earlier = storePending();
+            return earlier.empty() ? failure : earlier;
+        }
+    }
+    return storePending();
+}
+
+Failure MpsReader::readColumnLine() {
+    if (isMarkerLine()) return readMarker();
+    const FixedName columnName = fixedName(2);
+    Pair pair;
+    for (const PairFields fields : {firstPair, secondPair}) {
+        if (const Failure failure = readColumnPair(columnName, fields, pair); !failure.empty()) return failure;
+        if (pair.absent) break;
+    }
+    return none;
+}
+
+Failure MpsReader::readMarker() {
+    const std::string_view keyword = scanner_.fixedField(5);
+    if (equalsInUpperCase(keyword, "'INTORG'")) {
+        integerBlock_ = true;
+    } else if (equalsInUpperCase(keyword, "'INTEND'")) {
+        integerBlock_ = false;
+    } else if (equalsInUpperCase(keyword, "'SOSORG'") || equalsInUpperCase(keyword, "'SOSEND'")) {
+        return "Special ordered sets are not supported.";
+    } else if (!keyword.empty()) {
+        return "Unknown Marker found.";
+    }
+    return none;
+}
+
+Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair& pair) {
+    if (columnName.empty()) return "Empty col name encountered.";
+    if (const Failure failure = readPair(fields, coefficientMessages, pair); !failure.empty()) return failure;
+    if (pair.absent) return none;
+    // The column comes first: a line whose row is unknown leaves a new column behind.
+    if (columnPosition_ == MpsTarget::absent || columnName != columnName_) {
+        if (const Failure failure = enterColumn(columnName); !failure.empty()) return failure;
+    }
+    if (pair.rowName == objectiveRowName_) {
+        if (const Failure failure = storePending(); !failure.empty()) return failure;
+        target_.store().column(columnPosition_).cost = pair.value;
+        return none;
+    }
+    if (pendingCount_ == pending_.size()) {
+        if (const Failure failure = storePending(); !failure.empty()) return failure;
+    }
+    target_.prefetchRow(pair.rowName);
+    pending_[pendingCount_++] = {pair.rowName, pair.value, scanner_.lineStart()};
+    return none;
+}
+
+Failure MpsReader::enterColumn(FixedName name) {
+    if (const Failure failure = storePending(); !failure.empty()) return failure;
+    columnName_ = name;
+    columnPosition_ = target_.findOrAddColumn(name, integerBlock_);
+    if (columnPosition_ == sampleLength) {
+        const std::size_t read = scanner_.lineStart() - columnsStart_;
+        const std::size_t rest = scanner_.textLength() - columnsStart_;
+        target_.reserveColumns(
+            static_cast<std::size_t>(sampleLength * (static_cast<double>(rest) / static_cast<double>(read))));
+    }
+    return none;
+}
+
+Failure MpsReader::storePending() {
+    const std::size_t count = std::exchange(pendingCount_, 0);
+    for (std::size_t index = 0; index < count; ++index) {
+        const PendingNonzero& nonzero = pending_[index];
+        const std::int32_t row = target_.findRow(nonzero.rowName);
+        if (row == MpsTarget::absent) {
+            scanner_.returnTo(nonzero.lineStart);
+            return unknownRow;
+        }
+        target_.setNonzero(columnPosition_, row, nonzero.value);
+    }
+    return none;
+}
+
+Failure MpsReader::readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const {
+    pair.rowName = fixedName(fields.name);
+    const FieldNumber number = scanner_.fixedNumber(fields.number, pair.value);
+    if (pair.rowName.empty()) {
+        pair.absent = fields.name == secondPair.name && number == FieldNumber::Empty;
+        return pair.absent ? none : emptyRowName;
+    }
+    if (number == FieldNumber::Empty) return messages.empty;
+    return number == FieldNumber::Read ? none : messages.notNumeric;
+}
+
+Failure MpsReader::readOptionalSections() {
+    for (std::size_t index = 0; index < optionalSections.size(); ++index) {
+        const OptionalSection& section = optionalSections[index];
+        const bool expected =
+            std::any_of(optionalSections.begin() + static_cast<std::ptrdiff_t>(index), optionalSections.end(),
+                        [this](const OptionalSection& later) { return sectionIs(later.keyword); });
+        if (!expected && !sectionIs("ENDATA")) return section.expected;
+        if (!sectionIs(section.keyword)) continue;
+        if (const Failure failure = (this->*section.read)(); !failure.empty()) return failure;
+    }
+    return none;
+}
+
+Failure MpsReader::readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply) {
+    bool vectorSeen = false;
+    while (nextLineOfSection()) {
+        if (!std::exchange(vectorSeen, true)) model_.setParameter(vectorParameter, scanner_.fixedField(2));
+        Pair pair;
+        for (const PairFields fields : {firstPair, secondPair}) {
+            if (const Failure failure = readRowValuePair(fields, messages, apply, pair); !failure.empty()) {
+                return failure;
+            }
+            if (pair.absent) break;
+        }
+    }
+    return none;
+}
+
+Failure MpsReader::readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair) {
+    if (const Failure failure = readPair(fields, messages, pair); !failure.empty()) return failure;
+    if (pair.absent) return none;
+    const std::int32_t row = target_.findRow(pair.rowName);
+    if (row == MpsTarget::absent) return unknownRow;
+    (target_.*apply)(row, pair.value);
+    return none;
+}
+
+Failure MpsReader::readBounds() {
+    bool vectorSeen = false;
+    while (nextLineOfSection()) {
+        if (!std::exchange(vectorSeen, true)) model_.setParameter("XBOUND", scanner_.fixedField(2));
+        if (const Failure failure = readBound(); !failure.empty()) return failure;
+    }
+    return none;
+}
+
+Failure MpsReader::readBound() {
+    const FixedName name = fixedName(3);
+    if (name.empty()) return "Empty col name in BOUNDS section.";
+    const std::int32_t position = target_.findColumn(name);
+    if (position == MpsTarget::absent) return "Col name does not exist.";
+    const std::array<char, 2> characters = scanner_.rowTypeCharacters();
+    const MpsBoundType* const type = findMpsBoundType({characters.data(), characters.size()});
+    if (type == nullptr) return "Bad type in BOUNDS section.";
+    if (type->takesValue && scanner_.fixedNumber(4, boundValue_) == FieldNumber::NotNumeric) {
+        return "BOUND value is not numeric.";
+    }
+    target_.applyBound(position, *type, boundValue_);
+    return none;
+}
+
+}  // namespace
+
+std::optional<ParseFailure> readMps(std::string text, ModelFileTarget& model) {
+    model.clearModel();
+    MpsReader reader(std::move(text), model);
+    const Failure failure = reader.read();
+    std::optional<ParseFailure> told;
+    if (!failure.empty()) told = ParseFailure{std::string(failure), reader.lineNumber()};
+    // The nonzeros take their room in the store when the text has given its room back.
+    reader.dropText();
+    reader.storeNonzeros();
+    return told;
+}
+
+}  // namespace tarq

@@ -1,0 +1,54 @@
+#include "modelfiles/wholefile.h"
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+#include "platform/largepages.h"
+
+namespace tarq {
+namespace {
+
+// Small enough to stay in the cache on its way into the text.
+constexpr std::streamsize pieceLength = 256 * 1024;
+
+std::filesystem::path pathOf(const std::string& fileName) {
+    return std::filesystem::path(std::u8string(fileName.begin(), fileName.end()));
+}
+
+/// Length of the file, 0 where it has none, as a pipe. Leaves the stream at its start.
+std::size_t lengthOf(std::ifstream& file) {
+    const std::streamoff length = file.seekg(0, std::ios::end).tellg();
+    file.clear();
+    file.seekg(0);
+    file.clear();
+    return length > 0 ? static_cast<std::size_t>(length) : 0;
+}
+
+}  // namespace
+
+std::optional<std::string> readWholeFile(const std::string& fileName) {
+    // The system would take the name as ended at a zero byte, and open another file.
+    if (fileName.find('\0') != std::string::npos) return std::nullopt;
+    const std::filesystem::path path = pathOf(fileName);
+    std::error_code unknown;
+    if (std::filesystem::is_directory(path, unknown)) return std::nullopt;
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return std::nullopt;
+    const std::size_t length = lengthOf(file);
+    if (length > largestWholeFile) return std::nullopt;
+
+    std::string text;
+    text.reserve(length + 1);
+    preferLargePages(text.data(), text.capacity());
+    std::vector<char> piece(pieceLength);
+    while (file.read(piece.data(), pieceLength) || file.gcount() > 0) {
+        text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+        if (text.size() > largestWholeFile) return std::nullopt;
+    }
+    if (file.bad()) return std::nullopt;
+    return text;
+}
+
+}  // namespace tarq
