@@ -5,7 +5,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -25,9 +24,9 @@ public:
     /// and 0.0 erases it.
     void append(std::int32_t columnNumber, std::int32_t rowNumber, double value) {
         if (columnNumber < 1 || rowNumber < 1) return;
-        if (usedInLast_ == chunkLength) addChunk();
+        if (usedInLast_ == lengthOfLast_) addChunk();
         if (static_cast<std::size_t>(rowNumber) > rowCounts_.size()) growRows(static_cast<std::size_t>(rowNumber));
-        (*chunks_.back())[usedInLast_++] = {columnNumber, rowNumber, value};
+        chunks_.back().triples[usedInLast_++] = {columnNumber, rowNumber, value};
         ++rowCounts_[static_cast<std::size_t>(rowNumber) - 1];
         largestColumn_ = std::max(largestColumn_, columnNumber);
     }
@@ -37,25 +36,30 @@ public:
 
 private:
     friend class NonzeroTable;
-    static constexpr std::size_t chunkLength = 32'768;
-    using Chunk = std::array<Triple, chunkLength>;
+    /// Small models stay small; large ones get chunks that large pages pay for.
+    static constexpr std::size_t firstChunkLength = 4'096;
+    static constexpr std::size_t largestChunkLength = 1'048'576;
+    struct Chunk {
+        std::unique_ptr<Triple[]> triples;
+        std::size_t length = 0;
+    };
 
     void addChunk();
     void growRows(std::size_t rowCount);
-    void clear() noexcept;
     /// Calls visit(triple) in the order of appending.
     template <class Visit>
     void forEach(Visit visit) const {
-        for (const auto& chunk : chunks_) forEachInChunk(*chunk, visit);
+        for (const Chunk& chunk : chunks_) forEachInChunk(chunk, visit);
     }
     template <class Visit>
     void forEachInChunk(const Chunk& chunk, Visit visit) const {
-        const std::size_t length = &chunk == chunks_.back().get() ? usedInLast_ : chunkLength;
-        for (std::size_t i = 0; i < length; ++i) visit(chunk[i]);
+        const std::size_t length = &chunk == &chunks_.back() ? usedInLast_ : chunk.length;
+        for (std::size_t i = 0; i < length; ++i) visit(chunk.triples[i]);
     }
 
-    std::vector<std::unique_ptr<Chunk>> chunks_;
-    std::size_t usedInLast_ = chunkLength;
+    std::vector<Chunk> chunks_;
+    std::size_t usedInLast_ = 0;
+    std::size_t lengthOfLast_ = 0;
     std::int32_t largestColumn_ = 0;
     std::vector<std::uint32_t> rowCounts_;  ///< appended so far, by the row's position
 };

@@ -70,12 +70,11 @@ void NonzeroTable::load(NonzeroLoader& loader) {
 
     std::vector<std::uint32_t>& sortedCounts = taken.rowCounts_;
     for (std::size_t i = 0; i < sortedCounts.size(); ++i) sortedCounts[i] = rows_[i].count();
-    for (std::unique_ptr<NonzeroLoader::Chunk>& chunk : taken.chunks_) {
-        taken.forEachInChunk(*chunk, [this](const NonzeroLoader::Triple& triple) {
+    for (NonzeroLoader::Chunk& chunk : taken.chunks_) {
+        taken.forEachInChunk(chunk, [this](const NonzeroLoader::Triple& triple) {
             rows_[position(triple.rowNumber)].appendUnsorted(triple.columnNumber, triple.value);
         });
-        // The last chunk is the one that is known by its address.
-        if (chunk != taken.chunks_.back()) chunk.reset();
+        chunk.triples.reset();
     }
 
     std::size_t i = 0;

@@ -15,6 +15,7 @@
 
 #include "frame/status.h"
 #include "model/nameindex.h"
+#include "platform/largepages.h"
 
 namespace tarq {
 
@@ -45,6 +46,7 @@ public:
     }
     void reserve(std::int32_t count) {
         records_.reserve(toIndex(count));
+        preferLargePages(records_.data(), records_.capacity() * sizeof(Record));
         names_.reserve(toIndex(count));
     }
 

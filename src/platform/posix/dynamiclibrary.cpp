@@ -47,16 +47,22 @@ fs::path nativeName(const fs::path& path) {
 
 void* open(const fs::path& path) { return path.empty() ? nullptr : dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL); }
 
+/// Opens a file that is known to be there. The loader would wait for ever at a pipe that nobody writes to.
+void* openExisting(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(path, error) ? open(path) : nullptr;
+}
+
 /// Opens a path with a directory; a file that is there but no library ends the attempt.
 void* openFile(const fs::path& path, bool& isThere) {
     std::error_code error;
     const fs::path native = nativeName(path);
     if (fs::exists(path, error)) {
         isThere = true;
-        return open(path);
+        return openExisting(path);
     }
     isThere = !native.empty() && fs::exists(native, error);
-    return isThere ? open(native) : nullptr;
+    return isThere ? openExisting(native) : nullptr;
 }
 
 }  // namespace
