@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
+#include <memory>
 
 #include "component/ctarqmodel.h"
+#include "frame/text.h"
 #include "interfaces/classids.h"
 
 namespace tarq {
@@ -21,12 +22,6 @@ constexpr std::array classes{
 
 constexpr std::string_view progIdPrefix = "tarq.";
 constexpr std::string_view progIdVersion = ".1";
-
-bool equalWithoutCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, [](unsigned char a, unsigned char b) {
-        return std::tolower(a) == std::tolower(b);
-    });
-}
 
 std::string_view classNameOf(std::string_view name) {
     if (!equalWithoutCase(name.substr(0, progIdPrefix.size()), progIdPrefix)) return name;

@@ -49,7 +49,7 @@ public:
     Status OptimizeAsync() override;
     Status AddObjSum(const ValueList& CoeffsAndCols) override;
     Status ReadAMPLModel(const std::string& MODFileName, const ValueList& DATFileNames) override;
-    Status ReadMathProgModel(const std::string& MODFileName, const std::string& DATFileName, const std::string& OutputFileName) override;
+    Status ReadMathProgModel(const std::string& MODFileName, const Variant& DATFileName) override;
     Status ReadModel(const std::string& FileName, TARQFileFormatType eFileFormat) override;
     Status ReadMPLModel(const std::string& FileName) override;
     Status ReadProfile(const std::string& ProfileName) override;

@@ -4,16 +4,20 @@
 #include "model/modeledit.h"
 
 namespace tarq {
+namespace {
+
+/// As in the other hidden members, a null pointer leaves the field of the record at what it is.
+std::string nameOrNone(const std::string* name) { return name != nullptr ? *name : std::string(); }
+
+}  // namespace
 
 // NOLINTBEGIN(bugprone-reserved-identifier)
 Status CTARQModel::_AddVarSetElement(const std::string* bsName, IUnknown* family) {
-    if (bsName == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return addFamilyColumn(store_, *bsName, family); });
+    return guarded(classid::TARQModel, [&] { return addFamilyColumn(store_, nameOrNone(bsName), family); });
 }
 
 Status CTARQModel::_AddResSetElement(const std::string* bsName, IUnknown* family) {
-    if (bsName == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return addFamilyRow(store_, *bsName, family); });
+    return guarded(classid::TARQModel, [&] { return addFamilyRow(store_, nameOrNone(bsName), family); });
 }
 
 Status CTARQModel::get_VarSetStartIndex(IUnknown* family, std::int32_t* value) {

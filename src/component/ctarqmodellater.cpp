@@ -15,7 +15,7 @@ Status CTARQModel::AddObjSum(const ValueList& /*CoeffsAndCols*/) { return status
 Status CTARQModel::ReadAMPLModel(const std::string& /*MODFileName*/, const ValueList& /*DATFileNames*/) {
     return status::notImplemented;
 }
-Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const std::string& /*DATFileName*/, const std::string& /*OutputFileName*/) {
+Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const Variant& /*DATFileName*/) {
     return status::notImplemented;
 }
 Status CTARQModel::ReadMPLModel(const std::string& /*FileName*/) { return status::notImplemented; }

@@ -32,7 +32,7 @@ void CTARQModel::resetSolution() { summary_.reset(); }
 void CTARQModel::clearModel() {
     store_.clear();
     resetSolution();
-    amplOutputBuffer_ = std::string();
+    std::string().swap(amplOutputBuffer_);  // an assignment would keep the memory
     for (const std::string_view name : vectorNames) setParameter(name, "");
 }
 

@@ -1,7 +1,6 @@
 // What every member of an object does around its few lines: check outputs, catch what must not leave, report failures.
 #pragma once
 
-#include <exception>
 #include <new>
 #include <utility>
 
@@ -17,7 +16,7 @@ Status guarded(const Guid& classId, Operation&& operation) noexcept {
         return raise(classId, std::forward<Operation>(operation)());
     } catch (const std::bad_alloc&) {
         return status::outOfMemory;
-    } catch (const std::exception&) {
+    } catch (...) {
         return status::generalFailure;
     }
 }
@@ -31,6 +30,8 @@ Status guardedGet(Value* output, Compute&& compute) noexcept {
         return status::ok;
     } catch (const std::bad_alloc&) {
         return status::outOfMemory;
+    } catch (...) {
+        return status::generalFailure;
     }
 }
 

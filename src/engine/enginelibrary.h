@@ -3,7 +3,7 @@
 // Binding tests nothing: a library may lack any of the operations. Calling one that is missing is harmless and gives a
 // failure: non-zero for the operations of the start, "input error" for PutModel and "general error" for the stages, so
 // that a run on such a library ends with a failure. A missing solution operation delivers nothing, so the solution's
-// status stays undefined.
+// status stays undefined. An operation that throws answers as if it were missing, so that the run still ends in order.
 #pragma once
 
 #include "engine/engineinterface.h"

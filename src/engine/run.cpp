@@ -42,7 +42,7 @@ private:
     static Ending fail(Status status, std::string_view text) { return {.outcome = {status, std::string(text)}}; }
 
     Ending runSteps();
-    Status close(const Ending& ending);
+    Status close(Ending ending);
 
     Step bind();
     Step takeMemory();
@@ -87,7 +87,7 @@ Status Run::execute() {
     } catch (const std::bad_alloc&) {
         ending = end(status::outOfMemory);
     }
-    return close(ending);
+    return close(std::move(ending));
 }
 
 Ending Run::runSteps() {
@@ -101,14 +101,14 @@ Ending Run::runSteps() {
     return finish();
 }
 
-Status Run::close(const Ending& ending) {
+Status Run::close(Ending ending) {
     const Status result = ending.outcome.status();
     if (memoryTaken_ && !ending.plainReturn) engine().FreeMemory();
     RunModel* self = &model_;
     processRunState().currentRunModel.compare_exchange_strong(self, nullptr, std::memory_order_acq_rel);
     model_.engine.reset();
     if (ending.plainReturn) return result;
-    if (result.failed() && !ending.outcome.description().empty()) model_.pendingError = ending.outcome;
+    if (result.failed() && !ending.outcome.description().empty()) model_.pendingError = std::move(ending.outcome);
     model_.busy.store(false, std::memory_order_release);
     // The sink may start the next run, so nothing of this one is touched any more.
     if (model_.finished) model_.finished();

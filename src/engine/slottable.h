@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <string_view>
 
 #include "platform/dynamiclibrary.h"
@@ -21,7 +22,8 @@ struct FixedText {
     }
 };
 
-/// One function of a library, with the result that stands for a call when the library lacks it.
+/// One function of a library, with the result that stands for a call when the library lacks it or lets an exception
+/// out of it.
 template <FixedText exportedName, class Function, std::int32_t emptyResult>
 struct Slot {
     static constexpr const char* name = exportedName.text;
@@ -29,7 +31,11 @@ struct Slot {
 
     template <class... Arguments>
     std::int32_t operator()(Arguments... arguments) const {
-        return function != nullptr ? function(arguments...) : emptyResult;
+        try {
+            return function != nullptr ? function(arguments...) : emptyResult;
+        } catch (const std::exception&) {
+            return emptyResult;
+        }
     }
 };
 

@@ -58,9 +58,6 @@ bool display(const Variant& value, std::string& text) {
         case Kind::Empty:
             text.clear();
             return true;
-        case Kind::Bool:
-            text = value.truth() ? "True" : "False";
-            return true;
         case Kind::Single:
             text = displayReal(value.real(), singleDigits, userNumberMarks());
             return true;
@@ -80,6 +77,7 @@ bool display(const Variant& value, std::string& text) {
     }
     double number = 0;
     if (!readNumber(value, number)) return false;
+    // The integer kinds, and Bool: without a flag that asks for words it shows as the number that it is, -1 or 0.
     text = std::to_string(value.wholeNumber());
     return true;
 }

@@ -97,9 +97,9 @@ public:
     /// Reads an AMPL model through the external translator.
     virtual Status ReadAMPLModel(const std::string& MODFileName, const ValueList& DATFileNames) = 0;
 
-    /// Reads a GNU MathProg model.
-    virtual Status ReadMathProgModel(const std::string& MODFileName, const std::string& DATFileName,
-                                     const std::string& OutputFileName) = 0;
+    /// Reads a GNU MathProg model and its data.
+    virtual Status ReadMathProgModel(const std::string& MODFileName,
+                                     const Variant& DATFileName = Variant::missing()) = 0;
 
     /// Reads a model file. Once the file is open the old model is gone; a parse failure leaves what was read so far.
     virtual Status ReadModel(const std::string& FileName, TARQFileFormatType eFileFormat) = 0;
@@ -365,10 +365,10 @@ public:
     /// Status of the engine (errors, stops, success etc.).
     virtual Status get_SolverStatus(TARQSolverStatusTyp* value) = 0;
 
-    /// For families: adds one of a family's columns.
+    /// For families: adds one of a family's columns, without a name where the pointer is null.
     virtual Status _AddVarSetElement(const std::string* bsName, IUnknown* family) = 0;
 
-    /// For families: adds one of a family's rows.
+    /// For families: adds one of a family's rows, without a name where the pointer is null.
     virtual Status _AddResSetElement(const std::string* bsName, IUnknown* family) = 0;
 
     /// For families: number of the family's first column.

@@ -7,14 +7,11 @@
 #include <utility>
 
 #include "frame/localnumbers.h"
+#include "frame/text.h"
 #include "platform/userlocale.h"
 
 namespace tarq {
 namespace {
-
-char lowerCased(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
 
 /// A client's name in lower case, without an allocation. Empty, which no parameter is called, for a name too long.
 class LowerName {

@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cassert>
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
 #include "frame/numbertext.h"
 #include "frame/text.h"
@@ -28,13 +28,13 @@ constexpr auto stringPlaces = [] {
     return places;
 }();
 
-constexpr std::size_t indexOf(int row) {
-    assert(row >= 0 && row < parameterCount);
+std::size_t indexOf(int row) {
+    if (row < 0 || row >= parameterCount) throw std::out_of_range("no such parameter row");
     return static_cast<std::size_t>(row);
 }
 
-constexpr std::size_t slotOf(int slot) {
-    assert(slot >= 0 && slot < resultCount);
+std::size_t slotOf(int slot) {
+    if (slot < 0 || slot >= resultCount) throw std::out_of_range("no such result slot");
     return static_cast<std::size_t>(slot);
 }
 

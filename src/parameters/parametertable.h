@@ -2,7 +2,8 @@
 //
 // What a parameter is (name, kind, limits, default, texts) is constant data, the ParameterRow of parameterrows.h; a
 // table holds only the values, one table a model, about 2 KB. Rows are 0-based here; the public ParameterID is the row
-// plus 1. A row or slot passed in must exist: callers test what parameterIndex and resultIndex gave them.
+// plus 1. A row or slot passed in must exist: callers test what parameterIndex and resultIndex gave them. One that
+// doesn't throws std::out_of_range.
 //
 // The parameters belong to the thread of the model's client and have no lock. The results are written by the thread of
 // a run and may be read on another at any time. A table is neither copied nor moved.

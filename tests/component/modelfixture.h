@@ -1,4 +1,4 @@
-// A model to test, and matchers for what a call answers.
+// A model to test, and a matcher for what a failed call leaves.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -7,14 +7,12 @@
 
 #include <string>
 
+#include "tests/support/outcomematchers.h"
+
 namespace tarq {
 
-inline void PrintTo(Status status, std::ostream* out) { *out << "0x" << std::hex << status.value(); }
-
-MATCHER(Succeeds, "") { return arg == status::ok; }
-
 /// The call failed with this status, and the thread's error tells this description.
-MATCHER_P2(FailsWith, status, description, "") {
+MATCHER_P2(raises, status, description, "") {
     const ObjectError* error = lastError();
     if (error == nullptr) return false;
     *result_listener << "described as '" << error->description << "'";
@@ -29,12 +27,12 @@ protected:
     /// Columns x, y and z from 0 to 10, row r, coefficients 1, 2 and 3.
     void buildSmall() {
         for (const char* name : {"x", "y", "z"}) {
-            ASSERT_THAT(model->AddCol(0, 10, TARQColType::Continuous, Variant(1.0), Variant(name)), Succeeds());
+            ASSERT_THAT(model->AddCol(0, 10, TARQColType::Continuous, Variant(1.0), Variant(name)), succeeds());
         }
-        ASSERT_THAT(model->AddRow(1, 20, Variant("r")), Succeeds());
+        ASSERT_THAT(model->AddRow(1, 20, Variant("r")), succeeds());
         double coefficient = 0;
         for (const char* name : {"x", "y", "z"}) {
-            ASSERT_THAT(model->AddNZ(Variant("r"), Variant(name), ++coefficient), Succeeds());
+            ASSERT_THAT(model->AddNZ(Variant("r"), Variant(name), ++coefficient), succeeds());
         }
     }
 
@@ -42,7 +40,7 @@ protected:
     template <class Value, class Getter, class... Arguments>
     Value valueOf(Getter getter, const Arguments&... arguments) {
         Value value{};
-        EXPECT_THAT((model.get()->*getter)(arguments..., &value), Succeeds());
+        EXPECT_THAT((model.get()->*getter)(arguments..., &value), succeeds());
         return value;
     }
 

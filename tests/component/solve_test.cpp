@@ -23,8 +23,8 @@ TEST_F(SolveTest, BeforeAnyRunGettersLeaveTheirVariable) {
 
 TEST_F(SolveTest, LinearModelGivesValuesDualsAndStates) {
     buildSmall();
-    ASSERT_THAT(model->put_Parameter("xminmx", Variant("MAX")), Succeeds());
-    ASSERT_THAT(model->Optimize(), Succeeds());
+    ASSERT_THAT(model->put_Parameter("xminmx", Variant("MAX")), succeeds());
+    ASSERT_THAT(model->Optimize(), succeeds());
 
     EXPECT_EQ(valueOf<TARQSolverStatusTyp>(&ITARQModel::get_SolverStatus), TARQSolverStatusTyp::LPFinished);
     EXPECT_EQ(valueOf<TARQSolutionStatusTyp>(&ITARQModel::get_SolutionStatus),
@@ -42,12 +42,12 @@ TEST_F(SolveTest, LinearModelGivesValuesDualsAndStates) {
 TEST_F(SolveTest, IntegerModelKeepsBothSolutions) {
     buildSmall();
     for (const char* name : {"x", "y", "z"}) {
-        ASSERT_THAT(model->put_ColType(Variant(name), TARQColType::Integer), Succeeds());
-        ASSERT_THAT(model->put_ColUB(Variant(name), 1.5), Succeeds());
+        ASSERT_THAT(model->put_ColType(Variant(name), TARQColType::Integer), succeeds());
+        ASSERT_THAT(model->put_ColUB(Variant(name), 1.5), succeeds());
     }
-    ASSERT_THAT(model->put_Parameter("xminmx", Variant("max")), Succeeds());
-    ASSERT_THAT(model->put_RowRHS(Variant("r"), 4), Succeeds());
-    ASSERT_THAT(model->Optimize(), Succeeds());
+    ASSERT_THAT(model->put_Parameter("xminmx", Variant("max")), succeeds());
+    ASSERT_THAT(model->put_RowRHS(Variant("r"), 4), succeeds());
+    ASSERT_THAT(model->Optimize(), succeeds());
 
     EXPECT_EQ(valueOf<TARQSolutionStatusTyp>(&ITARQModel::get_SolutionStatus),
               TARQSolutionStatusTyp::IPOptimalSolution);
@@ -58,20 +58,20 @@ TEST_F(SolveTest, IntegerModelKeepsBothSolutions) {
 
 TEST_F(SolveTest, EditAfterARunKeepsTheSolutionUntilTheNextOne) {
     buildSmall();
-    ASSERT_THAT(model->Optimize(), Succeeds());
-    ASSERT_THAT(model->AddCol(0, 1, TARQColType::Continuous, Variant::missing(), Variant("late")), Succeeds());
+    ASSERT_THAT(model->Optimize(), succeeds());
+    ASSERT_THAT(model->AddCol(0, 1, TARQColType::Continuous, Variant::missing(), Variant("late")), succeeds());
     EXPECT_EQ(columnValue("late"), 0);
     EXPECT_THAT(columnValue("z"), DoubleNear(1.0 / 3.0, 1e-6));
-    ASSERT_THAT(model->DelModel(), Succeeds());
+    ASSERT_THAT(model->DelModel(), succeeds());
     double value = 0;
     EXPECT_EQ(model->get_ColLPSol(Variant(std::int32_t{1}), &value), status::noLpSolution);
 }
 
 TEST_F(SolveTest, MissingEngineFailsTheRunAndNotTheVersion) {
     EXPECT_NE(valueOf<std::string>(&ITARQModel::get_TARQDLLVersion), "unknown");
-    ASSERT_THAT(model->put_LocationOfTARQDLL("/no/such/engine.dll"), Succeeds());
+    ASSERT_THAT(model->put_LocationOfTARQDLL("/no/such/engine.dll"), succeeds());
     EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_TARQDLLVersion), "unknown");
-    EXPECT_THAT(model->Optimize(), FailsWith(status::libraryNotFound, "Could not find TARQ.DLL."));
+    EXPECT_THAT(model->Optimize(), raises(status::libraryNotFound, "Could not find TARQ.DLL."));
 }
 
 }  // namespace

@@ -18,16 +18,15 @@ bool isLoaded(std::string_view name) {
 
 TEST_F(Binding, LocationStartsAtTheOrdinaryNameAndIsLimitedTo255) {
     EXPECT_EQ(binding.location(), "tarq.dll");
-    EXPECT_TRUE(binding.setLocation(std::string(255, 'a')).isOk());
-    const Outcome refused = binding.setLocation(std::string(256, 'b'));
-    EXPECT_EQ(refused.status(), status::textTooLong);
-    EXPECT_EQ(refused.description(), "Passed string is to long.");
+    EXPECT_THAT(binding.setLocation(std::string(255, 'a')), succeeds());
+    EXPECT_THAT(binding.setLocation(std::string(256, 'b')),
+                failsWith(status::textTooLong, "Passed string is to long."));
     EXPECT_EQ(binding.location(), std::string(255, 'a'));
 }
 
 TEST_F(Binding, MissingLibraryIsSilentForTheVersionAndAFailureForTheRun) {
     for (const auto* location : {"/nowhere/engine.so", "no_such_engine.dll", "", ENGINE_FOLDER}) {
-        ASSERT_TRUE(binding.setLocation(location).isOk());
+        ASSERT_THAT(binding.setLocation(location), succeeds());
         EXPECT_EQ(binding.versionText(), "unknown") << location;
         EXPECT_EQ(binding.bindEngine(), status::libraryNotFound) << location;
     }
@@ -47,7 +46,7 @@ TEST_F(Binding, VersionIsWhatTheEngineTells) {
 TEST_F(Binding, ConventionalNameStandsForTheNativeLibrary) {
     use("scripted_full").parameters["xversn"] = "7.25";
     for (const std::string location : {ENGINE_FOLDER "/scripted_full.dll", "scripted_full.dll"}) {
-        ASSERT_TRUE(binding.setLocation(location).isOk());
+        ASSERT_THAT(binding.setLocation(location), succeeds());
         EXPECT_EQ(binding.versionText(), "7.25") << location;
         EXPECT_EQ(binding.location(), location);
     }
@@ -59,21 +58,21 @@ TEST_F(Binding, ChangeOfLocationReleasesOneLoad) {
     EXPECT_EQ(binding.bindEngine(), status::ok);
     EXPECT_FALSE(binding.setLocation(std::string(256, 'a')).isOk());
     EXPECT_TRUE(isLoaded("scripted_without_ip")) << "a refused location releases nothing";
-    EXPECT_TRUE(binding.setLocation("elsewhere.dll").isOk());
+    EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
     EXPECT_EQ(binding.engine(), nullptr);
     EXPECT_FALSE(isLoaded("scripted_without_ip"));
 
-    ASSERT_TRUE(binding.setLocation(enginePath("scripted_without_ip")).isOk());
+    ASSERT_THAT(binding.setLocation(enginePath("scripted_without_ip")), succeeds());
     EXPECT_EQ(binding.bindEngine(), status::ok);
     EXPECT_EQ(binding.bindEngine(), status::ok);
-    EXPECT_TRUE(binding.setLocation("elsewhere.dll").isOk());
+    EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
     EXPECT_TRUE(isLoaded("scripted_without_ip")) << "bound twice, released once";
 }
 
 TEST_F(Binding, LibraryOutlivesTheRunAndTheModel) {
     {
         EngineBinding ofAModel;
-        ASSERT_TRUE(ofAModel.setLocation(enginePath("scripted_without_lp")).isOk());
+        ASSERT_THAT(ofAModel.setLocation(enginePath("scripted_without_lp")), succeeds());
         EXPECT_EQ(run(ofAModel), status::crucialError);
         EXPECT_NE(ofAModel.engine(), nullptr);
     }
@@ -83,7 +82,7 @@ TEST_F(Binding, LibraryOutlivesTheRunAndTheModel) {
 TEST_F(Binding, RunKeepsItsEngineWhenTheLocationMoves) {
     EngineScript& engine = use("scripted_full");
     engine.during["OptimizeLP"] = [&] {
-        EXPECT_TRUE(binding.setLocation("elsewhere.dll").isOk());
+        EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
         stopRequested = true;
         engine.callback();
     };

@@ -14,12 +14,9 @@
 #include "engine/enginelibrary.h"
 #include "engine/run.h"
 #include "tests/engine/scriptedengine.h"
+#include "tests/support/outcomematchers.h"
 
 namespace tarq {
-
-inline std::ostream& operator<<(std::ostream& stream, Status status) {
-    return stream << "status 0x" << std::hex << status.value() << std::dec;
-}
 
 inline std::string enginePath(std::string_view name) { return ENGINE_FOLDER "/lib" + std::string(name) + ".so"; }
 
@@ -44,14 +41,14 @@ protected:
         column.lowerBound = lower;
         column.upperBound = upper;
         column.cost = cost;
-        ASSERT_TRUE(store.addColumnRecord(std::move(column)).isOk());
+        ASSERT_THAT(store.addColumnRecord(std::move(column)), succeeds());
     }
     void addRow(const char* name, double lower, double upper) {
         RowRecord row;
         row.name = name;
         row.lowerBound = lower;
         row.upperBound = upper;
-        ASSERT_TRUE(store.addRowRecord(std::move(row)).isOk());
+        ASSERT_THAT(store.addRowRecord(std::move(row)), succeeds());
     }
     void makeInteger() { store.column(1).type = TARQColType::Integer; }
 
@@ -66,7 +63,7 @@ protected:
             script->parameters[std::string(resultSlots()[static_cast<std::size_t>(slot)].name)] =
                 std::to_string(slot + 1);
         }
-        EXPECT_TRUE(binding.setLocation(enginePath(name)).isOk());
+        EXPECT_THAT(binding.setLocation(enginePath(name)), succeeds());
         return *script;
     }
 

@@ -166,7 +166,7 @@ TEST_F(RunOutcome, SolutionIsCopiedOnlyWhenTheStatusDeliversOne) {
 TEST_F(RunOutcome, IpStageIsLeftOutWhenItIsNotWanted) {
     use("scripted_full");
     makeInteger();
-    ASSERT_TRUE(parameters.setLong(parameterIndex("xlpmip"), 0).isOk());
+    ASSERT_THAT(parameters.setLong(parameterIndex("xlpmip"), 0), succeeds());
     EXPECT_EQ(run(), status::ok);
     EXPECT_EQ(summary.solverStatus, LPFinished);
     EXPECT_EQ(script->log.find("OptimizeIP"), std::string::npos);
@@ -225,7 +225,7 @@ TEST_F(RunOutcome, BoundsAndBestChangeSignWhenMaximizing) {
         engine.parameters["xipfun"] = "+7.25";
         engine.parameters["xzubnd"] = "0";
         engine.parameters.erase("xctime");
-        ASSERT_TRUE(parameters.setString(parameterIndex("xminmx"), direction).isOk());
+        ASSERT_THAT(parameters.setString(parameterIndex("xminmx"), direction), succeeds());
         parameters.setResult(resultIndex("xctime"), 5.0);
         EXPECT_EQ(run(), status::ok);
         const double sign = std::string_view(direction) == "max" ? -1.0 : 1.0;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -34,8 +35,8 @@ TEST_F(RunSequence, ContinuousModelEndsBehindTheLp) {
 TEST_F(RunSequence, IntegerModelGoesOnToBranchAndBound) {
     use("scripted_full");
     makeInteger();
-    ASSERT_TRUE(parameters.setLong(parameterIndex("xfrite"), 7).isOk());
-    ASSERT_TRUE(parameters.setLong(parameterIndex("xfrnds"), 9).isOk());
+    ASSERT_THAT(parameters.setLong(parameterIndex("xfrite"), 7), succeeds());
+    ASSERT_THAT(parameters.setLong(parameterIndex("xfrnds"), 9), succeeds());
     EXPECT_EQ(run(), status::ok);
     const std::string text = calls();
     EXPECT_NE(text.find("SetCallback 0\n"), std::string::npos);
@@ -72,15 +73,15 @@ TEST_F(RunSequence, OlderStartTakesXmrealOnlyWithinItsLimits) {
     EngineScript& engine = use("scripted_older");
     for (const auto& [xmreal, taken] : std::vector<std::pair<int, int>>{{0, 300}, {63, 300}, {64, 64}, {2000, 2000}}) {
         engine.log.clear();
-        ASSERT_TRUE(parameters.setLong(parameterIndex("xmreal"), xmreal).isOk());
+        ASSERT_THAT(parameters.setLong(parameterIndex("xmreal"), xmreal), succeeds());
         EXPECT_EQ(run(), status::ok);
         EXPECT_NE(engine.log.find("AllocateMemory " + std::to_string(taken) + "\n"), std::string::npos) << xmreal;
     }
 }
 
 TEST_F(RunSequence, EveryParameterIsPassedAsTextInTableOrder) {
-    ASSERT_TRUE(parameters.setString(parameterIndex("xobj"), "profit").isOk());
-    ASSERT_TRUE(parameters.setDouble(parameterIndex("xbckpa"), 0.1).isOk());
+    ASSERT_THAT(parameters.setString(parameterIndex("xobj"), "profit"), succeeds());
+    ASSERT_THAT(parameters.setDouble(parameterIndex("xbckpa"), 0.1), succeeds());
     for (const auto* name : {"scripted_full", "scripted_older"}) {
         const bool older = std::string_view(name) == "scripted_older";
         std::string expected = "SetParameter xoutlv=1\n";
@@ -150,8 +151,7 @@ TEST_F(RunSequence, FailedStartReleasesTheEngineAndReports) {
         engine.results[failing.operation] = failing.result;
         summary.solverStatus = TARQSolverStatusTyp::IPFinished;
         EXPECT_EQ(run(), failing.status);
-        EXPECT_EQ(pendingError.status(), failing.status);
-        EXPECT_EQ(pendingError.description(), failing.text);
+        EXPECT_THAT(pendingError, failsWith(failing.status, failing.text));
         // The model is taken over last, so its messages stand between.
         const std::string messages =
             failing.operation == std::string_view("PutModel") ? "GetParameter xline1 xline2\n" : "";
@@ -184,7 +184,7 @@ TEST_F(RunSequence, RefusedLicenceEndsLikeAFailedStart) {
         engine.log.clear();
         engine.results["Initialize"] = memoryResult;
         EXPECT_EQ(run(refusing), status::engineSetup);
-        EXPECT_EQ(pendingError.description(), "Error initializing TARQ.DLL.");
+        EXPECT_THAT(pendingError, failsWith(status::engineSetup, "Error initializing TARQ.DLL."));
         EXPECT_EQ(calls(), "SetParameter xoutlv=1\nInitialize\nFreeMemory\nfinished\n");
     }
 }
@@ -202,9 +202,26 @@ TEST_F(RunSequence, MemoryEndingInTheTransferReleasesTheEngine) {
     use("scripted_full");
     BindingTo<EngineThatRunsOut> binder("scripted_full");
     EXPECT_EQ(run(binder), status::outOfMemory);
-    EXPECT_TRUE(pendingError.isOk());
+    EXPECT_THAT(pendingError, succeeds());
     EXPECT_FALSE(busy);
     EXPECT_TRUE(calls().ends_with("SetCallback 1\nFreeMemory\nfinished\n")) << calls();
+}
+
+TEST_F(RunSequence, OperationThatThrowsFailsAndTheEngineIsReleased) {
+    struct Case {
+        const char* operation;
+        Status status;
+    };
+    makeInteger();
+    for (const Case& throwing : {Case{"Initialize", status::engineMemory}, Case{"SetParameter", status::ok},
+                                 Case{"PutModel", status::engineSetup}, Case{"OptimizeLP", status::crucialError},
+                                 Case{"OptimizeIP", status::crucialError}, Case{"FreeMemory", status::ok}}) {
+        SCOPED_TRACE(throwing.operation);
+        use("scripted_full").during[throwing.operation] = [] { throw std::runtime_error("out of the engine"); };
+        EXPECT_EQ(run(), throwing.status);
+        EXPECT_FALSE(busy);
+        EXPECT_TRUE(calls().ends_with("FreeMemory\nfinished\n")) << calls();
+    }
 }
 
 class BinderOfNothing : public EngineBinding {
@@ -214,7 +231,7 @@ class BinderOfNothing : public EngineBinding {
 TEST_F(RunSequence, RunWithoutAnEngineKeepsTheStatusesAndFires) {
     BinderOfNothing incomplete;
     EngineBinding lost;
-    ASSERT_TRUE(lost.setLocation("/nowhere/tarq.dll").isOk());
+    ASSERT_THAT(lost.setLocation("/nowhere/tarq.dll"), succeeds());
     struct Case {
         EngineBinding& binder;
         Status status;
@@ -228,7 +245,7 @@ TEST_F(RunSequence, RunWithoutAnEngineKeepsTheStatusesAndFires) {
         summary.solverStatus = TARQSolverStatusTyp::IPFinished;
         stopRequested = true;
         EXPECT_EQ(run(failing.binder), failing.status);
-        EXPECT_EQ(pendingError.description(), failing.text);
+        EXPECT_THAT(pendingError, failsWith(failing.status, failing.text));
         EXPECT_EQ(fired, 1);
         EXPECT_FALSE(stopRequested);
         EXPECT_EQ(summary.solverStatus, TARQSolverStatusTyp::IPFinished);

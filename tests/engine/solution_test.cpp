@@ -62,7 +62,7 @@ TEST_F(SolutionAccess, ValuesAreReadByNumberAndByName) {
     const SolvedModel model{store, summary};
     const auto read = [&](RealGetter get, const Variant& address) {
         double value = 0.0;
-        EXPECT_TRUE(get(model, address, value).isOk());
+        EXPECT_THAT(get(model, address, value), succeeds());
         return value;
     };
     EXPECT_EQ(read(columnLpValue, Variant(2)), 101.0);
@@ -72,7 +72,7 @@ TEST_F(SolutionAccess, ValuesAreReadByNumberAndByName) {
     EXPECT_EQ(read(rowIpValue, Variant(1)), 203.0);
     EXPECT_EQ(read(rowDual, Variant(1)), 253.0);
     TARQColRowStatusType basis{};
-    EXPECT_TRUE(rowStatus(model, Variant("first"), basis).isOk());
+    EXPECT_THAT(rowStatus(model, Variant("first"), basis), succeeds());
     EXPECT_EQ(basis, TARQColRowStatusType::StatusFixed);
 }
 
@@ -80,8 +80,10 @@ TEST_F(SolutionAccess, FailedAddressIsWordedByTheResolver) {
     summary.solutionStatus = LPOptimalSolution;
     double value = 4.5;
     const SolvedModel model{store, summary};
-    EXPECT_EQ(columnLpValue(model, Variant("q"), value).description(), "Column name 'q' could not be found.");
-    EXPECT_EQ(rowDual(model, Variant(3), value).description(), "Row index is greater than number of rows.");
+    EXPECT_THAT(columnLpValue(model, Variant("q"), value),
+                failsWith(status::invalidArgument, "Column name 'q' could not be found."));
+    EXPECT_THAT(rowDual(model, Variant(3), value),
+                failsWith(status::invalidArgument, "Row index is greater than number of rows."));
     EXPECT_EQ(value, 4.5);
 }
 

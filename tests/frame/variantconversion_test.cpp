@@ -89,8 +89,8 @@ TEST(VariantConversionTest, ValuesShowAsText) {
         {Variant(7.0), Variant("7")},
         {Variant(2.5), Variant("2" + mark + "5")},
         {Variant(0.1F), Variant("0" + mark + "1")},
-        {Variant(true), Variant("True")},
-        {Variant(false), Variant("False")},
+        {Variant(true), Variant("-1")},
+        {Variant(false), Variant("0")},
         {Variant(std::numeric_limits<std::int64_t>::min()), Variant("-9223372036854775808")},
         {Variant(Currency{-12500}), Variant("-1" + mark + "25")},
         {Variant(Decimal{0, 0, 1, 0, false}), Variant("18446744073709551616")},
@@ -150,7 +150,7 @@ TEST(VariantConversionTest, ConversionsFollowReferencesAndLeaveTheCallersValue) 
     loop = Variant::byReference(loop);
     expectConversion(Variant::byReference(text), &Variant::toReal, Variant(12.0));
     expectConversion(Variant::byReference(inner), &Variant::toInteger, Variant(12));
-    expectConversion(Variant::byReference(truth), &Variant::toText, Variant("True"));
+    expectConversion(Variant::byReference(truth), &Variant::toText, Variant("-1"));
     expectConversion(Variant::byReference(loop), &Variant::toText, fails);
     expectConversion(Variant::byReference(text), &Variant::normalizeValue, fails);
     EXPECT_EQ(text, "12");

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/model/matchers.h"
+#include "tests/support/outcomematchers.h"
 
 namespace tarq {
 namespace {
@@ -19,10 +19,10 @@ using testing::ElementsAre;
 class ModelStoreTest : public testing::Test {
 protected:
     void addColumns(const std::vector<std::string>& names) {
-        for (const std::string& name : names) ASSERT_THAT(store_.addColumnRecord({.name = name}), IsOk());
+        for (const std::string& name : names) ASSERT_THAT(store_.addColumnRecord({.name = name}), succeeds());
     }
     void addRows(const std::vector<std::string>& names) {
-        for (const std::string& name : names) ASSERT_THAT(store_.addRowRecord({.name = name}), IsOk());
+        for (const std::string& name : names) ASSERT_THAT(store_.addRowRecord({.name = name}), succeeds());
     }
     /// "column,row" and value of every nonzero, in the order of the walk.
     std::vector<std::string> nonzeros() const {
@@ -40,8 +40,8 @@ protected:
 TEST_F(ModelStoreTest, TakenNameIsRefusedAndNothingIsAdded) {
     addColumns({"x", "", "", "X"});
     addRows({"x"});
-    EXPECT_THAT(store_.addColumnRecord({.name = "x"}), FailsWith(0x80041026, "Duplicate col name: x"));
-    EXPECT_THAT(store_.addRowRecord({.name = "x"}), FailsWith(0x8004102B, "Duplicate row name: x"));
+    EXPECT_THAT(store_.addColumnRecord({.name = "x"}), failsWith(status::badColumnName, "Duplicate col name: x"));
+    EXPECT_THAT(store_.addRowRecord({.name = "x"}), failsWith(status::badRowName, "Duplicate row name: x"));
     EXPECT_EQ(store_.columnCount(), 4);
     EXPECT_EQ(store_.rowCount(), 1);
     EXPECT_EQ(store_.findColumn("X"), 3);
@@ -50,19 +50,19 @@ TEST_F(ModelStoreTest, TakenNameIsRefusedAndNothingIsAdded) {
 
 TEST_F(ModelStoreTest, RenamingToATakenNameCostsTheOldNameToo) {
     addColumns({"x", "y"});
-    EXPECT_THAT(store_.renameColumn(1, "x"), FailsWith(0x80041026, "Duplicate col name: x"));
+    EXPECT_THAT(store_.renameColumn(1, "x"), failsWith(status::badColumnName, "Duplicate col name: x"));
     EXPECT_EQ(store_.column(1).name, "");
     EXPECT_EQ(store_.findColumn("y"), -1);
     EXPECT_EQ(store_.findColumn("x"), 0);
-    EXPECT_THAT(store_.renameColumn(0, "y"), IsOk());
+    EXPECT_THAT(store_.renameColumn(0, "y"), succeeds());
     EXPECT_EQ(store_.findColumn("y"), 0);
 }
 
 TEST_F(ModelStoreTest, RenamingToTheSameOrToNoNameWorks) {
     addRows({"r", "a name that is too long to lie inside the string"});
-    EXPECT_THAT(store_.renameRow(1, store_.row(1).name), IsOk());
+    EXPECT_THAT(store_.renameRow(1, store_.row(1).name), succeeds());
     EXPECT_EQ(store_.findRow("a name that is too long to lie inside the string"), 1);
-    EXPECT_THAT(store_.renameRow(0, ""), IsOk());
+    EXPECT_THAT(store_.renameRow(0, ""), succeeds());
     EXPECT_EQ(store_.findRow("r"), -1);
 }
 
@@ -70,10 +70,12 @@ TEST_F(ModelStoreTest, LongNameAndPositionOutsideChangeNothing) {
     addColumns({"x"});
     addRows({"r"});
     const std::string longName(65, 'n');
-    EXPECT_THAT(store_.renameColumn(0, longName), FailsWith(0x80041026, "Col name '" + longName + "' is too long."));
-    EXPECT_THAT(store_.renameRow(0, longName), FailsWith(0x8004102B, "Row name '" + longName + "' is too long."));
-    EXPECT_THAT(store_.renameColumn(0, std::string(64, 'n')), IsOk());
-    EXPECT_THAT(store_.renameRow(1, "s"), FailsWith(0x8004101A, "Index out of valid range."));
+    EXPECT_THAT(store_.renameColumn(0, longName),
+                failsWith(status::badColumnName, "Col name '" + longName + "' is too long."));
+    EXPECT_THAT(store_.renameRow(0, longName),
+                failsWith(status::badRowName, "Row name '" + longName + "' is too long."));
+    EXPECT_THAT(store_.renameColumn(0, std::string(64, 'n')), succeeds());
+    EXPECT_THAT(store_.renameRow(1, "s"), failsWith(status::indexOutOfRange, "Index out of valid range."));
     EXPECT_EQ(store_.findRow("r"), 0);
 }
 

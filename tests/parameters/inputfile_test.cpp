@@ -12,7 +12,7 @@
 #include <string>
 #include <thread>
 
-#include "tests/parameters/outcomematchers.h"
+#include "tests/support/outcomematchers.h"
 
 namespace tarq {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/parameters/outcomematchers.h"
+#include "tests/parameters/parameterfailures.h"
 
 namespace tarq {
 namespace {
@@ -18,6 +18,8 @@ constexpr double modelInfinity = 1e25;
 
 /// The user writes a decimal comma; set before the first conversion reads the user's marks.
 const bool userWritesComma = ::setenv("LC_ALL", "de_DE.UTF-8", 1) == 0;
+
+auto isUnknownName() { return failsWith(status::unknownParameter, "Parameter name does not exist."); }
 
 struct ParameterAccess : testing::Test {
     ParameterTable table;

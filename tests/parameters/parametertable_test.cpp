@@ -5,9 +5,10 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <stdexcept>
 #include <string>
 
-#include "tests/parameters/outcomematchers.h"
+#include "tests/parameters/parameterfailures.h"
 
 namespace tarq {
 namespace {
@@ -119,6 +120,16 @@ TEST(ParameterTable, StoreOfAnotherKindIsRefused) {
     EXPECT_THAT(table.setDouble(parameterIndex("xscale"), 0.0), isWrongType());
     EXPECT_THAT(table.setString(parameterIndex("xscale"), ""), isWrongType());
     EXPECT_EQ(table.stringValue(parameterIndex("xscale")), "");
+}
+
+TEST(ParameterTable, RowThatIsNotThereIsNeverTouched) {
+    ParameterTable table;
+    for (const int row : {-1, parameterCount}) {
+        EXPECT_THROW((void)table.longValue(row), std::out_of_range);
+        EXPECT_THROW((void)table.setString(row, ""), std::out_of_range);
+        EXPECT_THROW((void)table.valueText(row), std::out_of_range);
+    }
+    for (const int slot : {-1, resultCount}) EXPECT_THROW(table.setResult(slot, 1.0), std::out_of_range);
 }
 
 TEST(ParameterTable, ResultsOfWholeNumbersStayWithinTheirType) {

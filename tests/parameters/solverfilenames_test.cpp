@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/parameters/outcomematchers.h"
+#include "tests/support/outcomematchers.h"
 
 namespace tarq {
 namespace {

@@ -1,0 +1,175 @@
+// LPs: optima in every algorithm variant, statuses, duals and states.
+#include <fmt/format.h>
+
+#include <cmath>
+
+#include "loadedengine.h"
+
+namespace tarq::test {
+
+using testing::DoubleNear;
+using testing::ElementsAre;
+
+class LinearTest : public EngineTest {};
+
+TEST_F(LinearTest, EveryAlgorithmFindsTheOptimum) {
+    const TestModel dense = denseLp(25);
+    const double expected = optimizeLp(dense).objective;
+    for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
+        for (const char* crossover : {"xipxov=0", "xipxov=1", "xipxov=2", "xipxov=3"}) {
+            for (const char* other : {"xrduce=0", "xrduce=2", "xscale=0", "xdjscl=3", "xfrinv=20"}) {
+                SCOPED_TRACE(fmt::format("{} {} {}", algorithm, crossover, other));
+                const StageResult small = optimizeLp(smallLp(), {algorithm, crossover, other});
+                EXPECT_EQ(small.result, 0) << message();
+                EXPECT_EQ(small.solutionStatus, 0);
+                EXPECT_THAT(small.values, ElementsAre(DoubleNear(3, 1e-6), DoubleNear(1, 1e-6), DoubleNear(4, 1e-6),
+                                                      DoubleNear(6, 1e-6)));
+                EXPECT_NEAR(small.solutionObjective, -5, 1e-6);
+                const StageResult large = optimizeLp(dense, {algorithm, crossover, other});
+                EXPECT_EQ(large.solutionStatus, 0);
+                EXPECT_NEAR(large.objective, expected, 1e-6 * std::abs(expected));
+            }
+        }
+    }
+}
+
+TEST_F(LinearTest, InfeasibleAndUnboundedAreToldApart) {
+    TestModel infeasible = TestModel{}.column(0, infinite, 1).column(0, infinite, 1).row(2, {1, 1}, 3).row(5, {1, 1}, 9);
+    // Presolve alone sees only that the columns that lower the cost have no end.
+    TestModel unbounded = TestModel{}.column(0, infinite, -1).column(0, infinite, 1).row(0, {1, -1}, infinite);
+    TestModel neither = TestModel{}.column(0, infinite, -1).column(0, infinite, 0).row(1, {0, 1}, 2).row(3, {0, 1}, 4);
+    for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
+        for (const char* crossover : {"xipxov=0", "xipxov=2"}) {
+            for (const char* presolve : {"xrduce=0", "xrduce=2"}) {
+                SCOPED_TRACE(fmt::format("{} {} {}", algorithm, crossover, presolve));
+                const StageResult none = optimizeLp(infeasible, {algorithm, crossover, presolve});
+                EXPECT_EQ(none.result, 0);
+                EXPECT_EQ(none.lpStatus, 1);
+                EXPECT_EQ(none.solutionStatus, 1);
+                const StageResult endless = optimizeLp(unbounded, {algorithm, crossover, presolve});
+                EXPECT_EQ(endless.result, 0);
+                EXPECT_EQ(endless.lpStatus, 2);
+                EXPECT_EQ(endless.solutionStatus, 2);
+                EXPECT_EQ(optimizeLp(neither, {algorithm, crossover, presolve}).lpStatus, 1);
+            }
+        }
+    }
+}
+
+TEST_F(LinearTest, AnUnboundedRelaxationEndsInTheLpStage) {
+    const TestModel model = TestModel{}.column(0, infinite, -1, 1).row(0, {1}, infinite);
+    EXPECT_EQ(optimizeLp(model).lpStatus, 2);
+}
+
+TEST_F(LinearTest, DirectionDecidesTheSign) {
+    TestModel model = smallLp();
+    for (double& cost : model.cost) cost = -cost;
+    for (const char* direction : {"xminmx='max'", "xminmx='MAX'"}) {
+        const StageResult largest = optimizeLp(model, {direction});
+        EXPECT_NEAR(largest.objective, 5, 1e-9);
+        EXPECT_NEAR(largest.solutionObjective, 5, 1e-9);
+        EXPECT_NEAR(number("xlpfun"), 5, 1e-9);
+    }
+    EXPECT_NEAR(optimizeLp(model, {"xminmx='min'"}).objective, 0, 1e-9);
+}
+
+// The derivative of the optimum by every finite bound, against what the engine delivers for it.
+TEST_F(LinearTest, DualsAreDerivativesOfTheObjective) {
+    const auto base = [] {
+        return TestModel{}
+            .column(0, 3, -1)
+            .column(1, infinite, -2.5)
+            .column(-infinite, 2, 4)
+            .column(0.5, 0.5, 7)
+            .row(-infinite, {1, 1, 0, 1}, 4)
+            .row(-infinite, {1, 3, -1, 0}, 6)
+            .row(-1.5, {0, 1, 1, 0}, 8)
+            .row(2, {1, 0, 0, 2}, 2);
+    };
+    for (const bool maximize : {false, true}) {
+        for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
+            SCOPED_TRACE(fmt::format("{} {}", algorithm, maximize));
+            const std::vector<std::string> parameters{algorithm, maximize ? "xminmx='max'" : "xminmx='min'"};
+            TestModel model = base();
+            if (maximize) {
+                for (double& cost : model.cost) cost = -cost;
+            }
+            const StageResult optimum = optimizeLp(model, parameters);
+            ASSERT_EQ(optimum.solutionStatus, 0);
+            int tight = 0;
+            for (std::size_t position = 0; position < optimum.values.size(); ++position) {
+                TestModel moved = model;
+                const bool column = position < model.cost.size();
+                const std::size_t own = column ? position : position - model.cost.size();
+                constexpr double step = 1e-3;
+                (column ? moved.columnLower : moved.rowLower)[own] += step;
+                (column ? moved.columnUpper : moved.rowUpper)[own] += step;
+                const double derivative = (optimizeLp(moved, parameters).objective - optimum.objective) / step;
+                EXPECT_NEAR(optimum.reducedCosts[position], derivative, 1e-5) << "at " << position;
+                if (std::abs(derivative) > 1e-5) ++tight;
+            }
+            EXPECT_GE(tight, 3);
+        }
+    }
+}
+
+TEST_F(LinearTest, StatesAreThePublishedOnes) {
+    const TestModel model = TestModel{}
+                                .column(0, 3, -1)                 // at its upper bound
+                                .column(0, 9, 0.5)                // at its lower bound
+                                .column(2, 2, 1)                  // fixed
+                                .column(-infinite, infinite, 0)   // free and of no use
+                                .column(0, infinite, -2)          // basic
+                                .row(-infinite, {0, 1, 1, 0, 1}, 8)
+                                .row(-50, {1, 0, 0, 1, 0}, 50)
+                                .row(3, {1, 0, 0, 1, 0}, 3);
+    for (const char* presolve : {"xrduce=0", "xrduce=2"}) {
+        const StageResult optimum = optimizeLp(model, {presolve});
+        ASSERT_EQ(optimum.solutionStatus, 0);
+        EXPECT_EQ(optimum.states[0], 3);
+        EXPECT_EQ(optimum.states[1], 2);
+        EXPECT_EQ(optimum.states[2], 4);
+        EXPECT_EQ(optimum.states[4], 1);
+        EXPECT_EQ(optimum.states[5], 3);
+        EXPECT_EQ(optimum.states[6], 1);
+        // A basis has as many basic members as there are rows.
+        EXPECT_EQ(std::count(optimum.states.begin(), optimum.states.end(), 1), 3);
+    }
+    // Without a basis a value between its bounds is superbasic.
+    const StageResult interior = optimizeLp(denseLp(5), {"xlptyp=4", "xipxov=0", "xrduce=0"});
+    EXPECT_EQ(std::count(interior.states.begin(), interior.states.end(), 1), 0);
+    EXPECT_GT(std::count(interior.states.begin(), interior.states.end(), 5), 0);
+    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, infinite, 0)).states.at(0), 5);
+}
+
+TEST_F(LinearTest, ModelsWithoutRowsOrColumnsAreSolved) {
+    const StageResult noRows = optimizeLp(TestModel{}.column(-2, 5, 3));
+    EXPECT_EQ(noRows.solutionStatus, 0);
+    EXPECT_THAT(noRows.values, ElementsAre(-2));
+    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, 5, 3)).lpStatus, 2);
+    const StageResult noColumns = optimizeLp(TestModel{}.row(-1, {}, 1));
+    EXPECT_EQ(noColumns.solutionStatus, 0);
+    EXPECT_THAT(noColumns.states, ElementsAre(1));
+    EXPECT_EQ(optimizeLp(TestModel{}.row(1, {}, 2)).lpStatus, 1);
+    EXPECT_EQ(optimizeLp(TestModel{}).solutionStatus, 0);
+    EXPECT_EQ(optimizeLp(TestModel{}.column(0, 1, -1, 1)).solutionStatus, 0);
+    EXPECT_NEAR(solveIp().objective, -1, 1e-9);
+}
+
+TEST_F(LinearTest, ElementsBelowTheDropToleranceAreLeftOut) {
+    const TestModel model = TestModel{}.column(0, infinite, -1).row(-infinite, {1e-6}, 1);
+    EXPECT_NEAR(optimizeLp(model, {"xdropm=1e-7"}).objective, -1e6, 1e-3);
+    EXPECT_EQ(optimizeLp(model, {"xdropm=1e-5"}).lpStatus, 2);
+}
+
+TEST_F(LinearTest, RunsRepeatWithOtherThreadsAndTheSameOutcome) {
+    for (const char* threads : {"xnproc=1", "xnproc=2", "xnproc=1", "xnproc=2147483647"}) {
+        EXPECT_NEAR(optimizeLp(smallLp(), {threads}).objective, -5, 1e-9) << message();
+    }
+    // One model, several stages: each starts from the beginning.
+    ASSERT_EQ(put(smallLp()), 0);
+    EXPECT_EQ(solveLp().result, 0);
+    EXPECT_NEAR(solveLp().objective, -5, 1e-9);
+}
+
+}  // namespace tarq::test

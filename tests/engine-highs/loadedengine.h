@@ -1,0 +1,98 @@
+// The engine library as a client sees it: loaded by name, driven through its C interface.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tarq/engine.h"
+
+namespace tarq::test {
+
+inline constexpr double infinite = 1e25;
+
+/// A model in the form PutModel takes it; built row by row.
+struct TestModel {
+    std::vector<std::int32_t> rowIndices;
+    std::vector<std::int32_t> columnIndices;
+    std::vector<double> values;
+    std::vector<double> columnLower;
+    std::vector<double> columnUpper;
+    std::vector<double> rowLower;
+    std::vector<double> rowUpper;
+    std::vector<double> cost;
+    std::vector<std::int32_t> type;
+
+    TestModel& column(double lower, double upper, double price, std::int32_t kind = 0);
+    /// `coefficients` holds one value a column; zeros are left out.
+    TestModel& row(double lower, const std::vector<double>& coefficients, double upper);
+
+    [[nodiscard]] std::int32_t columns() const { return static_cast<std::int32_t>(cost.size()); }
+    [[nodiscard]] std::int32_t rows() const { return static_cast<std::int32_t>(rowLower.size()); }
+};
+
+/// What one stage delivered: the operation's outputs, then those of Get..Solution.
+struct StageResult {
+    std::int32_t result = -1;
+    std::int32_t iterations = 0;  ///< nodes of an IP stage
+    std::int32_t infeasibilities = 0;
+    std::int32_t lpStatus = 0;
+    std::int32_t integerSolutions = 0;
+    std::int32_t stopReason = 0;
+    double objective = 0.0;
+    double bestPossible = 0.0;
+    std::int32_t solutionStatus = -1;
+    double solutionObjective = 0.0;
+    std::vector<double> values;
+    std::vector<double> reducedCosts;
+    std::vector<std::int32_t> states;
+};
+
+/// A fixture with a fresh engine.
+class EngineTest : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    std::int32_t set(const std::string& assignment) const;
+    /// Value of a parameter or result; the empty text when the engine refuses the name.
+    [[nodiscard]] std::string get(const std::string& name) const;
+    [[nodiscard]] double number(const std::string& name) const;
+    [[nodiscard]] std::string message() const { return get("xline1"); }
+
+    std::int32_t put(const TestModel& model);
+    StageResult solveLp(std::int32_t iterationFrequency = 0) const;
+    StageResult solveIp(std::int32_t nodeFrequency = -1) const;
+    /// Starts anew, sets the parameters, and goes through the LP stage.
+    StageResult optimizeLp(const TestModel& model, const std::vector<std::string>& parameters = {});
+    StageResult optimizeIp(const TestModel& model, const std::vector<std::string>& parameters = {});
+
+    /// Has `action` called at the engine's break points.
+    void onCallback(std::function<void()> action) const;
+
+    template <typename Operation>
+    [[nodiscard]] Operation* operation(const char* name) const {
+        return reinterpret_cast<Operation*>(symbol(name));
+    }
+
+private:
+    static void* symbol(const char* name);
+
+    std::int32_t rows_ = 0;
+    std::int32_t columns_ = 0;
+};
+
+/// min -x - 2y; x + y <= 4, x + 3y <= 6; 0 <= x <= 3: the optimum is -5 at (3, 1).
+TestModel smallLp();
+
+/// Dense random rows and columns, so that presolve finds nothing and the simplex method has to iterate.
+TestModel denseLp(int size);
+
+/// A market split: solutions are quick to find, a proof of the best takes hours.
+TestModel hardIp();
+
+}  // namespace tarq::test
