@@ -7,8 +7,8 @@
 
 namespace tarq::command {
 
-/// Runs Optimize on a thread of its own while this one shows the progress and listens for Ctrl-C, and fills in the
-/// run's outcome. Blocks until the run has ended.
+/// Runs Optimize while a thread of its own shows the progress and listens for Ctrl-C, and fills in the run's outcome.
+/// Blocks until the run has ended.
 void runWatched(ITARQModel& model, bool showProgress, RunResult& result);
 
 }  // namespace tarq::command

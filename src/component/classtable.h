@@ -9,7 +9,7 @@
 namespace tarq {
 
 struct ClassEntry {
-    std::string_view name;     ///< class name; the ProgID is "tarq." and the name, the versioned one adds ".1"
+    std::string_view name;  ///< class name; the ProgID is "tarq." and the name, the versioned one adds ".1"
     Guid classId;
     Ref<IUnknown> (*create)();
 };

@@ -8,8 +8,8 @@
 
 namespace tarq {
 
-/// A new object of the class `name`: a class name ("TARQModel") or a ProgID ("tarq.TARQModel", "tarq.TARQModel.1"). Empty
-/// when there is no such class or no memory; the calling thread's ObjectError tells which.
+/// A new object of the class `name`: a class name ("TARQModel") or a ProgID ("tarq.TARQModel", "tarq.TARQModel.1").
+/// Empty when there is no such class or no memory; the calling thread's ObjectError tells which.
 [[nodiscard]] TARQ_API Ref<IUnknown> createObject(std::string_view name);
 
 /// The same, asked for one of the object's interfaces: `createObject<ITARQModel>("TARQModel")`.

@@ -1,8 +1,8 @@
 // CTARQModel: the object behind ITARQModel.
 //
-// A facade: it owns the store, the parameters, the engine's binding and the settings of one model, and each member calls
-// the room that knows. Its sources are split by topic. Fields are used by the client's thread and, during a run, by the
-// thread of the run; what both touch is atomic (see engine/run.h).
+// A facade: it owns the store, the parameters, the engine's binding and the settings of one model, and each member
+// calls the room that knows. Its sources are split by topic. Fields are used by the client's thread and, during a run,
+// by the thread of the run; what both touch is atomic (see engine/run.h).
 #pragma once
 
 #include <atomic>
@@ -42,8 +42,11 @@ public:
     Status DelNZ(const Variant& Col, const Variant& Row) override;
     Status ExecuteAMPLModel(const std::string& MODFileName) override;
     Status GenFileNames(const std::string& FileName) override;
-    Status GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type, std::string* Name, Variant* Min, Variant* Max, Variant* Default, Variant* Value, std::int32_t* StingLen, std::int32_t* NumberOfOptions, std::string* bsDescription, std::int32_t* lpCategory, std::int32_t* lpControl) override;
-    Status GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue, std::string* bsOptionName) override;
+    Status GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type, std::string* Name, Variant* Min, Variant* Max,
+                            Variant* Default, Variant* Value, std::int32_t* StingLen, std::int32_t* NumberOfOptions,
+                            std::string* bsDescription, std::int32_t* lpCategory, std::int32_t* lpControl) override;
+    Status GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
+                              std::string* bsOptionName) override;
     Status KillThread() override;
     Status Optimize() override;
     Status OptimizeAsync() override;
@@ -58,7 +61,8 @@ public:
     Status SetRequiresSaveProperties(std::int32_t bSave) override;
     Status ShowPropertyPage(std::int32_t* pbDirty) override;
     Status StopOptimizeAsync() override;
-    Status WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow, const Variant& StartCol, const Variant& EndCol) override;
+    Status WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
+                           const Variant& StartCol, const Variant& EndCol) override;
     Status WriteModel(const std::string& FileName, TARQFileFormatType eFileFormat) override;
     Status WriteProfile(const std::string& ProfileName) override;
     Status get_AMPLOutputBuffer(std::string* value) override;
@@ -141,8 +145,10 @@ public:
     Status _AddResSetElement(const std::string* bsName, IUnknown* family) override;
     Status get_VarSetStartIndex(IUnknown* family, std::int32_t* value) override;
     Status get_ResSetStartIndex(IUnknown* family, std::int32_t* value) override;
-    Status _ChangeCol(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const TARQColType* peType, const double* pdCost, const std::string* pbsName) override;
-    Status _ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const std::string* pbsName) override;
+    Status _ChangeCol(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const TARQColType* peType,
+                      const double* pdCost, const std::string* pbsName) override;
+    Status _ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB,
+                      const std::string* pbsName) override;
     Status _ClearTARQResSet(IUnknown* family) override;
     Status _ClearTARQVarSet(IUnknown* family) override;
     Status ReadAMPLStub(const std::string& StubFileName) override;

@@ -20,11 +20,13 @@ Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const V
 }
 Status CTARQModel::ReadMPLModel(const std::string& /*FileName*/) { return status::notImplemented; }
 Status CTARQModel::ReadProfile(const std::string& /*ProfileName*/) { return status::notImplemented; }
-Status CTARQModel::SetNZStair(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/, const Variant& /*Nonzeros*/) {
+Status CTARQModel::SetNZStair(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/,
+                              const Variant& /*Nonzeros*/) {
     return status::notImplemented;
 }
 Status CTARQModel::ShowPropertyPage(std::int32_t* /*pbDirty*/) { return status::notImplemented; }
-Status CTARQModel::WriteDebugModel(const std::string& /*FileName*/, const Variant& /*StartRow*/, const Variant& /*EndRow*/, const Variant& /*StartCol*/, const Variant& /*EndCol*/) {
+Status CTARQModel::WriteDebugModel(const std::string& /*FileName*/, const Variant& /*StartRow*/,
+                                   const Variant& /*EndRow*/, const Variant& /*StartCol*/, const Variant& /*EndCol*/) {
     return status::notImplemented;
 }
 Status CTARQModel::WriteModel(const std::string& /*FileName*/, TARQFileFormatType /*eFileFormat*/) {

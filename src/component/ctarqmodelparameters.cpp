@@ -30,9 +30,10 @@ Status CTARQModel::get_NumberOfParameters(std::int32_t* value) {
 
 Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type, std::string* Name, Variant* Min,
                                     Variant* Max, Variant* Default, Variant* Value, std::int32_t* StingLen,
-                                    std::int32_t* NumberOfOptions, std::string* bsDescription,
-                                    std::int32_t* lpCategory, std::int32_t* lpControl) {
-    if (anyNull(Type, Name, Min, Max, Default, Value, StingLen, NumberOfOptions, bsDescription, lpCategory, lpControl)) {
+                                    std::int32_t* NumberOfOptions, std::string* bsDescription, std::int32_t* lpCategory,
+                                    std::int32_t* lpControl) {
+    if (anyNull(Type, Name, Min, Max, Default, Value, StingLen, NumberOfOptions, bsDescription, lpCategory,
+                lpControl)) {
         return status::nullPointer;
     }
     return guarded(classid::TARQModel, [&] {

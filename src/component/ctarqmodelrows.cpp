@@ -14,7 +14,8 @@ Status CTARQModel::DelRow(const Variant& Row) {
     return guarded(classid::TARQModel, [&] { return deleteRow(store_, Row); });
 }
 
-Status CTARQModel::_ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const std::string* pbsName) {
+Status CTARQModel::_ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB,
+                              const std::string* pbsName) {
     const RowChange change{.lowerBound = pdLB, .upperBound = pdUB, .name = pbsName};
     return guarded(classid::TARQModel, [&] { return changeRow(store_, lIndex0, change); });
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <new>
 #include <optional>
 #include <string>
@@ -86,6 +87,9 @@ Status Run::execute() {
         ending = runSteps();
     } catch (const std::bad_alloc&) {
         ending = end(status::outOfMemory);
+    } catch (const std::exception&) {
+        // Whatever it is, the engine has to be released and the run has to end in order.
+        ending = end(status::generalFailure);
     }
     return close(std::move(ending));
 }

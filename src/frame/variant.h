@@ -195,9 +195,9 @@ public:
     }
 
     /// Conversions in place. On failure the value is unchanged and the result is false. They follow references.
-    /// toReal gives Double, toInteger Long (rounded to nearest, ties to even), toText Text; Bool counts as -1 or 0 in all
-    /// three. Null, Error, Object, arrays and what the target can't hold fail. Text becomes a number only if it is one
-    /// under the English conventions and under the user's; its value is the English one, the same on every machine.
+    /// toReal gives Double, toInteger Long (rounded to nearest, ties to even), toText Text; Bool counts as -1 or 0 in
+    /// all three. Null, Error, Object, arrays and what the target can't hold fail. Text becomes a number only if it is
+    /// one under the English conventions and under the user's; its value is the English one, the same on every machine.
     [[nodiscard]] bool toReal() { return is(Kind::Double) || convertToReal(); }
     [[nodiscard]] bool toInteger() { return is(Kind::Long) || convertToInteger(); }
     [[nodiscard]] bool toText() { return is(Kind::Text) || convertToText(); }

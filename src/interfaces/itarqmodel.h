@@ -1,11 +1,11 @@
 // ITARQModel: the object interface of a model.
 //
-// Every operation returns a status. 0 is success; a failure leaves its description with the calling thread (ObjectError);
-// a success with a message, such as 0x00042003 "no LP solution", leaves the output as it was. A null output pointer is
-// 0x80004003. Columns and rows are addressed by a Variant: a text is a name, anything else a number from 1. Texts are
-// UTF-8. Optional arguments default to the missing value. The order of the functions is the published one and is part of
-// the binary interface. Operations come from one thread at a time; during a run another thread may read the counters,
-// objective values, statuses and results, and may call StopOptimizeAsync.
+// Every operation returns a status. 0 is success; a failure leaves its description with the calling thread
+// (ObjectError); a success with a message, such as 0x00042003 "no LP solution", leaves the output as it was. A null
+// output pointer is 0x80004003. Columns and rows are addressed by a Variant: a text is a name, anything else a number
+// from 1. Texts are UTF-8. Optional arguments default to the missing value. The order of the functions is the published
+// one and is part of the binary interface. Operations come from one thread at a time; during a run another thread may
+// read the counters, objective values, statuses and results, and may call StopOptimizeAsync.
 #pragma once
 
 #include <cstdint>
@@ -71,11 +71,12 @@ public:
     /// Fills the file name parameters xfnlps, xfnips, xfnsta, xfnlog, xfnmsg, xfnmps and xfnpro from one base name.
     virtual Status GenFileNames(const std::string& FileName) = 0;
 
-    /// Describes a parameter, numbered from 1. For a text row Min, Max and NumberOfOptions stay as the caller passed them.
+    /// Describes a parameter, numbered from 1. For a text row Min, Max and NumberOfOptions stay as the caller passed
+    /// them.
     virtual Status GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type, std::string* Name, Variant* Min,
                                     Variant* Max, Variant* Default, Variant* Value, std::int32_t* StingLen,
-                                    std::int32_t* NumberOfOptions, std::string* bsDescription,
-                                    std::int32_t* lpCategory, std::int32_t* lpControl) = 0;
+                                    std::int32_t* NumberOfOptions, std::string* bsDescription, std::int32_t* lpCategory,
+                                    std::int32_t* lpControl) = 0;
 
     /// A named value of a parameter; both numbers count from 1.
     virtual Status GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
@@ -377,12 +378,14 @@ public:
     /// For families: number of the family's first row; status 1 when it has none here.
     virtual Status get_ResSetStartIndex(IUnknown* family, std::int32_t* value) = 0;
 
-    /// For column objects: changes the given fields of the column at a position from 0; a null pointer leaves a field alone.
+    /// For column objects: changes the given fields of the column at a position from 0; a null pointer leaves a field
+    /// alone.
     virtual Status _ChangeCol(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const TARQColType* peType,
                               const double* pdCost, const std::string* pbsName) = 0;
 
     /// For row objects: the same for a row.
-    virtual Status _ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB, const std::string* pbsName) = 0;
+    virtual Status _ChangeRow(std::int32_t lIndex0, const double* pdLB, const double* pdUB,
+                              const std::string* pbsName) = 0;
 
     /// For families: removes the family's rows.
     virtual Status _ClearTARQResSet(IUnknown* family) = 0;

@@ -1,5 +1,6 @@
 #include "modelfiles/wholefile.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -11,7 +12,7 @@ namespace tarq {
 namespace {
 
 // Small enough to stay in the cache on its way into the text.
-constexpr std::streamsize pieceLength = 256 * 1024;
+constexpr std::size_t longestPiece = 256 * 1024;
 
 std::filesystem::path pathOf(const std::string& fileName) {
     return std::filesystem::path(std::u8string(fileName.begin(), fileName.end()));
@@ -42,8 +43,9 @@ std::optional<std::string> readWholeFile(const std::string& fileName) {
     std::string text;
     text.reserve(length + 1);
     preferLargePages(text.data(), text.capacity());
-    std::vector<char> piece(pieceLength);
-    while (file.read(piece.data(), pieceLength) || file.gcount() > 0) {
+    // A small file isn't worth a large buffer; what tells no length is read in full pieces.
+    std::vector<char> piece(length > 0 ? std::min(length + 1, longestPiece) : longestPiece);
+    while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())) || file.gcount() > 0) {
         text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
         if (text.size() > largestWholeFile) return std::nullopt;
     }

@@ -26,8 +26,7 @@ TEST_F(ModelTest, NewModelHasItsDefaults) {
     EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_LocationOfAMPLEXE), "ampl.exe");
     EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_LocationOfTARQAMPLEXE), "tarqampl.exe");
     EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_ModelName), "");
-    EXPECT_EQ(valueOf<TARQSolverStatusTyp>(&ITARQModel::get_SolverStatus),
-              TARQSolverStatusTyp::UndefinedSolverStatus);
+    EXPECT_EQ(valueOf<TARQSolverStatusTyp>(&ITARQModel::get_SolverStatus), TARQSolverStatusTyp::UndefinedSolverStatus);
 }
 
 TEST_F(ModelTest, EachColumnPropertyReadsWhatWasPut) {

@@ -8,9 +8,7 @@ using testing::DoubleNear;
 
 class SolveTest : public ModelTest {
 protected:
-    double columnValue(const char* name) {
-        return valueOf<double>(&ITARQModel::get_ColLPSol, Variant(name));
-    }
+    double columnValue(const char* name) { return valueOf<double>(&ITARQModel::get_ColLPSol, Variant(name)); }
 };
 
 TEST_F(SolveTest, BeforeAnyRunGettersLeaveTheirVariable) {

@@ -61,9 +61,9 @@ TEST_F(FilesTest, LevelsDecideWhichFilesAreWritten) {
     };
     TestModel model = smallLp();
     model.type[0] = 1;
-    for (const Case& level : {Case{{"xoutlv=0", "xoutsl=0"}, ""}, Case{{"xoutlv=1", "xoutsl=0"}, "sta "},
-                              Case{{"xoutlv=2", "xoutsl=1"}, "log sta lps ips "},
-                              Case{{"xoutlv=3", "xoutsl=2"}, "log sta lps ips "}}) {
+    for (const Case& level :
+         {Case{{"xoutlv=0", "xoutsl=0"}, ""}, Case{{"xoutlv=1", "xoutsl=0"}, "sta "},
+          Case{{"xoutlv=2", "xoutsl=1"}, "log sta lps ips "}, Case{{"xoutlv=3", "xoutsl=2"}, "log sta lps ips "}}) {
         clean();
         ASSERT_EQ(optimizeIp(model, names(level.parameters)).result, 0);
         EXPECT_EQ(written(), level.written);

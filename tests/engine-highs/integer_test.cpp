@@ -75,11 +75,8 @@ TEST_F(IntegerTest, OnlySolutionsBetterThanTheCutOffCount) {
 
 // With its integers held, a solution is that of an LP, whose duals are delivered.
 TEST_F(IntegerTest, DualsAreThoseOfTheLpWithIntegersHeld) {
-    TestModel model = TestModel{}
-                          .column(0, 5, -3, 1)
-                          .column(0, infinite, -2)
-                          .row(-infinite, {2, 1}, 7.5)
-                          .row(-infinite, {-1, 1}, 1);
+    TestModel model =
+        TestModel{}.column(0, 5, -3, 1).column(0, infinite, -2).row(-infinite, {2, 1}, 7.5).row(-infinite, {-1, 1}, 1);
     const StageResult best = optimizeIp(model);
     ASSERT_EQ(best.solutionStatus, 0);
     EXPECT_THAT(best.values, ElementsAre(2, 3, 7, 1));
@@ -97,14 +94,9 @@ TEST_F(IntegerTest, LimitsEndBranchAndBoundWithWhatItHas) {
         std::int32_t stopReason;
     };
     const std::vector<Case> cases{
-        {{"xmxnod=20"}, -1, 1, 6},
-        {{"xmxmin=0.01"}, -1, 1, 3},  // 0.6 seconds
-        {{"xmxint=1"}, -1, 1, 10},
-        {{"xmxint=0"}, -1, 1, 10},
-        {{}, 20, 999, 0},
-        {{"xmxnod=20"}, 500, 1, 6},
-        {{"xmxnod=500"}, 20, 999, 0},
-        {{"xmxnod=0"}, -1, 1, 6},
+        {{"xmxnod=20"}, -1, 1, 6},  {{"xmxmin=0.01"}, -1, 1, 3},  // 0.6 seconds
+        {{"xmxint=1"}, -1, 1, 10},  {{"xmxint=0"}, -1, 1, 10},    {{}, 20, 999, 0},
+        {{"xmxnod=20"}, 500, 1, 6}, {{"xmxnod=500"}, 20, 999, 0}, {{"xmxnod=0"}, -1, 1, 6},
     };
     for (const Case& limit : cases) {
         SCOPED_TRACE(testing::PrintToString(limit.parameters));

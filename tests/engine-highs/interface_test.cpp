@@ -150,10 +150,11 @@ TEST_F(InterfaceTest, AssignmentsAreTakenAndShownAgain) {
         const char* name;
         const char* shown;
     };
-    for (const Case& taken : {Case{"xtolx=1e-06", "xtolx", "1e-06"}, Case{"XTOLX = 2e-5 ", "XtolX", "2e-5"},
-                              Case{"xminmx='max'", "xminmx", "max"}, Case{"xfnlog=''", "xfnlog", ""},
-                              Case{"xfnlps='it's=here.lps'", "xfnlps", "it's=here.lps"}, Case{"xipbnd=+5", "xipbnd", "+5"},
-                              Case{"xwhat=anything", "xwhat", "anything"}, Case{"xmmax=30000", "xmmax", "30000"}}) {
+    for (const Case& taken :
+         {Case{"xtolx=1e-06", "xtolx", "1e-06"}, Case{"XTOLX = 2e-5 ", "XtolX", "2e-5"},
+          Case{"xminmx='max'", "xminmx", "max"}, Case{"xfnlog=''", "xfnlog", ""},
+          Case{"xfnlps='it's=here.lps'", "xfnlps", "it's=here.lps"}, Case{"xipbnd=+5", "xipbnd", "+5"},
+          Case{"xwhat=anything", "xwhat", "anything"}, Case{"xmmax=30000", "xmmax", "30000"}}) {
         EXPECT_EQ(set(taken.assignment), 0) << taken.assignment;
         EXPECT_EQ(get(taken.name), taken.shown);
     }

@@ -34,7 +34,8 @@ TEST_F(LinearTest, EveryAlgorithmFindsTheOptimum) {
 }
 
 TEST_F(LinearTest, InfeasibleAndUnboundedAreToldApart) {
-    TestModel infeasible = TestModel{}.column(0, infinite, 1).column(0, infinite, 1).row(2, {1, 1}, 3).row(5, {1, 1}, 9);
+    TestModel infeasible =
+        TestModel{}.column(0, infinite, 1).column(0, infinite, 1).row(2, {1, 1}, 3).row(5, {1, 1}, 9);
     // Presolve alone sees only that the columns that lower the cost have no end.
     TestModel unbounded = TestModel{}.column(0, infinite, -1).column(0, infinite, 1).row(0, {1, -1}, infinite);
     TestModel neither = TestModel{}.column(0, infinite, -1).column(0, infinite, 0).row(1, {0, 1}, 2).row(3, {0, 1}, 4);
@@ -115,11 +116,11 @@ TEST_F(LinearTest, DualsAreDerivativesOfTheObjective) {
 
 TEST_F(LinearTest, StatesAreThePublishedOnes) {
     const TestModel model = TestModel{}
-                                .column(0, 3, -1)                 // at its upper bound
-                                .column(0, 9, 0.5)                // at its lower bound
-                                .column(2, 2, 1)                  // fixed
-                                .column(-infinite, infinite, 0)   // free and of no use
-                                .column(0, infinite, -2)          // basic
+                                .column(0, 3, -1)                // at its upper bound
+                                .column(0, 9, 0.5)               // at its lower bound
+                                .column(2, 2, 1)                 // fixed
+                                .column(-infinite, infinite, 0)  // free and of no use
+                                .column(0, infinite, -2)         // basic
                                 .row(-infinite, {0, 1, 1, 0, 1}, 8)
                                 .row(-50, {1, 0, 0, 1, 0}, 50)
                                 .row(3, {1, 0, 0, 1, 0}, 3);

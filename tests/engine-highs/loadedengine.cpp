@@ -100,9 +100,9 @@ StageResult EngineTest::solveLp(std::int32_t iterationFrequency) const {
 
 StageResult EngineTest::solveIp(std::int32_t nodeFrequency) const {
     StageResult stage;
-    stage.result = operation<decltype(OptimizeIP)>("OptimizeIP")(
-        nodeFrequency, &stage.iterations, &stage.integerSolutions, &stage.stopReason, &stage.objective,
-        &stage.bestPossible);
+    stage.result =
+        operation<decltype(OptimizeIP)>("OptimizeIP")(nodeFrequency, &stage.iterations, &stage.integerSolutions,
+                                                      &stage.stopReason, &stage.objective, &stage.bestPossible);
     stage.values.resize(entries(rows_, columns_));
     stage.reducedCosts.resize(stage.values.size());
     stage.states.resize(stage.values.size());
@@ -132,11 +132,7 @@ void EngineTest::onCallback(std::function<void()> action) const {
 }
 
 TestModel smallLp() {
-    return TestModel{}
-        .column(0, 3, -1)
-        .column(0, infinite, -2)
-        .row(-infinite, {1, 1}, 4)
-        .row(-infinite, {1, 3}, 6);
+    return TestModel{}.column(0, 3, -1).column(0, infinite, -2).row(-infinite, {1, 1}, 4).row(-infinite, {1, 3}, 6);
 }
 
 TestModel denseLp(int size) {

@@ -33,11 +33,12 @@ TEST(SolutionCheck, PointsAreJudgedByTheModel) {
         bool feasible;
     };
     const std::vector<HighsVarType> integrality{HighsVarType::kContinuous, HighsVarType::kInteger};
-    for (const Case& judged : {Case{"inside", {0.5, 1}, true}, Case{"within tolerance", {-1e-7, 1.000001}, true},
-                               Case{"below a bound", {-0.01, 1}, false}, Case{"above a bound", {3.01, 0}, false},
-                               Case{"row too small", {0.5, 0}, false}, Case{"row too large", {3, 1}, false},
-                               Case{"fractional", {1, 0.5}, false}, Case{"not a number", {kHighsInf - kHighsInf, 1}, false},
-                               Case{"endless", {kHighsInf, 1}, false}, Case{"too short", {1}, false}}) {
+    for (const Case& judged :
+         {Case{"inside", {0.5, 1}, true}, Case{"within tolerance", {-1e-7, 1.000001}, true},
+          Case{"below a bound", {-0.01, 1}, false}, Case{"above a bound", {3.01, 0}, false},
+          Case{"row too small", {0.5, 0}, false}, Case{"row too large", {3, 1}, false},
+          Case{"fractional", {1, 0.5}, false}, Case{"not a number", {kHighsInf - kHighsInf, 1}, false},
+          Case{"endless", {kHighsInf, 1}, false}, Case{"too short", {1}, false}}) {
         std::vector<double> rows;
         const PointCheck check = checkPoint(twoColumns(), integrality, judged.point, {1e-6, 1e-5}, rows);
         EXPECT_EQ(check.feasible, judged.feasible) << judged.what;
@@ -58,9 +59,10 @@ TEST(StageControl, AStageThatDoesNotListenIsGivenUp) {
     };
     int calls = 0;
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(runStage(control, work, [&] {
-                  if (++calls == 2) control->requestStop();
-              }),
+    EXPECT_EQ(runStage(control, work,
+                       [&] {
+                           if (++calls == 2) control->requestStop();
+                       }),
               StageEnd::Abandoned);
     const auto took = std::chrono::steady_clock::now() - start;
     EXPECT_GE(took, stopPatience);
@@ -81,7 +83,8 @@ TEST(StageControl, TimeLimitEndsAtTheNextInterruptPoint) {
 
 TEST(StageControl, FailuresOfTheWorkReachTheCaller) {
     auto control = std::make_shared<StageControl>(1e9, 0);
-    EXPECT_THROW(static_cast<void>(runStage(control, [] { throw std::runtime_error("broken"); }, [] {})),
+    EXPECT_THROW(static_cast<void>(runStage(
+                     control, [] { throw std::runtime_error("broken"); }, [] {})),
                  std::runtime_error);
     // A caller that leaves early gives the stage up, which then ends by itself.
     auto left = std::make_shared<StageControl>(1e9, 0);

@@ -16,14 +16,10 @@ TEST_F(StopTest, IterationsEndTheLpWithWhatItHas) {
         const char* limit;
     };
     const std::vector<Case> cases{
-        {{"xlptyp=2", "xrduce=0"}, 5, 999, "0"},
-        {{"xlptyp=2", "xrduce=2"}, 5, 999, "0"},
-        {{"xlptyp=0", "xrduce=2"}, 5, 999, "0"},
-        {{"xmiter=5", "xrduce=2"}, 0, 1, "1"},
-        {{"xmiter=5", "xrduce=0"}, 9, 1, "1"},
-        {{"xmiter=9"}, 5, 999, "0"},
-        {{"xmiter=3", "xlptyp=4"}, 0, 1, "1"},
-        {{"xmxtlp=0"}, 0, 1, "2"},
+        {{"xlptyp=2", "xrduce=0"}, 5, 999, "0"}, {{"xlptyp=2", "xrduce=2"}, 5, 999, "0"},
+        {{"xlptyp=0", "xrduce=2"}, 5, 999, "0"}, {{"xmiter=5", "xrduce=2"}, 0, 1, "1"},
+        {{"xmiter=5", "xrduce=0"}, 9, 1, "1"},   {{"xmiter=9"}, 5, 999, "0"},
+        {{"xmiter=3", "xlptyp=4"}, 0, 1, "1"},   {{"xmxtlp=0"}, 0, 1, "2"},
     };
     for (const Case& limit : cases) {
         SCOPED_TRACE(testing::PrintToString(limit.parameters));
@@ -114,21 +110,16 @@ TEST_F(StopTest, StopInTheCallbackEndsTheStageAsABreak) {
 
 // So many nonzeros that HiGHS works on a thread of its own.
 TEST_F(StopTest, LargeLpsAreStoppedByTheClock) {
-    const TestModel model = denseLp(400);
-    optimizeLp(smallLp(), {"xrduce=0", "xlptyp=0"});
-    ASSERT_EQ(put(model), 0);
+    optimizeLp(smallLp(), {"xlptyp=0"});
+    ASSERT_EQ(put(denseLp(900)), 0);
     int calls = 0;
     onCallback([&] {
         if (++calls == 2) set("XCBSTP=1");
     });
-    const StageResult stopped = solveLp();
+    EXPECT_EQ(solveLp().result, 999);
+    EXPECT_GE(calls, 2);
     onCallback([] {});
-    const StageResult whole = solveLp();
-    EXPECT_EQ(whole.result, 0);
-    EXPECT_EQ(whole.solutionStatus, 0);
-    if (calls < 2) GTEST_SKIP() << "the machine was too fast to stop";
-    EXPECT_EQ(stopped.result, 999);
-    EXPECT_LT(stopped.iterations, whole.iterations);
+    EXPECT_NEAR(optimizeLp(smallLp()).objective, -5, 1e-9);
 }
 
 TEST_F(StopTest, AStopAtOnceLeavesTheModelUsable) {

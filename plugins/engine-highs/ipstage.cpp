@@ -1,0 +1,266 @@
+#include "ipstage.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "optionmapping.h"
+
+namespace tarq::engine {
+
+namespace {
+
+constexpr auto relaxed = std::memory_order_relaxed;
+constexpr std::int32_t noSolution = 4;
+constexpr double noCutoff = 1e20;
+
+class IpStage {
+public:
+    IpStage(SolverModel& model, const ParameterValues& parameters, std::shared_ptr<Watch> watch, int nodeFrequency)
+        : model_(model),
+          highs_(model.highs),
+          parameters_(parameters),
+          watch_(std::move(watch)),
+          control_(*watch_->control),
+          progress_(control_.progress),
+          mostNodes_(std::max(0, parameters.integer("xmxnod"))),
+          mostSolutions_(std::max(0, parameters.integer("xmxint"))),
+          frequency_(nodeFrequency > 0 ? nodeFrequency : 0) {}
+
+    StageOutcome run();
+
+private:
+    [[nodiscard]] HighsModelStatus attempt(bool presolve);
+    [[nodiscard]] HighsModelStatus settle();
+    [[nodiscard]] bool takeSolution();
+    void polish();
+    [[nodiscard]] StageOutcome ended(HighsModelStatus status);
+    [[nodiscard]] StageOutcome failed(HighsModelStatus status);
+    void describe(StageOutcome& outcome);
+    [[nodiscard]] bool beatsCutoff(double objective) const;
+
+    SolverModel& model_;
+    Highs& highs_;
+    const ParameterValues& parameters_;
+    const std::shared_ptr<Watch> watch_;
+    StageControl& control_;
+    Progress& progress_;
+    const int mostNodes_;
+    const int mostSolutions_;
+    const int frequency_;
+
+    bool found_ = false;  // a solution that passed the check
+    PointCheck check_;
+    SolutionArrays solution_;
+};
+
+bool IpStage::beatsCutoff(double objective) const {
+    const double cutoff = parameters_.number("xipbnd");
+    return std::abs(cutoff) >= noCutoff || model_.sense() * objective < model_.sense() * cutoff;
+}
+
+HighsModelStatus IpStage::attempt(bool presolve) {
+    if (control_.stopReason() != StopReason::None) return HighsModelStatus::kInterrupt;
+    if (mostSolutions_ == 0) return HighsModelStatus::kSolutionLimit;
+    watch_->log->clearMessage();
+    highs_.clearSolver();
+    highs_.resetOptions();
+    observe(highs_, watch_, &model_);
+    highs_.changeColsIntegrality(0, highs_.getLp().num_col_ - 1, model_.integrality.data());
+    applyOptions(parameters_, Stage::Ip, highs_);
+    if (!presolve) highs_.setOptionValue("presolve", "off");
+
+    const double cutoff = parameters_.number("xipbnd");
+    highs_.setOptionValue("objective_bound", std::abs(cutoff) >= noCutoff ? kHighsInf : model_.sense() * cutoff);
+    int nodes = frequency_ > 0 ? std::min(frequency_, mostNodes_) : mostNodes_;
+    nodes -= static_cast<int>(std::min<std::int64_t>(nodes, watch_->nodesBefore));
+    highs_.setOptionValue("mip_max_nodes", nodes);
+    highs_.setOptionValue("mip_max_improving_sols", mostSolutions_);
+    allowTimeLeft(highs_, control_);
+    highs_.run();
+
+    const HighsInfo& info = highs_.getInfo();
+    watch_->nodesBefore += std::max<std::int64_t>(0, info.mip_node_count);
+    watch_->iterationsBefore += std::max<HighsInt>(0, info.simplex_iteration_count);
+    progress_.nodes.store(watch_->nodesBefore, relaxed);
+    progress_.iterations.store(watch_->iterationsBefore, relaxed);
+    if (info.valid && std::isfinite(info.mip_dual_bound)) progress_.bestPossible.store(info.mip_dual_bound, relaxed);
+    return highs_.getModelStatus();
+}
+
+// Keeps HiGHS's solution when it is one of the model. False when it has to be refused.
+bool IpStage::takeSolution() {
+    found_ = false;
+    const HighsSolution& solution = highs_.getSolution();
+    if (!solution.value_valid) return false;
+    std::vector<double> rowValues;
+    check_ = checkPoint(highs_.getLp(), model_.integrality, solution.col_value, model_.tolerance, rowValues);
+    if (!check_.feasible) {
+        watch_->log->write(LogKind::Warning,
+                           fmt::format("WARNING: The solution violates bounds by {:.3g}, rows by {:.3g} and "
+                                       "integrality by {:.3g}.\n",
+                                       check_.bounds, check_.rows, check_.integrality));
+        return false;
+    }
+    found_ = true;
+    solution_.values = solution.col_value;
+    solution_.values.insert(solution_.values.end(), rowValues.begin(), rowValues.end());
+    solution_.reducedCosts.assign(solution_.values.size(), 0.0);
+    solution_.states.assign(solution_.values.size(), 0);
+    return true;
+}
+
+HighsModelStatus IpStage::settle() {
+    const bool presolve = parameters_.integer("xnopre") != 0;
+    HighsModelStatus status = attempt(presolve);
+    const auto settled = [&] {
+        const bool taken = takeSolution();
+        switch (status) {
+            case HighsModelStatus::kOptimal:
+                return taken;
+            case HighsModelStatus::kTimeLimit:
+            case HighsModelStatus::kIterationLimit:
+            case HighsModelStatus::kSolutionLimit:
+            case HighsModelStatus::kInterrupt:
+            case HighsModelStatus::kMemoryLimit:
+                return true;
+            default:
+                return control_.stopReason() != StopReason::None;
+        }
+    };
+    if (!settled() && presolve) {
+        status = attempt(false);
+        if (!settled() && status == HighsModelStatus::kOptimal) status = HighsModelStatus::kSolveError;
+    }
+    return status;
+}
+
+// Solves the LP that is left when the integer columns are fixed at the solution: it gives the duals, and a solution
+// whose integers are exact. Where it doesn't work out, the solution stays as it is, without duals.
+void IpStage::polish() {
+    Highs fixed;
+    auto watch = std::make_shared<Watch>();
+    watch->log = watch_->log;
+    const bool stopped = control_.stopReason() != StopReason::None;
+    if (!stopped) {
+        watch->control = watch_->control;
+        watch->incumbent = watch_->incumbent;
+        watch->iterationsBefore = watch_->iterationsBefore;
+    }
+    observe(fixed, watch, nullptr);
+    applyOptions(parameters_, Stage::Lp, fixed);
+    fixed.setOptionValue("solver", "simplex");
+    fixed.setOptionValue("time_limit", stopped ? 1.0 : control_.secondsLeft());
+
+    HighsLp lp = highs_.getLp();
+    lp.integrality_.clear();
+    for (std::size_t column = 0; column < model_.integrality.size(); ++column) {
+        if (model_.integrality[column] != HighsVarType::kInteger) continue;
+        lp.col_lower_[column] = lp.col_upper_[column] = std::round(solution_.values[column]);
+    }
+    if (fixed.passModel(std::move(lp)) == HighsStatus::kError) return;
+    fixed.run();
+    if (fixed.getModelStatus() != HighsModelStatus::kOptimal) return;
+
+    std::vector<double> rowValues;
+    const PointCheck check =
+        checkPoint(highs_.getLp(), model_.integrality, fixed.getSolution().col_value, model_.tolerance, rowValues);
+    const double worse = model_.sense() * (check.objective - check_.objective);
+    if (!check.feasible || worse > 1e-6 * std::max(1.0, std::abs(check_.objective))) return;
+    check_ = check;
+    solution_ = arraysOf(fixed);
+}
+
+void IpStage::describe(StageOutcome& outcome) {
+    outcome.bestPossible = progress_.bestPossible.load(relaxed);
+    outcome.solutionStatus = noSolution;
+    if (!found_ || !beatsCutoff(check_.objective)) return;
+    polish();
+    outcome.solutionStatus = outcome.result == 0 ? 0 : 3;
+    outcome.objective = check_.objective;
+    outcome.solution = std::move(solution_);
+    progress_.objective.store(outcome.objective, relaxed);
+    progress_.hasIncumbent.store(true, relaxed);
+    if (progress_.integerSolutions.load(relaxed) == 0) progress_.integerSolutions.store(1, relaxed);
+    // The bound may lie beyond the solution by what the tolerances allow.
+    if (model_.sense() * (outcome.bestPossible - outcome.objective) > 0.0) outcome.bestPossible = outcome.objective;
+}
+
+StageOutcome IpStage::ended(HighsModelStatus status) {
+    StageOutcome outcome;
+    outcome.result = 1;
+    const StopReason reason = control_.stopReason();
+    const bool nodesReached = mostSolutions_ > 0 && watch_->nodesBefore >= (frequency_ > 0 ? frequency_ : mostNodes_);
+    if (reason == StopReason::Request) {
+        outcome.result = resultStopped;
+    } else if (status == HighsModelStatus::kTimeLimit || status == HighsModelStatus::kInterrupt) {
+        outcome.limit = stopReasonTime;
+    } else if (frequency_ > 0 && frequency_ <= mostNodes_ && nodesReached) {
+        outcome.result = resultStopped;
+    } else {
+        const bool solutions = mostSolutions_ == 0 || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
+        outcome.limit = solutions ? stopReasonSolutions : stopReasonNodes;
+    }
+    describe(outcome);
+    return outcome;
+}
+
+StageOutcome IpStage::failed(HighsModelStatus status) {
+    StageOutcome outcome;
+    outcome.result = status == HighsModelStatus::kMemoryLimit ? 5 : 4;
+    outcome.solutionStatus = noSolution;
+    outcome.message = status == HighsModelStatus::kMemoryLimit
+                          ? std::string("Not enough memory.")
+                          : fmt::format("Branch and bound failed: {}.", highs_.modelStatusToString(status));
+    return outcome;
+}
+
+StageOutcome IpStage::run() {
+    const HighsModelStatus status = settle();
+    const bool optimal = status == HighsModelStatus::kOptimal;
+    if (!optimal && control_.stopReason() == StopReason::Request) return ended(HighsModelStatus::kInterrupt);
+    StageOutcome outcome;
+    switch (status) {
+        case HighsModelStatus::kOptimal:
+        case HighsModelStatus::kInfeasible:
+        case HighsModelStatus::kObjectiveBound:
+        case HighsModelStatus::kObjectiveTarget:
+            outcome.result = 0;
+            describe(outcome);
+            return outcome;
+        case HighsModelStatus::kTimeLimit:
+        case HighsModelStatus::kSolutionLimit:
+        case HighsModelStatus::kIterationLimit:
+        case HighsModelStatus::kInterrupt:
+            return ended(status);
+        default:
+            return control_.stopReason() == StopReason::None ? failed(status) : ended(HighsModelStatus::kInterrupt);
+    }
+}
+
+}  // namespace
+
+StageOutcome solveIp(SolverModel& model, const ParameterValues& parameters, const std::shared_ptr<Watch>& watch,
+                     int nodeFrequency) {
+    return IpStage(model, parameters, watch, nodeFrequency).run();
+}
+
+StageOutcome incumbentOutcome(Incumbent& incumbent, StopReason reason) {
+    StageOutcome outcome;
+    outcome.result = reason == StopReason::Request ? resultStopped : 1;
+    outcome.limit = reason == StopReason::Request ? 0 : stopReasonTime;
+    outcome.solutionStatus = noSolution;
+    const std::lock_guard lock(incumbent.mutex);
+    if (!incumbent.found) return outcome;
+    outcome.solutionStatus = 3;
+    outcome.objective = incumbent.objective;
+    outcome.solution.values = incumbent.columnValues;
+    outcome.solution.values.insert(outcome.solution.values.end(), incumbent.rowValues.begin(),
+                                   incumbent.rowValues.end());
+    outcome.solution.reducedCosts.assign(outcome.solution.values.size(), 0.0);
+    outcome.solution.states.assign(outcome.solution.values.size(), 0);
+    return outcome;
+}
+
+}  // namespace tarq::engine
