@@ -30,7 +30,7 @@ function(tarq_room name)
   set_target_properties(tarq_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(tarq_${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/include")
   target_compile_definitions(tarq_${name} PUBLIC TARQ_BUILDING_COMPONENT)
-  target_link_libraries(tarq_${name} PRIVATE tarq_options PUBLIC fmt::fmt Threads::Threads ${CMAKE_DL_LIBS} ${room_LIBRARIES})
+  target_link_libraries(tarq_${name} PRIVATE tarq_options PUBLIC fmt::fmt-header-only Threads::Threads ${CMAKE_DL_LIBS} ${room_LIBRARIES})
 endfunction()
 
 # Links TARGET with the objects of the rooms named and of all rooms below them.

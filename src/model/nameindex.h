@@ -1,12 +1,12 @@
 // NameIndex: finds the position of a name without keeping the name.
 //
 // An entry is a hash and a position, 8 bytes; the names stay in the records of the owner, which hands in `nameOf`, a
-// function from a position to the name that stands there. Names are compared byte by byte. When memory runs out an
+// function from a position to the name that stands there. Names are compared byte by byte. The hash depends on a secret
+// drawn for each index, so that no model can be made whose names all fall on one place. When memory runs out an
 // operation throws std::bad_alloc and leaves the index as it was.
 #pragma once
 
-#include <absl/container/flat_hash_set.h>
-#include <absl/hash/hash.h>
+#include <tsl/robin_set.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +17,8 @@ namespace tarq {
 class NameIndex {
 public:
     static constexpr std::int32_t absent = -1;
+
+    NameIndex();
 
     /// Position of a name, or `absent`.
     template <class NameOf>
@@ -29,18 +31,15 @@ public:
     template <class NameOf>
     bool insert(std::string_view name, std::int32_t position, const NameOf& nameOf) {
         const Wanted<NameOf> wanted{hashOf(name), name, nameOf};
-        bool isNew = false;
-        entries_.lazy_emplace(wanted, [&](const auto& construct) {
-            construct(Entry{wanted.hash, position});
-            isNew = true;
-        });
-        return isNew;
+        if (entries_.find(wanted) != entries_.end()) return false;
+        entries_.insert(Entry{wanted.hash, position});
+        return true;
     }
 
     /// Takes out the name that stands at `position`.
     void erase(std::string_view name, std::int32_t position) { entries_.erase(Entry{hashOf(name), position}); }
 
-    /// Takes out the positions from `first` to before `end` and moves those behind them up, in one pass.
+    /// Takes out the positions from `first` to before `end` and moves those behind them up. Linear, whatever the range.
     void removePositions(std::int32_t first, std::int32_t end);
 
     void reserve(std::size_t count) { entries_.reserve(count); }
@@ -59,11 +58,9 @@ private:
         const NameOf& nameOf;
     };
     struct Hash {
-        using is_transparent = void;
         template <class Key>
         std::size_t operator()(const Key& key) const {
-            // The set takes a group from the upper bits and compares the lowest seven; 32 bits are spread over both.
-            return std::size_t{key.hash} * 0x9E37'79B9'7F4A'7C15U;
+            return key.hash;
         }
     };
     struct Equal {
@@ -78,12 +75,13 @@ private:
             return (*this)(entry, wanted);
         }
     };
+    using Entries = tsl::robin_set<Entry, Hash, Equal>;
 
-    [[nodiscard]] static std::uint32_t hashOf(std::string_view name) {
-        return static_cast<std::uint32_t>(absl::Hash<std::string_view>()(name));
-    }
+    [[nodiscard]] std::uint32_t hashOf(std::string_view name) const;
 
-    absl::flat_hash_set<Entry, Hash, Equal> entries_;
+    Entries entries_;
+    std::uint64_t secret_;
+    std::uint64_t multiplier_;  ///< odd
 };
 
 }  // namespace tarq
