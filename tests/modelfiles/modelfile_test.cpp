@@ -43,11 +43,11 @@ TEST_F(ModelFile, FileNameIsMeasuredInCharactersAndBeforeAnythingElse) {
     for (int count = 0; count < 255; ++count) accents += "\xC3\xA9";
     for (const std::string& fits : {accents, std::string(255, 'a')}) {
         EXPECT_THAT(readModelFile(fits, TARQFileFormatType::MPS, model_),
-                    FailsWith(status::fileAccess, "Error while opening, reading or writing to a file."));
+                    failsWith(status::fileAccess, "Error while opening, reading or writing to a file."));
     }
     for (const std::string& tooLong : {accents + 'a', std::string(256, 'a')}) {
         EXPECT_THAT(readModelFile(tooLong, TARQFileFormatType(9), model_),
-                    FailsWith(status::textTooLong, "Passed string is to long."));
+                    failsWith(status::textTooLong, "Passed string is to long."));
     }
     expectUntouched();
 }
@@ -59,7 +59,7 @@ TEST_F(ModelFile, FileThatCannotBeReadLeavesTheModel) {
     for (const std::string& name :
          {std::string(), folder_.string(), (folder_ / "missing.mps").string(), huge, good + '\0' + "x"}) {
         EXPECT_THAT(readModelFile(name, TARQFileFormatType(9), model_),
-                    FailsWith(status::fileAccess, "Error while opening, reading or writing to a file."))
+                    failsWith(status::fileAccess, "Error while opening, reading or writing to a file."))
             << name;
     }
     expectUntouched();
@@ -67,7 +67,7 @@ TEST_F(ModelFile, FileThatCannotBeReadLeavesTheModel) {
 
 TEST_F(ModelFile, UnknownFormatOfAnExistingFileLeavesTheModel) {
     EXPECT_THAT(readModelFile(file("a.mps", minimal), TARQFileFormatType(3), model_),
-                FailsWith(status::invalidArgument, "Wrong parameter for file format."));
+                failsWith(status::invalidArgument, "Wrong parameter for file format."));
     expectUntouched();
 }
 
@@ -75,14 +75,14 @@ TEST_F(ModelFile, AnyLineEndReadsTheSame) {
     std::string windows;
     for (const char c : minimal) windows += c == '\n' ? std::string("\r\n") : std::string(1, c);
     for (const std::string& content : {minimal, windows, minimal.substr(0, minimal.size() - 1)}) {
-        EXPECT_THAT(readModelFile(file("a.mps", content), TARQFileFormatType::MPS, model_), IsOk());
+        EXPECT_THAT(readModelFile(file("a.mps", content), TARQFileFormatType::MPS, model_), succeeds());
         EXPECT_EQ(model_.modelStore.columnCount(), 0) << "what the model held before is gone";
     }
     // A lone carriage return ends no line, and the last one of two belongs to the line feed.
     EXPECT_THAT(readModelFile(file("a.mps", "NAME\rROWS\n"), TARQFileFormatType::MPS, model_),
-                FailsWith(status::syntaxError, "Error parsing MPS file: NAME indicator expected. Line 1"));
+                failsWith(status::syntaxError, "Error parsing MPS file: NAME indicator expected. Line 1"));
     EXPECT_THAT(readModelFile(file("a.mps", "NAME\nROWS\r\r\n"), TARQFileFormatType::MPS, model_),
-                FailsWith(status::syntaxError, "Error parsing MPS file: ROWS indicator expected. Line 2"));
+                failsWith(status::syntaxError, "Error parsing MPS file: ROWS indicator expected. Line 2"));
 }
 
 TEST_F(ModelFile, RealFilesHaveTheSizesOfTheirTable) {
@@ -102,7 +102,7 @@ TEST_F(ModelFile, RealFilesHaveTheSizesOfTheirTable) {
         std::int64_t integerCount = 0;
         entry >> name >> kind >> rowCount >> columnCount >> nonzeroCount >> integerCount;
         const std::string path = (std::filesystem::path(folder) / name).string();
-        ASSERT_THAT(readModelFile(path, TARQFileFormatType::MPS, model_), IsOk()) << name;
+        ASSERT_THAT(readModelFile(path, TARQFileFormatType::MPS, model_), succeeds()) << name;
         const ModelStore& store = model_.modelStore;
         EXPECT_EQ(store.rowCount(), rowCount) << name;
         EXPECT_EQ(store.columnCount(), columnCount) << name;

@@ -76,7 +76,7 @@ TEST(MpsFailure, EachBrokenRuleIsNamedWithItsLine) {
     for (const FailureCase& failure : failureCases) {
         MpsModel model;
         EXPECT_THAT(model.read(failure.text),
-                    FailsWith(status::syntaxError, "Error parsing MPS file: " + failure.messageAndLine))
+                    failsWith(status::syntaxError, "Error parsing MPS file: " + failure.messageAndLine))
             << failure.text;
         EXPECT_EQ(model.clearings, 1);
     }
@@ -93,7 +93,7 @@ TEST(MpsFailure, TextCutAnywhereBeforeItsEndFails) {
         MpsModel model;
         EXPECT_TRUE(model.read(sample.substr(0, length)).failed()) << length;
     }
-    EXPECT_THAT(MpsModel().read(sample.substr(0, complete)), IsOk());
+    EXPECT_THAT(MpsModel().read(sample.substr(0, complete)), succeeds());
 }
 
 TEST(MpsFailure, AnyByteAnywhereEndsInAMessageOrAModel) {

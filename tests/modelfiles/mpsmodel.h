@@ -1,10 +1,7 @@
 // What the tests of the MPS reader share: a model that notes all it is told, and lines laid out in fixed columns.
 #pragma once
 
-#include <gmock/gmock.h>
-
 #include <initializer_list>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,19 +10,9 @@
 #include "frame/status.h"
 #include "modelfiles/fixedfields.h"
 #include "modelfiles/modelfile.h"
+#include "tests/support/outcomematchers.h"
 
 namespace tarq {
-
-inline void PrintTo(const Outcome& outcome, std::ostream* out) {
-    *out << std::hex << outcome.status().value() << std::dec << " \"" << outcome.description() << '"';
-}
-
-inline testing::Matcher<const Outcome&> IsOk() { return testing::Property("status", &Outcome::status, status::ok); }
-
-inline testing::Matcher<const Outcome&> FailsWith(Status status, const std::string& description) {
-    return testing::AllOf(testing::Property("status", &Outcome::status, status),
-                          testing::Property("description", &Outcome::description, description));
-}
 
 /// A line with the texts in fields 1, 2, 3 and so on, numbers to the right of their fields.
 inline std::string fields(std::initializer_list<std::string_view> texts) {

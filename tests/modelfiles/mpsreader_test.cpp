@@ -27,7 +27,7 @@ TEST(MpsReader, EachSectionFillsItsPartOfTheModel) {
                              fields({"", "Y", "L1", "4e1", "G1", "1"}) + "RHS\n" +
                              fields({"", "B", "E1", "7", "L1", "8"}) + "RANGES\n" + fields({"", "R", "L1", "3"}) +
                              "BOUNDS\n" + fields({"UP", "BND", "X", "9"}) + "ENDATA\nanything behind it is not read";
-    ASSERT_THAT(model.read(text), IsOk());
+    ASSERT_THAT(model.read(text), succeeds());
     EXPECT_EQ(model.name, "TINY MODEL");
     EXPECT_THAT(model.parameters, ElementsAre(Pair("xdata", "TINY MODEL"), Pair("xobj", "COST"), Pair("xrhs", "B"),
                                               Pair("XRANGE", "R"), Pair("XBOUND", "BND")));
@@ -51,7 +51,8 @@ TEST(MpsReader, RowTypeIsToldByEitherColumnAndKeptInTheDual) {
         {" L", 2, -inf, 0}, {"G ", 3, 0, inf}, {"GE", 3, 0, inf}, {" G", 3, 0, inf},  {" n", 4, -inf, inf}};
     for (const auto& [type, dual, lower, upper] : cases) {
         MpsModel model;
-        ASSERT_THAT(model.read("NAME\nROWS\n N  COST\n" + fields({type, "R"}) + "COLUMNS\nENDATA\n"), IsOk()) << type;
+        ASSERT_THAT(model.read("NAME\nROWS\n N  COST\n" + fields({type, "R"}) + "COLUMNS\nENDATA\n"), succeeds())
+            << type;
         EXPECT_EQ(model.row("R").dual, dual) << type;
         EXPECT_EQ(model.row("R").lowerBound, lower) << type;
         EXPECT_EQ(model.row("R").upperBound, upper) << type;
@@ -60,7 +61,7 @@ TEST(MpsReader, RowTypeIsToldByEitherColumnAndKeptInTheDual) {
 
 TEST(MpsReader, RowNamedTwiceKeepsItsFirstType) {
     MpsModel model;
-    ASSERT_THAT(model.read("NAME\nROWS\n N  C\n E  R\n L  R\n N  C\nCOLUMNS\nENDATA\n"), IsOk());
+    ASSERT_THAT(model.read("NAME\nROWS\n N  C\n E  R\n L  R\n N  C\nCOLUMNS\nENDATA\n"), succeeds());
     EXPECT_EQ(model.modelStore.rowCount(), 1);
     EXPECT_EQ(model.row("R").dual, 1);
 }
@@ -70,7 +71,7 @@ TEST(MpsReader, ColumnMetAgainKeepsItsPlaceAndItsNonzerosAreReplaced) {
     ASSERT_THAT(
         model.read(opening + fields({"", "X", "E1", "1", "COST", "1"}) + fields({"", "Y", "E1", "5"}) +
                    fields({"", "X", "E1", "2", "COST", "3"}) + fields({"", "X", "E1", "0", "L1", "0"}) + "ENDATA\n"),
-        IsOk());
+        succeeds());
     EXPECT_EQ(model.modelStore.columnCount(), 2);
     EXPECT_EQ(model.nonzero("X", "E1"), 2) << "a zero is dropped and erases nothing";
     EXPECT_EQ(model.column("X").cost, 3);
@@ -84,7 +85,7 @@ TEST(MpsReader, MarkersMakeNewColumnsBinary) {
         model.read(opening + fields({"", "A", "E1", "1"}) + marker + "'IntOrg'\n" + fields({"", "A", "L1", "1"}) +
                    fields({"", "B", "E1", "1"}) + marker + "\n" + fields({"", "C", "E1", "1"}) + marker + "'INTEND'\n" +
                    fields({"", "D", "E1", "1"}) + "ENDATA\n"),
-        IsOk());
+        succeeds());
     EXPECT_EQ(model.column("A").type, TARQColType::Continuous);
     EXPECT_EQ(model.column("A").upperBound, inf);
     EXPECT_EQ(model.column("B").type, TARQColType::Binary);
@@ -107,7 +108,7 @@ TEST(MpsReader, RightHandSidesAndRangesActByRowType) {
         const std::string range = c.range == nullptr ? "" : "RANGES\n" + fields({"", "", c.row, c.range});
         ASSERT_THAT(model.read(oneColumn + "RHS\n" + fields({"", "A", c.row, "3"}) +
                                fields({"", "B", c.row, c.rightHandSide}) + range + "ENDATA\n"),
-                    IsOk());
+                    succeeds());
         EXPECT_EQ(model.row(c.row).lowerBound, c.lower) << c.row << ' ' << c.rightHandSide;
         EXPECT_EQ(model.row(c.row).upperBound, c.upper) << c.row << ' ' << c.rightHandSide;
     }
@@ -144,7 +145,7 @@ TEST(MpsReader, BoundsSetSidesAndType) {
         const std::string marker = c.before == binary ? "    M         'MARKER'                 'INTORG'\n" : "";
         ASSERT_THAT(model.read(opening + marker + fields({"", "X", "E1", "1"}) + "BOUNDS\n" +
                                fields({c.type, "", "X", c.value}) + "ENDATA\n"),
-                    IsOk())
+                    succeeds())
             << c.type;
         EXPECT_EQ(model.column("X").lowerBound, c.lower) << c.type << ' ' << c.value;
         EXPECT_EQ(model.column("X").upperBound, c.upper) << c.type << ' ' << c.value;
@@ -157,7 +158,7 @@ TEST(MpsReader, BoundWithoutANumberTakesTheLastOneReadInTheSection) {
     ASSERT_THAT(model.read(oneColumn + fields({"", "Y", "E1", "1"}) + fields({"", "Z", "E1", "1"}) + "BOUNDS\n" +
                            fields({"UP", "", "X"}) + fields({"UP", "", "Y", "6"}) + fields({"LO", "", "Z", "   "}) +
                            "ENDATA\n"),
-                IsOk());
+                succeeds());
     EXPECT_EQ(model.column("X").upperBound, 0);
     EXPECT_EQ(model.column("Z").lowerBound, 6);
 }
@@ -166,7 +167,7 @@ TEST(MpsReader, TextIsTakenAsItsPlacesHoldIt) {
     MpsModel model;
     ASSERT_THAT(model.read("name\r\n rows\r\n N  COST\r\n E  A B\r\n E  LONGNAME9 ignored\r\nCOLUMNS\r\n"
                            "\t   X         A B       1 2 . 5 e 1 77 LONGNAME  2\r\nENDATA"),
-                IsOk());
+                succeeds());
     EXPECT_EQ(model.nonzero("X", "A B"), 125) << "blanks in a number are dropped, digits behind its place are lost";
     EXPECT_EQ(model.nonzero("X", "LONGNAME"), 2);
 }
@@ -174,7 +175,7 @@ TEST(MpsReader, TextIsTakenAsItsPlacesHoldIt) {
 TEST(MpsReader, FailureLeavesWhatWasReadBeforeIt) {
     MpsModel model;
     ASSERT_THAT(model.read(oneColumn + fields({"", "Y", "NOROW", "1"})),
-                FailsWith(status::syntaxError, "Error parsing MPS file: Row name does not exist. Line 10"));
+                failsWith(status::syntaxError, "Error parsing MPS file: Row name does not exist. Line 10"));
     EXPECT_EQ(model.nonzero("X", "E1"), 2);
     EXPECT_GE(model.modelStore.findColumn("Y"), 0) << "the column is added before its row is looked up";
 }
