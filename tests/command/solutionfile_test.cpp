@@ -32,7 +32,9 @@ TEST_F(CommandSolutionFileTest, JsonHasTheSameInTwoLists) {
 
 TEST_F(CommandSolutionFileTest, IntegerSolutionTakesTheRelaxationsPlace) {
     ASSERT_EQ(run({"solve", example("crew_schedule.mps"), "--solution", path("crew.json")}).exitCode, 0);
-    for (const Json& column : Json::parse(contentOf(path("crew.json")))["columns"]) {
+    const Json solution = Json::parse(contentOf(path("crew.json")));
+    ASSERT_EQ(solution["columns"].size(), 84U);
+    for (const Json& column : solution["columns"]) {
         const double value = column["value"].get<double>();
         EXPECT_NEAR(value, std::round(value), 1e-6) << column;
     }
