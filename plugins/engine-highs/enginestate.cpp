@@ -59,7 +59,7 @@ std::int32_t EngineState::release() {
     return success;
 }
 
-std::int32_t EngineState::fail(std::int32_t result, std::string text) {
+std::int32_t EngineState::fail(std::int32_t result, const std::string& text) {
     line1_.clear();
     line2_.clear();
     note(text);

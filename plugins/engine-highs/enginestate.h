@@ -73,7 +73,7 @@ public:
     std::int32_t ipSolution(const SolutionOutputs& outputs);
 
     /// Keeps `text` as the last message and gives back `result`.
-    std::int32_t fail(std::int32_t result, std::string text);
+    std::int32_t fail(std::int32_t result, const std::string& text);
 
 private:
     [[nodiscard]] StageOutcome runInThread(Stage stage, const std::shared_ptr<Watch>& watch, int frequency,

@@ -192,12 +192,12 @@ StageOutcome IpStage::ended(HighsModelStatus status) {
     outcome.result = 1;
     const StopReason reason = control_.stopReason();
     const bool nodesReached = mostSolutions_ > 0 && watch_->nodesBefore >= (frequency_ > 0 ? frequency_ : mostNodes_);
-    if (reason == StopReason::Request) {
+    const bool timeUp = status == HighsModelStatus::kTimeLimit || status == HighsModelStatus::kInterrupt;
+    const bool atBreak = frequency_ > 0 && frequency_ <= mostNodes_ && nodesReached;
+    if (reason == StopReason::Request || (atBreak && !timeUp)) {
         outcome.result = resultStopped;
-    } else if (status == HighsModelStatus::kTimeLimit || status == HighsModelStatus::kInterrupt) {
+    } else if (timeUp) {
         outcome.limit = stopReasonTime;
-    } else if (frequency_ > 0 && frequency_ <= mostNodes_ && nodesReached) {
-        outcome.result = resultStopped;
     } else {
         const bool solutions = mostSolutions_ == 0 || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
         outcome.limit = solutions ? stopReasonSolutions : stopReasonNodes;

@@ -28,7 +28,7 @@ private:
     [[nodiscard]] HighsModelStatus attempt(bool presolve, bool primalSimplex);
     [[nodiscard]] HighsModelStatus solvePresolved(bool primalSimplex);
     [[nodiscard]] HighsModelStatus runWhole();
-    void returnToModel(HighsSolution solution, HighsBasis basis, bool optimal);
+    void returnToModel(const HighsSolution& solution, HighsBasis basis, bool optimal);
     void setOptions(Highs& highs, bool primalSimplex);
     void setIterationLimit(Highs& highs);
     void countIterations(const Highs& highs);
@@ -124,7 +124,7 @@ HighsModelStatus LpStage::solvePresolved(bool primalSimplex) {
         basis.valid = true;
         basis.useful = true;
         basis.alien = false;
-        returnToModel(std::move(solution), std::move(basis), true);
+        returnToModel(solution, std::move(basis), true);
         return highs_.getModelStatus();
     }
     HighsSolution solution;
@@ -144,13 +144,13 @@ HighsModelStatus LpStage::solvePresolved(bool primalSimplex) {
     }
     const bool optimal = status == HighsModelStatus::kOptimal;
     const bool stopped = isStopped(status) || control_.stopReason() != StopReason::None;
-    if (optimal || (stopped && solution.value_valid)) returnToModel(std::move(solution), std::move(basis), optimal);
+    if (optimal || (stopped && solution.value_valid)) returnToModel(solution, std::move(basis), optimal);
     return optimal ? highs_.getModelStatus() : status;
 }
 
 // Takes a solution of the presolved model back to the model itself. HiGHS follows it up with the simplex method, which
 // finds nothing left to do after an optimum; after anything else it only evaluates the point.
-void LpStage::returnToModel(HighsSolution solution, HighsBasis basis, bool optimal) {
+void LpStage::returnToModel(const HighsSolution& solution, HighsBasis basis, bool optimal) {
     highs_.setOptionValue("solver", "simplex");
     highs_.setOptionValue("simplex_strategy", kSimplexStrategyChoose);
     allowTimeLeft(highs_, control_);

@@ -1,6 +1,8 @@
 // The few places where HiGHS prints without asking its log options end here: an engine never writes to the standard
 // streams of its host. The linker sends the printing functions of the whole library to these.
 
+// The linker makes these names.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 
 int __wrap_printf(const char* format, ...);
@@ -13,3 +15,4 @@ int __wrap_puts(const char* /*text*/) { return 0; }
 
 int __wrap_putchar(int character) { return character; }
 }
+// NOLINTEND(bugprone-reserved-identifier)

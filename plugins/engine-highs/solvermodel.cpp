@@ -29,6 +29,8 @@ void takeSimplexLine(const char* line, Progress& progress) {
     double objective = 0.0;
     double sum = 0.0;
     char phase[4] = {};
+    // A number out of range would only be shown as it comes out.
+    // NOLINTNEXTLINE(cert-err34-c)
     if (std::sscanf(line, "%lld %lf %3[Ph1r]: %lld(%lf)", &iterations, &objective, phase, &infeasibilities, &sum) !=
         5) {
         return;

@@ -21,8 +21,8 @@
 
 namespace tarq {
 
-// Two members are published with a leading underscore and a capital.
-// NOLINTBEGIN(bugprone-reserved-identifier)
+// Two members are published with a leading underscore and a capital, and the last reference alone may delete the
+// object. NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
 class CTARQModel final : public CountedObject<CTARQModel, ITARQModel>, private ModelFileTarget {
 public:
     CTARQModel();
@@ -189,6 +189,6 @@ private:
     std::atomic<bool> busy_{false};
     Outcome pendingError_;
 };
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq
