@@ -1,15 +1,18 @@
 // Catches the user's wish to stop (Ctrl-C, or a request to terminate) while a run is on.
 #pragma once
 
+#include <tarq/tarq.h>
+
 #include <csignal>
 
 namespace tarq::command {
 
-/// While it lives, the first SIGINT or SIGTERM is only noted, and a second one ends the process at once with the exit
-/// code 128 plus the signal's number. A signal that was ignored before stays ignored. One object at a time.
+/// While it lives, the first SIGINT or SIGTERM asks the model's run to stop, and a second one ends the process at once
+/// with the exit code 128 plus the signal's number. A signal that was ignored before stays ignored. Uses SIGALRM too.
+/// One object at a time, and none while the model goes away.
 class InterruptWatch {
 public:
-    InterruptWatch();
+    explicit InterruptWatch(ITARQModel& model);
     InterruptWatch(const InterruptWatch&) = delete;
     InterruptWatch& operator=(const InterruptWatch&) = delete;
     ~InterruptWatch();
@@ -20,6 +23,7 @@ public:
 private:
     struct sigaction oldInterrupt_ {};
     struct sigaction oldTerminate_ {};
+    struct sigaction oldAlarm_ {};
 };
 
 }  // namespace tarq::command

@@ -7,8 +7,8 @@
 
 namespace tarq::command {
 
-/// Runs Optimize while a thread of its own shows the progress and listens for Ctrl-C, and fills in the run's outcome.
-/// Blocks until the run has ended.
+/// Runs Optimize on this thread while another one shows the progress, if that is wanted, and Ctrl-C asks for a stop;
+/// fills in the run's outcome.
 void runWatched(ITARQModel& model, bool showProgress, RunResult& result);
 
 }  // namespace tarq::command

@@ -123,7 +123,7 @@ public:
     /// Shows the parameter page.
     virtual Status ShowPropertyPage(std::int32_t* pbDirty) = 0;
 
-    /// Asks a run to stop at the next opportunity. Callable from any thread.
+    /// Asks a run to stop at the next opportunity. Callable from any thread, and from a signal handler.
     virtual Status StopOptimizeAsync() = 0;
 
     /// Writes a readable listing of the model or of a cutout.
