@@ -37,6 +37,8 @@ def main():
             ratios[model["kind"]].append(ratio)
             print(f"{model['file']:24} {model['kind']:4} tarq {ours:9.2f} ms  highs {theirs:9.2f} ms  ratio {ratio:5.2f}")
     for kind, values in ratios.items():
+        if not values:
+            continue
         mean = math.exp(statistics.fmean(map(math.log, values)))
         print(f"{kind}: geometric mean of the ratios {mean:.3f}, largest {max(values):.3f}")
 
