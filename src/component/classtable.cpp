@@ -2,22 +2,31 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 
 #include "component/ctarqmodel.h"
 #include "frame/text.h"
 #include "interfaces/classids.h"
+#include "interfaces/itarqmodelevents.h"
 
 namespace tarq {
 namespace {
 
-template <class Class>
-Ref<IUnknown> create() {
-    return Ref<IUnknown>(std::make_unique<Class>().release());
-}
-
 constexpr std::array classes{
-    ClassEntry{"TARQModel", classid::TARQModel, &create<CTARQModel>},
+    ClassEntry{"TARQModel", classid::TARQModel, "ITARQModel", &createInstance<CTARQModel>, &ITARQModel::memberTable,
+               &_ITARQModelEvents::memberTable},
+    ClassEntry{"TARQSet", classid::TARQSet, "ITARQSet"},
+    ClassEntry{"TARQSeries", classid::TARQSeries, "ITARQSeries"},
+    ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray"},
+    ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar"},
+    ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes"},
+    ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet"},
+    ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet"},
+    ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum"},
+    ClassEntry{"TARQSetEnum", classid::TARQSetEnum, "ITARQSetEnum"},
+    ClassEntry{"TARQArrayEnum", classid::TARQArrayEnum, "ITARQArrayEnum"},
+    ClassEntry{"TARQVarSetEnum", classid::TARQVarSetEnum, "ITARQVarSetEnum"},
+    ClassEntry{"TARQResSetEnum", classid::TARQResSetEnum, "ITARQResSetEnum"},
+    ClassEntry{"tarqprop1", classid::tarqprop1, ""},
 };
 
 constexpr std::string_view progIdPrefix = "tarq.";
@@ -30,15 +39,26 @@ std::string_view classNameOf(std::string_view name) {
     return name;
 }
 
+const ClassEntry* entryWhere(const auto& matches) {
+    const auto* found = std::ranges::find_if(classes, matches);
+    return found == classes.end() ? nullptr : found;
+}
+
 }  // namespace
+
+std::string ClassEntry::progId() const { return std::string(progIdPrefix).append(name); }
+std::string ClassEntry::versionedProgId() const { return progId().append(progIdVersion); }
+std::string ClassEntry::description() const { return std::string(name).append(" Class"); }
 
 std::span<const ClassEntry> classTable() { return classes; }
 
 const ClassEntry* findClass(std::string_view name) {
     const std::string_view className = classNameOf(name);
-    const auto* found =
-        std::ranges::find_if(classes, [&](const ClassEntry& entry) { return equalWithoutCase(entry.name, className); });
-    return found == classes.end() ? nullptr : found;
+    return entryWhere([&](const ClassEntry& entry) { return equalWithoutCase(entry.name, className); });
+}
+
+const ClassEntry* findClass(const Guid& classId) {
+    return entryWhere([&](const ClassEntry& entry) { return entry.classId == classId; });
 }
 
 }  // namespace tarq

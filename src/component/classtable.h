@@ -2,21 +2,37 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
+#include "frame/membertable.h"
 #include "frame/object.h"
 
 namespace tarq {
 
 struct ClassEntry {
-    std::string_view name;  ///< class name; the ProgID is "tarq." and the name, the versioned one adds ".1"
+    std::string_view name;
     Guid classId;
-    Ref<IUnknown> (*create)();
+    std::string_view defaultInterface;
+    /// Makes an object, as createInstance; null for a class that this version lists but doesn't offer yet.
+    Status (*create)(IUnknown* outer, const Guid& interfaceId, void** out) = nullptr;
+    /// The members of the default interface and of the outgoing one; null where there is none.
+    const InterfaceTable& (*members)() = nullptr;
+    const InterfaceTable& (*events)() = nullptr;
+
+    /// "tarq.TARQModel", and with the version "tarq.TARQModel.1".
+    [[nodiscard]] TARQ_API std::string progId() const;
+    [[nodiscard]] TARQ_API std::string versionedProgId() const;
+    /// The name with " Class" behind it.
+    [[nodiscard]] TARQ_API std::string description() const;
 };
 
-std::span<const ClassEntry> classTable();
+[[nodiscard]] TARQ_API std::span<const ClassEntry> classTable();
 
 /// The class of a class name, a ProgID or a versioned ProgID, compared without regard to case; null when there is none.
-[[nodiscard]] const ClassEntry* findClass(std::string_view name);
+[[nodiscard]] TARQ_API const ClassEntry* findClass(std::string_view name);
+
+/// The class of an identifier; null when there is none.
+[[nodiscard]] TARQ_API const ClassEntry* findClass(const Guid& classId);
 
 }  // namespace tarq

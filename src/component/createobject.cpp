@@ -1,6 +1,5 @@
 #include "component/createobject.h"
 
-#include <new>
 #include <string>
 
 #include "component/classtable.h"
@@ -10,16 +9,19 @@ namespace tarq {
 
 Ref<IUnknown> createObject(std::string_view name) {
     const ClassEntry* found = findClass(name);
-    if (found == nullptr) {
-        (void)raise(Guid{}, "There is no class '" + std::string(name) + "'.", status::classNotAvailable);
+    if (found == nullptr || found->create == nullptr) {
+        const std::string_view reason =
+            found == nullptr ? "There is no class '" : "This version doesn't offer the class '";
+        (void)raise(found == nullptr ? Guid{} : found->classId, std::string(reason).append(name).append("'."),
+                    status::classNotAvailable);
         return {};
     }
-    try {
-        return found->create();
-    } catch (const std::bad_alloc&) {
-        (void)raise(found->classId, "Out of memory.", status::outOfMemory);
+    void* object = nullptr;
+    if (const Status created = found->create(nullptr, IUnknown::id, &object); !created.isOk()) {
+        (void)raise(found->classId, std::string(status::meaning(created)), created);
         return {};
     }
+    return Ref<IUnknown>::adopt(static_cast<IUnknown*>(object));
 }
 
 }  // namespace tarq

@@ -11,10 +11,13 @@
 
 #include "engine/enginebinding.h"
 #include "engine/run.h"
+#include "frame/connectionpoint.h"
 #include "frame/countedobject.h"
 #include "frame/objecterror.h"
+#include "frame/supporterrorinfo.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodel.h"
+#include "interfaces/itarqmodelevents.h"
 #include "model/modelstore.h"
 #include "modelfiles/modelfile.h"
 #include "parameters/parametertable.h"
@@ -23,9 +26,14 @@ namespace tarq {
 
 // Two members are published with a leading underscore and a capital, and the last reference alone may delete the
 // object. NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
-class CTARQModel final : public CountedObject<CTARQModel, ITARQModel>, private ModelFileTarget {
+class CTARQModel final : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo>,
+                         private ModelFileTarget {
 public:
-    CTARQModel();
+    CTARQModel() = default;
+    Status finalConstruct();
+
+    Status FindConnectionPoint(const Guid& interfaceId, IConnectionPoint** point) override;
+    Status InterfaceSupportsErrorInfo(const Guid& interfaceId) override;
 
     Status Test() override;
     Status AddCol(double LB, double UB, TARQColType Type, const Variant& Cost, const Variant& Name) override;
@@ -183,6 +191,7 @@ private:
     std::int32_t mplErrorLine_ = 0;
     std::string mplWorkingDirectory_;
     bool requiresSave_ = false;
+    ConnectionPoint events_{static_cast<ITARQModel&>(*this), _ITARQModelEvents::id};
 
     // Shared with the thread of a run.
     std::atomic<bool> stopRequested_{false};

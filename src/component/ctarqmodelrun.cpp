@@ -24,6 +24,15 @@ Status CTARQModel::Optimize() {
     });
 }
 
+Status CTARQModel::FindConnectionPoint(const Guid& interfaceId, IConnectionPoint** point) {
+    if (point == nullptr) return status::nullPointer;
+    *point = nullptr;
+    if (interfaceId != _ITARQModelEvents::id) return status::noConnection;
+    events_.AddRef();
+    *point = &events_;
+    return status::ok;
+}
+
 Status CTARQModel::StopOptimizeAsync() {
     stopRequested_ = true;
     return status::ok;

@@ -25,7 +25,15 @@ Outcome storePath(std::string& path, const std::string& value) {
 
 }  // namespace
 
-CTARQModel::CTARQModel() { resetSolution(); }
+Status CTARQModel::finalConstruct() {
+    resetSolution();
+    return status::ok;
+}
+
+Status CTARQModel::InterfaceSupportsErrorInfo(const Guid& interfaceId) {
+    constexpr Status no{1};
+    return interfaceId == ITARQModel::id ? status::ok : no;
+}
 
 void CTARQModel::resetSolution() { summary_.reset(); }
 

@@ -54,6 +54,15 @@ constexpr std::array meanings{
     StatusMeaning{noLpSolution, "no LP solution available"},
     StatusMeaning{noIpSolution, "no IP solution available"},
     StatusMeaning{noSuchNonzero, "no such nonzero"},
+    StatusMeaning{unknownMember, "no such member"},
+    StatusMeaning{unknownParameterName, "no such parameter, or one given twice"},
+    StatusMeaning{argumentType, "argument of a type that can't be converted"},
+    StatusMeaning{unknownName, "unknown name"},
+    StatusMeaning{argumentCount, "wrong number of arguments"},
+    StatusMeaning{noAggregation, "object can't be made a part of another one"},
+    StatusMeaning{classNotInLibrary, "class is not in this library"},
+    StatusMeaning{noConnection, "no such subscription or events"},
+    StatusMeaning{cannotConnect, "object can't receive these events"},
     StatusMeaning{arrayCondition, "array condition"},
 };
 

@@ -36,7 +36,16 @@ inline constexpr Status notImplemented{0x80004001};
 inline constexpr Status wrongClass{0x80004002};
 inline constexpr Status nullPointer{0x80004003};
 inline constexpr Status generalFailure{0x80004005};
+inline constexpr Status unknownMember{0x80020003};
+inline constexpr Status unknownParameterName{0x80020004};
+inline constexpr Status argumentType{0x80020005};
+inline constexpr Status unknownName{0x80020006};
+inline constexpr Status argumentCount{0x8002000E};
+inline constexpr Status noAggregation{0x80040110};
+inline constexpr Status classNotInLibrary{0x80040111};
 inline constexpr Status classNotAvailable{0x80040154};
+inline constexpr Status noConnection{0x80040200};
+inline constexpr Status cannotConnect{0x80040202};
 inline constexpr Status outOfMemory{0x8007000E};
 
 inline constexpr Status componentFailure{0x80041000};

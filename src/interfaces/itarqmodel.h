@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/object.h"
+#include "frame/dispatch.h"
 #include "frame/status.h"
 #include "frame/valuelist.h"
 #include "frame/variant.h"
@@ -21,9 +21,12 @@ namespace tarq {
 
 // Two members are published with a leading underscore and a capital.
 // NOLINTBEGIN(bugprone-reserved-identifier)
-class ITARQModel : public IUnknown {
+class ITARQModel : public IDispatch {
 public:
     static constexpr Guid id{0xFF331FE1, 0x5C77, 0x4FFD, {0x92, 0x02, 0x55, 0x95, 0x21, 0xD6, 0xEB, 0xEA}};
+
+    /// The members as data.
+    TARQ_API static const InterfaceTable& memberTable();
 
     /// Does nothing.
     virtual Status Test() = 0;

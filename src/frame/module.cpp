@@ -1,0 +1,26 @@
+#include "frame/module.h"
+
+#include <atomic>
+
+namespace tarq::module {
+namespace {
+
+// The only shared state of the frame.
+std::atomic<std::int64_t> objects{0};
+std::atomic<std::int64_t> locks{0};
+
+constexpr auto relaxed = std::memory_order_relaxed;
+constexpr auto acquireRelease = std::memory_order_acq_rel;
+
+}  // namespace
+
+void objectBorn() noexcept { objects.fetch_add(1, relaxed); }
+// What the object's last user did must have happened before somebody unloads the module.
+void objectDied() noexcept { objects.fetch_sub(1, acquireRelease); }
+void lock() noexcept { locks.fetch_add(1, relaxed); }
+void unlock() noexcept { locks.fetch_sub(1, acquireRelease); }
+
+std::int64_t liveObjects() noexcept { return objects.load(std::memory_order_acquire); }
+bool canUnload() noexcept { return liveObjects() == 0 && locks.load(std::memory_order_acquire) == 0; }
+
+}  // namespace tarq::module
