@@ -1,0 +1,125 @@
+// The classes, their names and their creation, as a client has them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <set>
+#include <string>
+
+#include "component/classtable.h"
+#include "component/servermodule.h"
+#include "frame/classfactory.h"
+#include "frame/connectionpoint.h"
+#include "frame/membertable.h"
+#include "frame/module.h"
+#include "frame/supporterrorinfo.h"
+#include "interfaces/itarqmodelevents.h"
+#include "tests/component/modelfixture.h"
+
+namespace tarq {
+namespace {
+
+Ref<IClassFactory> factoryOf(const Guid& classId) {
+    void* found = nullptr;
+    EXPECT_EQ(DllGetClassObject(&classId, &IClassFactory::id, &found), 0);
+    return Ref<IClassFactory>::adopt(static_cast<IClassFactory*>(found));
+}
+
+TEST(ClassTableTest, FourteenClassesAreFoundByEveryNameAndIdentifier) {
+    ASSERT_EQ(classTable().size(), 14U);
+    std::set<std::string> identifiers;
+    for (const ClassEntry& entry : classTable()) {
+        for (const std::string& name : {std::string(entry.name), entry.progId(), entry.versionedProgId()}) {
+            EXPECT_EQ(findClass(name), &entry) << name;
+        }
+        EXPECT_EQ(findClass(entry.classId), &entry);
+        identifiers.insert(guidText(entry.classId));
+    }
+    EXPECT_EQ(identifiers.size(), 14U);
+    EXPECT_EQ(findClass("TARQMODEL")->versionedProgId(), "tarq.TARQModel.1");
+    for (const char* wrong : {"", "tarq", "tarq.", "TARQModel.1.1", "other.TARQModel", "tarq.TARQModel.2"}) {
+        EXPECT_EQ(findClass(wrong), nullptr) << wrong;
+    }
+}
+
+TEST(ClassFactoryTest, ClassIsCreatedOrRefusedByIdentifier) {
+    void* found = nullptr;
+    const Ref<IClassFactory> models = factoryOf(classid::TARQModel);
+    ASSERT_THAT(models->CreateInstance(nullptr, ITARQModel::id, &found), succeeds());
+    const Ref<ITARQModel> model = Ref<ITARQModel>::adopt(static_cast<ITARQModel*>(found));
+    EXPECT_THAT(model->Test(), succeeds());
+
+    for (const ClassEntry& entry : classTable()) {
+        if (entry.create != nullptr) continue;
+        EXPECT_EQ(factoryOf(entry.classId)->CreateInstance(nullptr, IUnknown::id, &found), status::classNotAvailable);
+        EXPECT_EQ(found, nullptr);
+        EXPECT_FALSE(createObject(entry.name));
+        EXPECT_EQ(lastError()->status, status::classNotAvailable);
+    }
+    const auto code = [](Status status) { return static_cast<std::int32_t>(status.value()); };
+    const Guid stranger;
+    EXPECT_EQ(DllGetClassObject(&stranger, &IClassFactory::id, &found), code(status::classNotInLibrary));
+    EXPECT_EQ(DllGetClassObject(&classid::TARQModel, &ITARQModel::id, &found), code(status::wrongClass));
+    EXPECT_EQ(DllGetClassObject(&classid::TARQModel, &IClassFactory::id, nullptr), code(status::nullPointer));
+    EXPECT_EQ(DllGetClassObject(nullptr, nullptr, &found), code(status::nullPointer));
+}
+
+TEST(ServerModuleTest, ObjectsAndLocksHoldTheLibrary) {
+    const Ref<IClassFactory> models = factoryOf(classid::TARQModel);
+    ASSERT_EQ(DllCanUnloadNow(), 0) << "a factory doesn't hold it";
+    Ref<IUnknown> model = createObject("TARQModel");
+    EXPECT_EQ(DllCanUnloadNow(), 1);
+    ASSERT_THAT(models->LockServer(true), succeeds());
+    model = nullptr;
+    EXPECT_EQ(DllCanUnloadNow(), 1);
+    ASSERT_THAT(models->LockServer(false), succeeds());
+    EXPECT_EQ(DllCanUnloadNow(), 0);
+}
+
+class ModelIdentityTest : public ModelTest {};
+
+TEST_F(ModelIdentityTest, OffersDispatchErrorInfoAndEvents) {
+    const auto dispatch = model.query<IDispatch>();
+    ASSERT_TRUE(dispatch);
+    EXPECT_EQ(dispatch->GetMemberTable(), &ITARQModel::memberTable());
+    const auto support = model.query<ISupportErrorInfo>();
+    ASSERT_TRUE(support);
+    EXPECT_THAT(support->InterfaceSupportsErrorInfo(ITARQModel::id), succeeds());
+    EXPECT_EQ(support->InterfaceSupportsErrorInfo(_ITARQModelEvents::id), Status{1});
+    const auto container = model.query<IConnectionPointContainer>();
+    ASSERT_TRUE(container);
+    IConnectionPoint* point = nullptr;
+    ASSERT_THAT(container->FindConnectionPoint(_ITARQModelEvents::id, &point), succeeds());
+    EXPECT_TRUE(Ref<IConnectionPoint>::adopt(point).query<IConnectionPoint>());
+    EXPECT_EQ(container->FindConnectionPoint(ITARQModel::id, &point), status::noConnection);
+    EXPECT_EQ(point, nullptr);
+}
+
+TEST_F(ModelIdentityTest, MembersAreNumberedInPublishedOrder) {
+    struct Case {
+        const char* name;
+        std::int32_t number;
+    };
+    // AMPLOutputBufferMaxSize is the first property with a get and a put, which share a number.
+    for (const Case& each :
+         {Case{"Test", 1}, Case{"AddCol", 2}, Case{"WriteProfile", 34}, Case{"AMPLOutputBuffer", 35},
+          Case{"AMPLOutputBufferMaxSize", 36}, Case{"Var", 37}, Case{"ColCost", 38}, Case{"_WriteAMPLSolStub", 99}}) {
+        const MemberInfo* member = ITARQModel::memberTable().find(each.name);
+        ASSERT_NE(member, nullptr) << each.name;
+        EXPECT_EQ(member->id, each.number) << each.name;
+    }
+    EXPECT_EQ(ITARQModel::memberTable().members().size(), 120U);
+}
+
+TEST_F(ModelIdentityTest, LateBoundCallRaisesTheModelsOwnError) {
+    const auto dispatch = model.query<IDispatch>();
+    const std::string_view name = "addnz";
+    std::int32_t number = 0;
+    ASSERT_THAT(dispatch->GetIDsOfNames({&name, 1}, &number), succeeds());
+    const std::array<Variant, 3> values{Variant(1), Variant("nowhere"), Variant("2")};
+    EXPECT_THAT(dispatch->Invoke(number, invoke::method, {values, {}}, nullptr, nullptr),
+                raises(status::invalidArgument, "Column name 'nowhere' could not be found."));
+}
+
+}  // namespace
+}  // namespace tarq
