@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "optionmapping.h"
 
@@ -26,6 +27,8 @@ public:
 
 private:
     [[nodiscard]] HighsModelStatus attempt(bool presolve, bool primalSimplex);
+    [[nodiscard]] bool isOverAtOnce() const;
+    [[nodiscard]] HighsModelStatus runAtOnce();
     [[nodiscard]] HighsModelStatus solvePresolved(bool primalSimplex);
     [[nodiscard]] HighsModelStatus runWhole();
     void returnToModel(const HighsSolution& solution, HighsBasis basis, bool optimal);
@@ -91,6 +94,21 @@ HighsModelStatus LpStage::runWhole() {
     return highs_.getModelStatus();
 }
 
+// An LP that is solved before anybody could stop it, and that no limit is meant to end early.
+bool LpStage::isOverAtOnce() const {
+    constexpr std::int64_t fewNonzeros = 10'000;
+    constexpr int manyIterations = 100'000;
+    return model_.highs.getLp().a_matrix_.numNz() <= fewNonzeros && frequency_ == 0 &&
+           mostIterations_ >= manyIterations && control_.secondsLeft() == std::numeric_limits<double>::infinity();
+}
+
+HighsModelStatus LpStage::runAtOnce() {
+    highs_.setOptionValue("presolve", "on");
+    highs_.run();
+    countIterations(highs_);
+    return highs_.getModelStatus();
+}
+
 // Presolve, the presolved model and the way back are separate steps here: when HiGHS does them in one go and has to end
 // early, it throws away where it was.
 HighsModelStatus LpStage::attempt(bool presolve, bool primalSimplex) {
@@ -99,6 +117,14 @@ HighsModelStatus LpStage::attempt(bool presolve, bool primalSimplex) {
     highs_.clearSolver();
     setOptions(highs_, primalSimplex);
     if (!presolve || highs_.getLp().num_row_ == 0) return runWhole();
+    if (isOverAtOnce()) {
+        const HighsModelStatus status = runAtOnce();
+        if (!isStopped(status)) return status;
+        // It did end early, so where it was is looked for again.
+        if (control_.stopReason() != StopReason::None) return status;
+        highs_.clearSolver();
+        setOptions(highs_, primalSimplex);
+    }
     highs_.presolve();
     switch (highs_.getModelPresolveStatus()) {
         case HighsPresolveStatus::kInfeasible:

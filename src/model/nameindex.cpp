@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
-#include <random>
+
+#include "platform/entropy.h"
 
 namespace tarq {
 namespace {
@@ -11,14 +12,9 @@ namespace {
 // Fuller than the library's own choice: an entry is compared by its hash first, which makes long searches cheap.
 constexpr float largestLoad = 0.8F;
 
-std::uint64_t drawWord() {
-    std::random_device device;
-    return (std::uint64_t{device()} << 32U) | device();
-}
-
 }  // namespace
 
-NameIndex::NameIndex() : secret_(drawWord()), multiplier_(drawWord() | 1U) { entries_.max_load_factor(largestLoad); }
+NameIndex::NameIndex() : secret_(entropyWord()), multiplier_(entropyWord() | 1U) { entries_.max_load_factor(largestLoad); }
 
 // Multiply and fold, eight bytes at a time.
 std::uint32_t NameIndex::hashOf(std::string_view name) const {
