@@ -4,10 +4,12 @@ include(CMakePackageConfigHelpers)
 
 # Inside the project a header is named by its room ("frame/variant.h"); outside, everything lies under tarq/.
 set(public_headers
-  component/createobject.h
-  frame/export.h frame/guid.h frame/object.h frame/objecterror.h frame/safearray.h frame/status.h frame/valuelist.h
-  frame/variant.h
-  interfaces/classids.h interfaces/enumerations.h interfaces/itarqmodel.h)
+  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h
+  frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
+  frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
+  frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h
+  interfaces/classids.h interfaces/enumerations.h interfaces/enumerationtables.h interfaces/itarqmodel.h
+  interfaces/itarqmodelevents.h)
 set(staged "${CMAKE_BINARY_DIR}/public-headers")
 foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
   if(header MATCHES "/")

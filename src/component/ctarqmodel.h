@@ -7,8 +7,11 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
+#include <mutex>
 #include <string>
 
+#include "component/backgroundrun.h"
 #include "engine/enginebinding.h"
 #include "engine/run.h"
 #include "frame/connectionpoint.h"
@@ -196,7 +199,9 @@ private:
     // Shared with the thread of a run.
     std::atomic<bool> stopRequested_{false};
     std::atomic<bool> busy_{false};
-    Outcome pendingError_;
+
+    std::mutex backgroundMutex_;                 // of background_: a sink may start the next run on another thread
+    std::shared_ptr<BackgroundRun> background_;  // the latest, which may have ended
 };
 // NOLINTEND(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
 

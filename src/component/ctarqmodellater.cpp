@@ -9,8 +9,6 @@ Status CTARQModel::AddRes(IUnknown* /*TARQRes*/) { return status::notImplemented
 Status CTARQModel::AttachVar(IUnknown* /*TARQVar*/, const Variant& /*Index*/) { return status::notImplemented; }
 Status CTARQModel::AttachRes(IUnknown* /*TARQRes*/, const Variant& /*Index*/) { return status::notImplemented; }
 Status CTARQModel::ExecuteAMPLModel(const std::string& /*MODFileName*/) { return status::notImplemented; }
-Status CTARQModel::KillThread() { return status::notImplemented; }
-Status CTARQModel::OptimizeAsync() { return status::notImplemented; }
 Status CTARQModel::AddObjSum(const ValueList& /*CoeffsAndCols*/) { return status::notImplemented; }
 Status CTARQModel::ReadAMPLModel(const std::string& /*MODFileName*/, const ValueList& /*DATFileNames*/) {
     return status::notImplemented;

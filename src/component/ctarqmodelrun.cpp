@@ -1,4 +1,8 @@
 // CTARQModel: running the engine and the summary of the latest run.
+#include <memory>
+#include <mutex>
+#include <utility>
+
 #include "component/ctarqmodel.h"
 #include "component/memberguard.h"
 
@@ -11,16 +15,45 @@ RunModel CTARQModel::runModel() {
             .binding = binding_,
             .stopRequested = stopRequested_,
             .busy = busy_,
-            .pendingError = pendingError_,
-            .finished = {}};
+            .finished = [this] { (void)events_.fire(_ITARQModelEvents::optimizationFinished); }};
 }
 
 Status CTARQModel::Optimize() {
     return guarded(classid::TARQModel, [&] {
-        pendingError_ = {};
+        // A sink may drop the last reference but this one.
+        const Ref<IUnknown> held(static_cast<ITARQModel*>(this));
         RunModel model = runModel();
         const Status ended = runOptimization(model);
-        return pendingError_.isOk() ? Outcome(ended) : pendingError_;
+        return model.pendingError.isOk() ? Outcome(ended) : std::move(model.pendingError);
+    });
+}
+
+Status CTARQModel::OptimizeAsync() {
+    return guarded(classid::TARQModel, [&] {
+        const auto run = std::make_shared<BackgroundRun>(Ref<IUnknown>(static_cast<ITARQModel*>(this)), runModel());
+        if (busy_.exchange(true)) return Outcome(status::componentFailure, "Component is busy at the moment.");
+        {
+            // Before the thread can call a sink that starts the next run.
+            const std::lock_guard lock(backgroundMutex_);
+            background_ = run;
+        }
+        if (BackgroundRun::start(run)) return Outcome();
+        const std::lock_guard lock(backgroundMutex_);
+        background_ = nullptr;  // with its reference to this object
+        busy_ = false;
+        return Outcome(status::componentFailure, "Failed to create thread.");
+    });
+}
+
+Status CTARQModel::KillThread() {
+    return guarded(classid::TARQModel, [&] {
+        std::shared_ptr<BackgroundRun> run;
+        {
+            const std::lock_guard lock(backgroundMutex_);
+            run = background_;
+        }
+        if (busy_ && run && run->kill()) busy_ = false;
+        return Outcome();
     });
 }
 

@@ -27,6 +27,7 @@ void tarqEngineCallback() {
     EngineInterface& engine = *model->engine;
     if (model->stopRequested.load(std::memory_order_relaxed)) engine.SetParameter("XCBSTP=1");
     readResultValues(engine, model->parameters);
+    if (model->breakPoint) model->breakPoint(engine);
 }
 
 void readResultValues(EngineInterface& engine, ParameterTable& parameters) {

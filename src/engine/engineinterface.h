@@ -29,6 +29,9 @@ public:
     /// no operation for it in the C interface, so an engine accepts unless it says otherwise.
     [[nodiscard]] virtual bool licenceAccepted() { return true; }
 
+    /// An address in the engine's own code, null when it has none to tell apart.
+    [[nodiscard]] virtual const void* code() const { return nullptr; }
+
     /// Releases all that the engine holds for the current run.
     virtual std::int32_t FreeMemory() = 0;
 

@@ -15,6 +15,8 @@ bool EngineLibrary::hasSetCallback() const { return slots_.slot<"SetCallback">()
 
 bool EngineLibrary::hasGetParameter() const { return slots_.slot<"GetParameter">().function != nullptr; }
 
+const void* EngineLibrary::code() const { return reinterpret_cast<const void*>(slots_.slot<"OptimizeLP">().function); }
+
 std::int32_t EngineLibrary::FreeMemory() { return slots_.slot<"FreeMemory">()(); }
 
 std::int32_t EngineLibrary::Initialize() { return slots_.slot<"Initialize">()(); }

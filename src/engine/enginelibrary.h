@@ -21,6 +21,7 @@ public:
     [[nodiscard]] bool hasInitialize() const override;
     [[nodiscard]] bool hasSetCallback() const override;
     [[nodiscard]] bool hasGetParameter() const override;
+    [[nodiscard]] const void* code() const override;
 
     std::int32_t FreeMemory() override;
     std::int32_t Initialize() override;

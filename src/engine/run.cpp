@@ -106,6 +106,7 @@ Ending Run::runSteps() {
 }
 
 Status Run::close(Ending ending) {
+    if (model_.ending) model_.ending();
     const Status result = ending.outcome.status();
     if (memoryTaken_ && !ending.plainReturn) engine().FreeMemory();
     RunModel* self = &model_;

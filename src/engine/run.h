@@ -46,8 +46,14 @@ struct RunModel {
     EngineBinding& binding;
     std::atomic<bool>& stopRequested;
     std::atomic<bool>& busy;
-    Outcome& pendingError;           ///< failure of the run, left for whoever reports it; untouched by other endings
     std::function<void()> finished;  ///< fires the finish event; may be empty, must not throw
+
+    /// Called by the engine's callback, and when the run begins to end. Whoever stops a run for good does so there,
+    /// where nothing is locked. May be empty, must not throw.
+    std::function<void(EngineInterface&)> breakPoint{};
+    std::function<void()> ending{};
+
+    Outcome pendingError{};  ///< failure of the run, left for whoever reports it; untouched by other endings
 
     /// The engine of the run in progress, set and cleared by the run: it keeps its engine even when the client moves
     /// the location meanwhile.

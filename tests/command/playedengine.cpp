@@ -3,11 +3,13 @@
 //   notanumber the same, with values that are no numbers
 //   long       it runs on until it is told to stop, then ends at a break
 //   deaf       it runs on and doesn't listen
+//   spinning   the same without ever waiting
 //   numeric    with a numeric failure and a message
 //   nomemory   it gets no memory
 // A run that would last is given up after 20 seconds.
 #include <tarq/engine.h>
 
+#include <atomic>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -74,10 +76,18 @@ int32_t OptimizeLP(int32_t, int32_t* iterations, int32_t* infeasibilities, int32
     *objective = number();
     *sumOfInfeasibilities = 0;
     if (plays("numeric")) return 4;
+    if (plays("spinning")) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        volatile double sum = 0;
+        while (std::chrono::steady_clock::now() < end) {
+            for (int turn = 0; turn < 100'000'000; ++turn) sum = sum + turn;
+        }
+        return 999;
+    }
     if (!plays("long") && !plays("deaf")) return 0;
     for (int turn = 0; turn < 2000 && !state.stopped; ++turn) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        ++*iterations;
+        std::atomic_ref(*iterations).fetch_add(1, std::memory_order_relaxed);
         if (state.callback != nullptr && plays("long")) state.callback();
     }
     return 999;

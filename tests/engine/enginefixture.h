@@ -77,12 +77,13 @@ protected:
     Status run() { return run(binding); }
     Status run(EngineBinding& engineBinding) {
         busy = true;
-        pendingError = {};
-        RunModel model{store, parameters, summary, engineBinding, stopRequested, busy, pendingError, [this] {
+        RunModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
                            if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
                            if (whenFinished) whenFinished();
                        }};
-        return runOptimization(model);
+        const Status ended = runOptimization(model);
+        pendingError = model.pendingError;
+        return ended;
     }
 
     [[nodiscard]] int resultOf(std::string_view name) const { return parameters.resultLong(resultIndex(name)); }

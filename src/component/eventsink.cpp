@@ -1,0 +1,60 @@
+#include "component/eventsink.h"
+
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "frame/connectionpoint.h"
+#include "frame/countedobject.h"
+#include "interfaces/itarqmodelevents.h"
+
+namespace tarq {
+namespace {
+
+class FunctionSink final : public CountedObject<FunctionSink, _ITARQModelEvents> {
+public:
+    explicit FunctionSink(std::function<void()> handler) : handler_(std::move(handler)) {}
+
+    Status Invoke(std::int32_t member, std::uint16_t /*kinds*/, const InvokeArguments& /*arguments*/,
+                  Variant* /*result*/, std::uint32_t* /*argument*/) override {
+        if (member != _ITARQModelEvents::optimizationFinished) return status::unknownMember;
+        handler_();
+        return status::ok;
+    }
+
+private:
+    friend std::default_delete<FunctionSink>;
+    ~FunctionSink() = default;
+
+    std::function<void()> handler_;
+};
+
+Status pointOf(IUnknown& model, Ref<IConnectionPoint>& point) {
+    const auto container = Ref<IUnknown>(&model).query<IConnectionPointContainer>();
+    if (!container) return status::noConnection;
+    IConnectionPoint* found = nullptr;
+    const Status result = container->FindConnectionPoint(_ITARQModelEvents::id, &found);
+    point = Ref<IConnectionPoint>::adopt(found);
+    return result;
+}
+
+}  // namespace
+
+Status adviseFinished(IUnknown& model, std::function<void()> handler, std::uint32_t* cookie) {
+    Ref<IConnectionPoint> point;
+    if (const Status found = pointOf(model, point); !found.isOk()) return found;
+    try {
+        const Ref<_ITARQModelEvents> sink(std::make_unique<FunctionSink>(std::move(handler)).release());
+        return point->Advise(sink.get(), cookie);
+    } catch (const std::bad_alloc&) {
+        return status::outOfMemory;
+    }
+}
+
+Status unadviseFinished(IUnknown& model, std::uint32_t cookie) {
+    Ref<IConnectionPoint> point;
+    if (const Status found = pointOf(model, point); !found.isOk()) return found;
+    return point->Unadvise(cookie);
+}
+
+}  // namespace tarq
