@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -13,6 +12,7 @@
 #include "console.h"
 #include "lasterror.h"
 #include "standardinput.h"
+#include "suggestion.h"
 
 namespace tarq::command {
 
@@ -30,12 +30,6 @@ constexpr FormatRow formats[] = {
     {TARQFileFormatType::Lindo, "lindo", ".ltx"},
 };
 constexpr auto formatList = "mps (.mps), triplet (.tri) and lindo (.ltx)";
-
-std::string lowerCase(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return text;
-}
 
 Failure unknownFormat(std::string text) {
     return {ExitCode::WrongUsage, fmt::format("{}\nThe formats are {}.", text, formatList)};

@@ -41,10 +41,6 @@ struct Parameter {
 /// The parameter of this name, in any case; null when there is none.
 [[nodiscard]] const Parameter* findParameter(const std::vector<Parameter>& parameters, std::string_view name);
 
-/// Up to three names that the user may have meant, the nearest first.
-[[nodiscard]] std::vector<std::string_view> similarNames(const std::vector<Parameter>& parameters,
-                                                         std::string_view name);
-
 /// "did you mean xmxnod or xmxnen?", or where to find the list.
 [[nodiscard]] std::string suggestion(const std::vector<Parameter>& parameters, std::string_view name);
 
