@@ -6,7 +6,7 @@ include(CMakePackageConfigHelpers)
 set(public_headers
   component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h
   frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
-  frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
+  frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
   frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h
   interfaces/classids.h interfaces/enumerations.h interfaces/enumerationtables.h interfaces/itarqmodel.h
   interfaces/itarqmodelevents.h)

@@ -1,0 +1,31 @@
+// Statuses on their way to Python: the thread's latest one, and tarq.Error.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "frame/status.h"
+#include "python.h"
+
+namespace tarq::python {
+
+/// The status of the calling thread's latest call into the component.
+[[nodiscard]] Status lastStatus();
+void setLastStatus(Status status);
+
+/// Throws tarq.Error, or its subclass that fits the status, with the thread's ObjectError as its description. Without
+/// one the description is `fallback`, or the status's own meaning when that is empty; `source` is the versioned ProgID
+/// of the object that was called.
+[[noreturn]] void throwFailure(Status status, const std::string& source, const std::string& fallback = {});
+
+/// Throws tarq.MemberError for a name that an object doesn't have.
+[[noreturn]] void throwUnknownName(const std::string& description, const std::string& source);
+
+/// Turns the Python exception that has just been caught into a status with an ObjectError: what the component gets from
+/// a Python object that it has called. A failure that this leads to on the same thread bears it as its cause.
+[[nodiscard]] Status recordException(py::error_already_set& error);
+
+/// Forgets an exception that led to no failure.
+void forgetException();
+
+}  // namespace tarq::python

@@ -1,0 +1,83 @@
+// _tarq: the part of the package that is written in C++. Its Python part is in tarq/.
+#include "python.h"
+
+#include <string>
+
+#include "component/classtable.h"
+#include "component/createobject.h"
+#include "description.h"
+#include "enumerator.h"
+#include "failures.h"
+#include "frame/module.h"
+#include "frame/objecterror.h"
+#include "interpreterlock.h"
+#include "member.h"
+#include "proxy.h"
+#include "sink.h"
+#include "standin.h"
+#include "values.h"
+
+namespace tarq::python {
+namespace {
+
+py::object create(const std::string& name) {
+    clearLastError();
+    const Ref<IUnknown> object = createObject(name);
+    const ObjectError* failure = lastError();
+    const Status status = object ? status::ok : failure == nullptr ? status::generalFailure : failure->status;
+    setLastStatus(status);
+    if (!object) throwFailure(status, name);
+    return objectToPython(object);
+}
+
+/// For tests and extensions that have an object of the component's kind: a capsule named "tarq.IUnknown".
+py::object adopt(const py::capsule& capsule) {
+    auto* const object = static_cast<IUnknown*>(checked(PyCapsule_GetPointer(capsule.ptr(), "tarq.IUnknown")));
+    return objectToPython(Ref<IUnknown>(object));
+}
+
+py::dict classTypes() {
+    py::dict all;
+    for (const ClassEntry& entry : classTable()) {
+        if (entry.create == nullptr || entry.members == nullptr) continue;
+        all[py::str(entry.name.data(), entry.name.size())] = interfaceType(entry.members()).type;
+    }
+    return all;
+}
+
+void addTypes(py::module_& module) {
+    makeMemberTypes();
+    makeEnumeratorType();
+    module.attr("Object") = makeProxyType();
+    module.attr("StandIn") = makeStandInType();
+}
+
+void addFunctions(py::module_& module) {
+    module.def("create", create, py::arg("name"),
+               "Makes an object of a class.\n\nname: a class name (\"TARQModel\") or a ProgID (\"tarq.TARQModel\", "
+               "\"tarq.TARQModel.1\"), in any case. Raises tarq.Error when there is no such class.");
+    module.def("advise", advise, py::arg("obj"), py::arg("sink"),
+               "Subscribes to an object's events and returns the cookie that unadvise takes.\n\nsink: a callable, or an "
+               "object that has a method named like the event. It may be called on another thread.");
+    module.def("unadvise", unadvise, py::arg("obj"), py::arg("cookie"), "Ends a subscription to an object's events.");
+    module.def(
+        "last_status", [] { return lastStatus().value(); },
+        "Status of the calling thread's last call into the component, as an unsigned number.");
+    module.def("live_objects", module::liveObjects, "How many objects of the component are alive in this process.");
+    module.def("adopt", adopt, py::arg("capsule"), "A proxy of the object that a capsule points to.");
+    module.def("register_enumeration", registerEnumeration, py::arg("name"), py::arg("members"));
+    module.def("described_classes", describedClasses);
+    module.def("described_enumerations", describedEnumerations);
+    module.def("class_types", classTypes);
+    module.def("close", closeInterpreter);
+}
+
+}  // namespace
+}  // namespace tarq::python
+
+PYBIND11_MODULE(_tarq, module) {
+    module.doc() = "The part of the package tarq that is written in C++.";
+    tarq::python::addTypes(module);
+    tarq::python::addFunctions(module);
+    module.attr("version") = TARQ_VERSION;
+}

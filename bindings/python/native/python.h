@@ -1,0 +1,55 @@
+// What all sources of the extension need of Python: pybind11's owning references, and the border that C++ exceptions
+// don't cross.
+#pragma once
+
+#include <pybind11/pybind11.h>
+#include <structmember.h>
+
+#include <exception>
+#include <new>
+#include <utility>
+
+namespace tarq::python {
+
+namespace py = pybind11;
+
+/// Runs a slot's body and turns what it throws into a Python exception. `failure` is what the slot returns then.
+template <class Result, class Body>
+Result guarded(Result failure, Body&& body) noexcept {
+    try {
+        return std::forward<Body>(body)();
+    } catch (py::error_already_set& error) {
+        error.restore();
+    } catch (const std::bad_alloc&) {
+        PyErr_NoMemory();
+    } catch (const py::builtin_exception& error) {
+        error.set_error();
+    } catch (const std::exception& error) {
+        PyErr_SetString(PyExc_SystemError, error.what());
+    }
+    return failure;
+}
+
+/// Throws the Python exception that a call of the interpreter has left.
+template <class Object>
+Object* checked(Object* result) {
+    if (result == nullptr) throw py::error_already_set();
+    return result;
+}
+
+inline int checked(int result) {
+    if (result < 0) throw py::error_already_set();
+    return result;
+}
+
+/// A new reference of the interpreter, taken over; throws what it has left instead.
+inline py::object owned(PyObject* result) { return py::reinterpret_steal<py::object>(checked(result)); }
+
+/// The entry of a type's slot table.
+template <class Entry>
+PyType_Slot slot(int number, Entry entry) {
+    return {number, reinterpret_cast<void*>(entry)};
+}
+inline PyType_Slot slot(int number, const char* text) { return {number, const_cast<char*>(text)}; }
+
+}  // namespace tarq::python

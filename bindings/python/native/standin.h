@@ -1,0 +1,16 @@
+// Stand-ins: objects of classes derived from tarq.Dispatch, which the component calls as if they were its own kind.
+#pragma once
+
+#include "frame/object.h"
+#include "python.h"
+
+namespace tarq::python {
+
+/// The base class of `tarq.Dispatch`.
+[[nodiscard]] py::object makeStandInType();
+
+/// What an argument becomes that isn't a value: a stand-in, always the same one while the component holds it, or an
+/// object without members.
+[[nodiscard]] Ref<IUnknown> standInOf(py::handle value);
+
+}  // namespace tarq::python

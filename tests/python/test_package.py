@@ -1,0 +1,70 @@
+"""The package as a Python user meets it: help, repr, types."""
+
+import inspect
+import pathlib
+import pydoc
+import subprocess
+import sys
+
+import pytest
+
+import tarq
+
+SAMPLE = pathlib.Path(__file__).with_name("sample_client.py")
+
+
+def test_a_model_shows_its_name_and_size():
+    model = tarq.TARQModel()
+    assert repr(model) == "<tarq.TARQModel: 0 columns, 0 rows, 0 nonzeros>"
+    model.ModelName = "plan"
+    model.AddCol(0, 1, 0)
+    assert repr(model) == "<tarq.TARQModel 'plan': 1 column, 0 rows, 0 nonzeros>"
+    assert repr(model.ColLB) == f"<property ColLB of {model!r}>" and repr(tarq.Missing) == "tarq.Missing"
+
+
+def test_help_tells_signatures_and_meanings():
+    text = pydoc.render_doc(tarq.TARQModel, renderer=pydoc.plaintext)
+    assert "AddCol(self, LB: float, UB: float, Type: TARQColType | int, Cost: Any = None, Name: Any = None)" in text
+    assert "Adds a column behind the last one." in text and "ColLB[Col]: float" in text
+    assert str(inspect.signature(tarq.TARQModel().GetParameterOption)).startswith("(lParameterID: int, lOptionID: int) ->")
+    assert inspect.getdoc(tarq.TARQModel.NumberOfCols).startswith("NumberOfCols: int, read-only")
+
+
+def test_enumerations_are_int_enums():
+    assert tarq.Binary is tarq.TARQColType.Binary and tarq.TARQColType(1) is tarq.Integer
+    assert int(tarq.TARQSolutionStatusTyp.LPOptimalSolution) == 1 and tarq.TARQSolutionStatusTyp.__doc__
+
+
+@pytest.mark.parametrize(
+    "wrong, message",
+    [
+        ("", ""),
+        ("model.ColLBB", 'has no attribute "ColLBB"'),
+        ("model.AddCol('a', 1, tarq.Binary)", "incompatible type"),
+        ("model.NumberOfCols = 3", "read-only"),
+        ("text: str = model.ColLB['x']", "Incompatible types"),
+    ],
+)
+def test_the_stubs_check_a_client(tmp_path, wrong, message):
+    client = tmp_path / "client.py"
+    client.write_text(SAMPLE.read_text() + f"\n{wrong}\n")
+    checked = subprocess.run(
+        ["/usr/bin/mypy", "--strict", f"--cache-dir={tmp_path}", str(client)],
+        capture_output=True, text=True, check=False, env={"MYPYPATH": str(pathlib.Path(tarq.__file__).parent.parent), "PATH": "/usr/bin"},
+    )
+    assert (checked.returncode == 0) == (message == ""), checked.stdout
+    assert message in checked.stdout
+
+
+def test_the_sample_client_runs():
+    ran = subprocess.run([sys.executable, str(SAMPLE)], capture_output=True, text=True, check=True)
+    assert ran.stdout == "chairs 30.0 0.0\n"
+
+
+def test_every_listed_member_is_in_the_stubs():
+    stub = pathlib.Path(tarq.__file__).with_name("__init__.pyi").read_text()
+    assert pathlib.Path(tarq.__file__).with_name("py.typed").exists()
+    for name in dir(tarq.TARQModel()):
+        assert name.startswith("__") or f"def {name}(" in stub, name
+    for name in tarq.__all__:
+        assert f"def {name}(" in stub or f"class {name}" in stub or f"{name}: " in stub, name

@@ -1,0 +1,122 @@
+"""Python objects that the component calls."""
+
+import gc
+import weakref
+
+import pytest
+
+import _collection
+import tarq
+
+METHOD, GET, PUT = 1, 2, 4
+RANGE = "{00020846-0000-0000-C000-000000000046}"
+
+
+class Cells(tarq.Dispatch):
+    """A spreadsheet range, as far as somebody asks."""
+
+    _interfaces_ = [RANGE]
+    _dispids_ = {0: "Value", 1: "Count", 2: "Cell", 3: "Total", 4: "Broken", 5: "Refused", 6: "Nothing"}
+
+    def __init__(self, rows):
+        self.rows = rows
+        self.Value = "all"
+
+    @property
+    def Count(self):
+        return len(self.rows)
+
+    def Cell(self, row, column=0):
+        return self.rows[row][column]
+
+    def put_Cell(self, row, column, value):
+        self.rows[row][column] = value
+
+    def Total(self, *more):
+        return sum(map(sum, self.rows)) + sum(more)
+
+    def Broken(self):
+        raise KeyError("gone")
+
+    def Refused(self):
+        raise tarq.Error(0x80041031, "Not this one.")
+
+
+@pytest.fixture
+def caller():
+    return _collection.make()
+
+
+@pytest.fixture
+def cells():
+    return Cells([[1, 2], [3, 4]])
+
+
+def test_a_stand_in_answers_to_the_interfaces_that_it_lists(caller, cells):
+    other = "{00020847-0000-0000-C000-000000000046}"
+    dispatch = "{00020400-0000-0000-C000-000000000046}"
+    assert [caller.Offers(cells, interface) for interface in (RANGE, dispatch, other)] == [1, 1, 0]
+    assert caller.Offers(object(), dispatch) == 0
+
+
+def test_attributes_and_properties_are_got_and_methods_get_the_arguments(caller, cells):
+    assert caller.Call(cells, 0, GET) == "all"
+    assert caller.Call(cells, 1, METHOD | GET) == 2
+    assert caller.Call(cells, 2, GET, 1, 1) == 4
+    assert caller.Call(cells, 2, GET, 1) == 3
+    assert caller.Call(cells, 3, METHOD, 10, 20) == 40
+
+
+def test_a_put_sets_the_attribute_or_calls_the_putter(caller, cells):
+    caller.Call(cells, 0, PUT, [[1, 2]])
+    assert cells.Value == [[1, 2]]
+    caller.Call(cells, 2, PUT, 1, 0, 9)
+    assert cells.rows[1][0] == 9
+
+
+def test_members_are_numbered_by_their_names(caller, cells):
+    assert caller.NumberOf(cells, "value") == 0 and caller.NumberOf(cells, "TOTAL") == 3
+    with pytest.raises(tarq.Error) as caught:
+        caller.NumberOf(cells, "nothing else")
+    assert caught.value.status == 0x80020006
+
+
+@pytest.mark.parametrize(
+    "member, arguments, status, words, cause",
+    [
+        (4, (), 0x80004005, "KeyError: 'gone'", KeyError),
+        (5, (), 0x80041031, "Not this one.", tarq.Error),
+        (6, (), 0x80004005, "AttributeError", AttributeError),
+        (2, (), 0x80004005, "TypeError", TypeError),
+        (9, (), 0x80020003, "", None),
+        (1, (5,), 0x8002000E, "", None),
+    ],
+)
+def test_failures_of_a_stand_in_reach_the_caller_with_their_cause(caller, cells, member, arguments, status, words, cause):
+    with pytest.raises(tarq.Error) as caught:
+        caller.Call(cells, member, METHOD | GET, *arguments)
+    assert caught.value.status == status and words in caught.value.description
+    assert caught.value.__cause__ is None if cause is None else isinstance(caught.value.__cause__, cause)
+
+
+def test_a_stand_in_is_the_same_object_while_it_is_held_and_free_afterwards(caller):
+    cells = Cells([[1]])
+    caller.Keep(cells)
+    assert caller.Kept is cells
+    gone = weakref.ref(cells)
+    del cells
+    gc.collect()
+    assert caller.Kept is gone()
+    caller.Drop(10)  # on another thread
+    gc.collect()
+    assert gone() is None
+
+
+def test_lists_of_interfaces_that_make_no_sense_list_none(caller):
+    class Odd(tarq.Dispatch):
+        _interfaces_ = [5, "no identifier"]
+        _dispids_ = None
+
+    assert caller.Offers(Odd(), RANGE) == 0
+    with pytest.raises(tarq.Error):
+        caller.Call(Odd(), 1, GET)
