@@ -251,8 +251,10 @@ Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair&
 Failure MpsReader::enterColumn(FixedName name) {
     if (const Failure failure = storePending(); !failure.empty()) return failure;
     columnName_ = name;
+    const bool sampleIsFull = target_.store().columnCount() == sampleLength;
     columnPosition_ = target_.findOrAddColumn(name, integerBlock_);
-    if (columnPosition_ == sampleLength) {
+    // Once, when the column is new: a column can be met again any number of times, and each room costs a pass.
+    if (sampleIsFull && columnPosition_ == sampleLength) {
         const std::size_t read = scanner_.lineStart() - columnsStart_;
         const std::size_t rest = scanner_.textLength() - columnsStart_;
         target_.reserveColumns(

@@ -115,9 +115,14 @@ TEST(MpsFailure, LargeHostileTextsAreReadInLinearTime) {
     while (manyQs.size() < length) manyQs += "\nQSECTIOQ";
     std::string sameLines = rows;
     while (sameLines.size() < length) sameLines += " E  R1\n";
+    // A thousand columns tell how many will come; the one behind them is met again and again.
+    std::string sameColumn = columns;
+    for (int column = 0; column < 200'000; ++column) sameColumn += fields({"", std::to_string(column), "R1", "1"});
+    while (sameColumn.size() < length) sameColumn += fields({"", "999", "R1", "1"}) + fields({"", "0", "R1", "1"});
     const auto start = std::chrono::steady_clock::now();
-    for (std::string text : {std::string(length, ' '), std::string(length, '\n'), std::string(length, '\0'),
-                             std::string(length, '\r'), "NAME" + std::string(length, '9'), manyQs, sameLines}) {
+    for (std::string text :
+         {std::string(length, ' '), std::string(length, '\n'), std::string(length, '\0'), std::string(length, '\r'),
+          "NAME" + std::string(length, '9'), manyQs, sameLines, sameColumn}) {
         MpsModel model;
         EXPECT_TRUE(model.read(std::move(text)).failed());
     }
