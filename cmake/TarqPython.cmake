@@ -9,7 +9,13 @@ set(PYBIND11_FINDPYTHON OFF)
 set(PYTHON_EXECUTABLE "${Python3_EXECUTABLE}")
 find_package(pybind11 REQUIRED)
 
-# How the package is run from the build folder. A sanitizer must be loaded before the interpreter, which isn't built with it; its leaks aren't ours either.
+# Where the system's interpreter looks for packages below /usr/local, the default prefix.
+set(TARQ_PYTHON_INSTALL_FOLDER "lib/python${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR}/dist-packages"
+  CACHE STRING "Where the Python package is installed, below the prefix")
+
+# How the package is run from the build folder. A sanitizer must be loaded before the interpreter, which
+# isn't built with it; its leaks aren't
+# ours either.
 set(tarq_python_environment "PYTHONPATH=${CMAKE_BINARY_DIR}/python" "PYTHONDONTWRITEBYTECODE=1")
 if(TARQ_SANITIZE)
   set(runtimes "")

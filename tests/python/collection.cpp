@@ -58,7 +58,8 @@ const InterfaceTable& ICollection::memberTable() {
         {numbered(memberid::value, get<&I::get_Item>("Item", "", "first", optional("second"))),
          numbered(memberid::value, put<&I::put_Item>("Item", "", "first", optional("second"))),
          numbered(memberid::enumerator, get<&I::get__NewEnum>("_NewEnum", "")),
-         numbered(1, get<&I::get_Count>("Count", "How many elements.")), put<&I::put_Count>("Count", ""),
+         numbered(1, get<&I::get_Count>("Count", "How many elements.")),
+         put<&I::put_Count>("Count", ""),
          get<&I::get_Level>("Level", "", optional("first"), optional("second")),
          put<&I::put_Level>("Level", "", optional("first"), optional("second")),
          resultMethod<&I::Describe>("Describe", "", "value"),
@@ -70,8 +71,10 @@ const InterfaceTable& ICollection::memberTable() {
          resultMethod<&I::Surround>("Surround", "", "before", "number", "after"),
          resultMethod<&I::Call>("Call", "", "object", "member", "kinds", "arguments"),
          resultMethod<&I::NumberOf>("NumberOf", "", "object", "name"),
-         resultMethod<&I::Offers>("Offers", "", "object", "interfaceId"), method<&I::Keep>("Keep", "", "object"),
-         get<&I::get_Kept>("Kept", ""), flagged(blocking, method<&I::Drop>("Drop", "", "milliseconds")),
+         resultMethod<&I::Offers>("Offers", "", "object", "interfaceId"),
+         method<&I::Keep>("Keep", "", "object"),
+         get<&I::get_Kept>("Kept", ""),
+         flagged(blocking, method<&I::Drop>("Drop", "", "milliseconds")),
          flagged(blocking, method<&I::Sleep>("Sleep", "", "milliseconds")),
          flagged({.hidden = true}, get<&I::Secret>("Secret", ""))});
     return table;
@@ -166,7 +169,8 @@ public:
         return status::ok;
     }
     Status MakeArray(std::int32_t kind, std::int32_t rows, std::int32_t columns, Variant* array) override {
-        const Dimension dimensions[] = {{-3, static_cast<std::uint32_t>(rows)}, {1, static_cast<std::uint32_t>(columns)}};
+        const Dimension dimensions[] = {{-3, static_cast<std::uint32_t>(rows)},
+                                        {1, static_cast<std::uint32_t>(columns)}};
         SafeArray made;
         const Status created = SafeArray::create(static_cast<Kind>(kind), dimensions, made);
         *array = Variant(std::move(made));

@@ -88,9 +88,7 @@ py::object typedForm(const py::object& array) {
     const py::object dtype = array.attr("dtype");
     const auto kind = dtype.attr("kind").cast<std::string>();
     const auto size = dtype.attr("itemsize").cast<int>();
-    const auto as = [&](const char* type) {
-        return numPy().attr("ascontiguousarray")(array, py::arg("dtype") = type);
-    };
+    const auto as = [&](const char* type) { return numPy().attr("ascontiguousarray")(array, py::arg("dtype") = type); };
     if (kind == "f") return as(size == 4 ? "=f4" : "=f8");
     if (kind == "i" && (size == 2 || size == 4)) return as(size == 2 ? "=i2" : "=i4");
     if (kind == "u" && size == 1) return as("u1");

@@ -117,8 +117,7 @@ private:
             const py::handle name = PyTuple_GET_ITEM(arguments.names, static_cast<Py_ssize_t>(i));
             const std::size_t parameter = parameterOf(name.cast<std::string>());
             names_.push_back(static_cast<std::int32_t>(parameter));
-            values_.push_back(
-                argumentOf(&member_.parameters[parameter], arguments.values[arguments.positional + i]));
+            values_.push_back(argumentOf(&member_.parameters[parameter], arguments.values[arguments.positional + i]));
         }
         // Parameters may have been left out before these.
         for (std::size_t i = nextParameter_; i < member_.parameters.size(); ++i) {
@@ -162,8 +161,9 @@ private:
 
 /// Whether every argument is a plain value by position, which most calls are.
 bool isPlain(const MemberInfo& member, const PythonArguments& arguments) {
-    return arguments.names == nullptr &&
-           std::ranges::none_of(member.parameters, [](const MemberParameter& info) { return info.out || info.variadic; });
+    return arguments.names == nullptr && std::ranges::none_of(member.parameters, [](const MemberParameter& info) {
+               return info.out || info.variadic;
+           });
 }
 
 /// The arguments of a plain call, without memory of their own.

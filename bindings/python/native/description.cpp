@@ -108,7 +108,8 @@ py::list describedEnumerations() {
     py::list all;
     for (const EnumerationTable* table : publishedEnumerations) {
         py::list values;
-        for (const EnumerationValue& value : table->values) values.append(py::make_tuple(text(value.name), value.value));
+        for (const EnumerationValue& value : table->values)
+            values.append(py::make_tuple(text(value.name), value.value));
         py::dict one;
         one["name"] = text(table->name);
         one["help"] = text(table->help);

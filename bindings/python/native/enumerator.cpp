@@ -17,8 +17,7 @@ struct Walk {
 };
 
 struct Enumerator {
-    PyObject_HEAD
-    Walk walk;
+    PyObject_HEAD Walk walk;
 };
 
 Walk& walkOf(PyObject* self) { return reinterpret_cast<Enumerator*>(self)->walk; }

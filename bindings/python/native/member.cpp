@@ -12,8 +12,7 @@ namespace {
 
 /// In a type: one member of its interface.
 struct Descriptor {
-    PyObject_HEAD
-    vectorcallfunc vectorcall;
+    PyObject_HEAD vectorcallfunc vectorcall;
     const InterfaceType* type;
     const MemberInfo* call;  ///< the method or the get, null for a property that can only be put
     const MemberInfo* put;   ///< null for a method and for a property that can only be got
@@ -23,8 +22,7 @@ struct Descriptor {
 
 /// `m.AddCol`, or a property with arguments such as `m.ColLB`: a member together with its object.
 struct BoundMember {
-    PyObject_HEAD
-    vectorcallfunc vectorcall;
+    PyObject_HEAD vectorcallfunc vectorcall;
     PyObject* proxy;
     Descriptor* member;
 };
@@ -47,7 +45,9 @@ py::str nameOf(const Descriptor& member) {
     const std::string_view name = infoOf(member).name;
     return {name.data(), name.size()};
 }
-std::string typeName(const Descriptor& member) { return reinterpret_cast<PyTypeObject*>(member.type->type.ptr())->tp_name; }
+std::string typeName(const Descriptor& member) {
+    return reinterpret_cast<PyTypeObject*>(member.type->type.ptr())->tp_name;
+}
 
 const Proxy& proxyFor(const Descriptor& member, PyObject* object) {
     if (isProxy(object) && proxyOf(object).type == member.type) return proxyOf(object);
@@ -70,7 +70,8 @@ PyObject* callDescriptor(PyObject* self, PyObject* const* arguments, std::size_t
     return guarded<PyObject*>(nullptr, [&] {
         const Descriptor& member = descriptorOf(self);
         const auto count = static_cast<std::size_t>(PyVectorcall_NARGS(flaggedCount));
-        if (count == 0) throw py::type_error("the object is missing that " + std::string(infoOf(member).name) + " belongs to");
+        if (count == 0)
+            throw py::type_error("the object is missing that " + std::string(infoOf(member).name) + " belongs to");
         return callMember(proxyFor(member, arguments[0]), callable(member), {arguments + 1, count - 1, names})
             .release()
             .ptr();
@@ -88,7 +89,8 @@ PyObject* callBound(PyObject* self, PyObject* const* arguments, std::size_t flag
 PyObject* subscriptBound(PyObject* self, PyObject* key) {
     return guarded<PyObject*>(nullptr, [&] {
         const BoundMember& bound = boundOf(self);
-        if (bound.member->isMethod) throw py::type_error(std::string(infoOf(*bound.member).name) + " is called, not subscripted");
+        if (bound.member->isMethod)
+            throw py::type_error(std::string(infoOf(*bound.member).name) + " is called, not subscripted");
         return callMember(proxyOf(bound.proxy), callable(*bound.member), SubscriptArguments(key).get()).release().ptr();
     });
 }
@@ -161,7 +163,8 @@ PyObject* compareBound(PyObject* left, PyObject* right, int operation) {
 
 Py_hash_t hashBound(PyObject* self) {
     const Py_hash_t hash = PyObject_Hash(boundOf(self).proxy);
-    return hash == -1 ? -1 : (hash ^ static_cast<Py_hash_t>(reinterpret_cast<std::uintptr_t>(boundOf(self).member) >> 4U));
+    return hash == -1 ? -1
+                      : (hash ^ static_cast<Py_hash_t>(reinterpret_cast<std::uintptr_t>(boundOf(self).member) >> 4U));
 }
 
 // What a member tells of itself; the same for descriptors and bound members.
@@ -241,9 +244,7 @@ PyMemberDef boundMembers[] = {
     {nullptr, 0, 0, 0, nullptr},
 };
 
-PyTypeObject* makeType(PyType_Spec spec) {
-    return reinterpret_cast<PyTypeObject*>(checked(PyType_FromSpec(&spec)));
-}
+PyTypeObject* makeType(PyType_Spec spec) { return reinterpret_cast<PyTypeObject*>(checked(PyType_FromSpec(&spec))); }
 
 PyTypeObject* makeMethodType() {
     PyType_Slot slots[] = {
@@ -263,13 +264,12 @@ PyTypeObject* makeMethodType() {
 
 PyTypeObject* makePropertyType() {
     PyType_Slot slots[] = {
-        slot(Py_tp_descr_get, getDescriptor), slot(Py_tp_descr_set, setDescriptor),
-        slot(Py_tp_getset, told<itself>),     slot(Py_tp_repr, representDescriptor),
-        slot(Py_tp_dealloc, deallocateDescriptor),
-        {0, nullptr},
+        slot(Py_tp_descr_get, getDescriptor),      slot(Py_tp_descr_set, setDescriptor),
+        slot(Py_tp_getset, told<itself>),          slot(Py_tp_repr, representDescriptor),
+        slot(Py_tp_dealloc, deallocateDescriptor), {0, nullptr},
     };
-    return makeType({"tarq._tarq.Property", sizeof(Descriptor), 0,
-                     Py_TPFLAGS_DEFAULT | Py_TPFLAGS_DISALLOW_INSTANTIATION, slots});
+    return makeType(
+        {"tarq._tarq.Property", sizeof(Descriptor), 0, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_DISALLOW_INSTANTIATION, slots});
 }
 
 PyTypeObject* makeBoundType() {
@@ -286,10 +286,10 @@ PyTypeObject* makeBoundType() {
         slot(Py_tp_dealloc, deallocateBound),
         {0, nullptr},
     };
-    return makeType({"tarq._tarq.BoundMember", sizeof(BoundMember), 0,
-                     Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL | Py_TPFLAGS_HAVE_GC |
-                         Py_TPFLAGS_DISALLOW_INSTANTIATION,
-                     slots});
+    return makeType(
+        {"tarq._tarq.BoundMember", sizeof(BoundMember), 0,
+         Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL | Py_TPFLAGS_HAVE_GC | Py_TPFLAGS_DISALLOW_INSTANTIATION,
+         slots});
 }
 
 }  // namespace

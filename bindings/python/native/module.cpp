@@ -56,9 +56,10 @@ void addFunctions(py::module_& module) {
     module.def("create", create, py::arg("name"),
                "Makes an object of a class.\n\nname: a class name (\"TARQModel\") or a ProgID (\"tarq.TARQModel\", "
                "\"tarq.TARQModel.1\"), in any case. Raises tarq.Error when there is no such class.");
-    module.def("advise", advise, py::arg("obj"), py::arg("sink"),
-               "Subscribes to an object's events and returns the cookie that unadvise takes.\n\nsink: a callable, or an "
-               "object that has a method named like the event. It may be called on another thread.");
+    module.def(
+        "advise", advise, py::arg("obj"), py::arg("sink"),
+        "Subscribes to an object's events and returns the cookie that unadvise takes.\n\nsink: a callable, or an "
+        "object that has a method named like the event. It may be called on another thread.");
     module.def("unadvise", unadvise, py::arg("obj"), py::arg("cookie"), "Ends a subscription to an object's events.");
     module.def(
         "last_status", [] { return lastStatus().value(); },

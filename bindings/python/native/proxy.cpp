@@ -23,8 +23,7 @@ py::object& baseType() {
 
 /// The types made so far. They stay, as static types do.
 std::unordered_map<const InterfaceTable*, std::unique_ptr<InterfaceType>>& interfaceTypes() {
-    static auto* const all =
-        new std::unordered_map<const InterfaceTable*, std::unique_ptr<InterfaceType>>;  // NOLINT
+    static auto* const all = new std::unordered_map<const InterfaceTable*, std::unique_ptr<InterfaceType>>;  // NOLINT
     return *all;
 }
 
@@ -48,7 +47,8 @@ py::module_ presentation() { return py::module_::import("tarq._presentation"); }
 
 PyObject* getAttribute(PyObject* object, PyObject* name) {
     PyObject* const found = PyObject_GenericGetAttr(object, name);
-    if (found != nullptr || PyErr_ExceptionMatches(PyExc_AttributeError) == 0 || self(object).type == nullptr) return found;
+    if (found != nullptr || PyErr_ExceptionMatches(PyExc_AttributeError) == 0 || self(object).type == nullptr)
+        return found;
     return guarded<PyObject*>(nullptr, [&] {
         py::error_already_set original;
         const std::string_view text = textOf(name);
@@ -116,18 +116,16 @@ PyObject* call(PyObject* object, PyObject* arguments, PyObject* keywords) {
 }
 
 Py_ssize_t length(PyObject* object) {
-    return guarded<Py_ssize_t>(-1, [&] {
-        return callMember(self(object), *self(object).type->count, {}).cast<Py_ssize_t>();
-    });
+    return guarded<Py_ssize_t>(
+        -1, [&] { return callMember(self(object), *self(object).type->count, {}).cast<Py_ssize_t>(); });
 }
 
 PyObject* iterate(PyObject* object) {
     return guarded<PyObject*>(nullptr, [&] {
         const InterfaceType& type = *self(object).type;
         Variant enumerator;
-        const Status status = self(object).dispatch->Invoke(type.enumerator->id,
-                                                            static_cast<std::uint16_t>(type.enumerator->kind), {},
-                                                            &enumerator, nullptr);
+        const Status status = self(object).dispatch->Invoke(
+            type.enumerator->id, static_cast<std::uint16_t>(type.enumerator->kind), {}, &enumerator, nullptr);
         setLastStatus(status);
         if (status.failed()) throwFailure(status, type.source);
         if (!enumerator.isObject()) throw py::type_error("the object handed out no enumerator");
@@ -138,7 +136,8 @@ PyObject* iterate(PyObject* object) {
 // Identity.
 
 PyObject* represent(PyObject* object) {
-    return guarded<PyObject*>(nullptr, [&] { return presentation().attr("represent")(py::handle(object)).release().ptr(); });
+    return guarded<PyObject*>(nullptr,
+                              [&] { return presentation().attr("represent")(py::handle(object)).release().ptr(); });
 }
 
 PyObject* compare(PyObject* left, PyObject* right, int operation) {
@@ -159,7 +158,8 @@ PyObject* refuseCopy(PyObject* /*object*/, PyObject* /*protocol*/) {
 }
 
 PyObject* listMembers(PyObject* object, PyObject* /*none*/) {
-    return guarded<PyObject*>(nullptr, [&] { return presentation().attr("members")(py::handle(object)).release().ptr(); });
+    return guarded<PyObject*>(nullptr,
+                              [&] { return presentation().attr("members")(py::handle(object)).release().ptr(); });
 }
 
 // Life.
@@ -176,7 +176,8 @@ PyObject* create(PyTypeObject* type, PyObject* arguments, PyObject* keywords) {
     return guarded<PyObject*>(nullptr, [&] {
         const InterfaceType* found = nullptr;
         for (const auto& [table, candidate] : interfaceTypes()) {
-            if (PyType_IsSubtype(type, reinterpret_cast<PyTypeObject*>(candidate->type.ptr())) != 0) found = candidate.get();
+            if (PyType_IsSubtype(type, reinterpret_cast<PyTypeObject*>(candidate->type.ptr())) != 0)
+                found = candidate.get();
         }
         if (found == nullptr || found->entry == nullptr) {
             throw py::type_error(std::string("a ") + type->tp_name + " can't be created, the component hands it out");
@@ -262,11 +263,16 @@ PyObject* InterfaceType::descriptor(std::string_view name) const {
 
 py::object makeProxyType() {
     PyType_Slot slots[] = {
-        slot(Py_tp_new, create),           slot(Py_tp_dealloc, deallocate),
-        slot(Py_tp_getattro, getAttribute), slot(Py_tp_setattro, setAttribute),
-        slot(Py_tp_repr, represent),       slot(Py_tp_richcompare, compare),
-        slot(Py_tp_hash, hash),            slot(Py_tp_members, members),
-        slot(Py_tp_methods, methods),      slot(Py_tp_doc, "An object of the component."),
+        slot(Py_tp_new, create),
+        slot(Py_tp_dealloc, deallocate),
+        slot(Py_tp_getattro, getAttribute),
+        slot(Py_tp_setattro, setAttribute),
+        slot(Py_tp_repr, represent),
+        slot(Py_tp_richcompare, compare),
+        slot(Py_tp_hash, hash),
+        slot(Py_tp_members, members),
+        slot(Py_tp_methods, methods),
+        slot(Py_tp_doc, "An object of the component."),
         {0, nullptr},
     };
     PyType_Spec spec{"tarq.Object", sizeof(Proxy), 0, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE, slots};

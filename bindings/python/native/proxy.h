@@ -18,10 +18,10 @@ namespace tarq::python {
 /// What the Python type of an interface knows of it.
 struct InterfaceType {
     const InterfaceTable* table = nullptr;
-    const ClassEntry* entry = nullptr;     ///< null for an interface without a class of its own
+    const ClassEntry* entry = nullptr;  ///< null for an interface without a class of its own
     py::object type;
-    std::string source;                    ///< versioned ProgID, of failures that don't tell theirs
-    std::vector<py::object> members;       ///< descriptors by the position of the first member of their name
+    std::string source;                      ///< versioned ProgID, of failures that don't tell theirs
+    std::vector<py::object> members;         ///< descriptors by the position of the first member of their name
     const MemberInfo* defaultGet = nullptr;  ///< get or method
     const MemberInfo* defaultPut = nullptr;
     const MemberInfo* enumerator = nullptr;
@@ -32,10 +32,9 @@ struct InterfaceType {
 };
 
 struct Proxy {
-    PyObject_HEAD
-    IUnknown* object;     // one reference
-    IDispatch* dispatch;  // one reference; null for an object without late binding
-    const InterfaceType* type;  // null likewise
+    PyObject_HEAD IUnknown* object;  // one reference
+    IDispatch* dispatch;             // one reference; null for an object without late binding
+    const InterfaceType* type;       // null likewise
     PyObject* weakReferences;
 };
 

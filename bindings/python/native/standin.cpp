@@ -15,8 +15,7 @@ class StandIn;
 
 /// An object of a class derived from tarq.Dispatch: knows its stand-in while there is one.
 struct Dispatch {
-    PyObject_HEAD
-    StandIn* standIn;
+    PyObject_HEAD StandIn* standIn;
 };
 
 py::object& standInType() {

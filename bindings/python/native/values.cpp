@@ -16,7 +16,8 @@ namespace {
 
 /// From an enumeration to the dict of its members. Kept to the end of the process: the interpreter may be gone by then.
 std::unordered_map<std::string_view, py::dict>& enumerations() {
-    static auto* const all = new std::unordered_map<std::string_view, py::dict>;  // NOLINT(cppcoreguidelines-owning-memory)
+    static auto* const all =
+        new std::unordered_map<std::string_view, py::dict>;  // NOLINT(cppcoreguidelines-owning-memory)
     return *all;
 }
 
@@ -41,8 +42,7 @@ Variant textToVariant(PyObject* value) {
 
 bool isOtherSequence(py::handle value) {
     // The protocol alone won't do: every class that can be subscripted fulfils it.
-    static auto* const sequence =
-        py::object(py::module_::import("collections.abc").attr("Sequence")).release().ptr();
+    static auto* const sequence = py::object(py::module_::import("collections.abc").attr("Sequence")).release().ptr();
     return checked(PyObject_IsInstance(value.ptr(), sequence)) != 0;
 }
 

@@ -1,0 +1,29 @@
+// Statuses as exceptions, for programs that have nothing better to do with a failure than to end.
+#pragma once
+
+#include <tarq/tarq.h>
+
+#include <stdexcept>
+#include <string>
+
+/// Throws what the component has to say when a call has failed. A success with a message, such as a run that ended at a
+/// limit, is returned.
+inline tarq::Status check(tarq::Status status) {
+    if (!status.failed()) return status;
+    const tarq::ObjectError* error = tarq::lastError();
+    throw std::runtime_error(error != nullptr ? error->description : std::string(tarq::status::meaning(status)));
+}
+
+inline tarq::Ref<tarq::ITARQModel> newModel() {
+    tarq::Ref<tarq::ITARQModel> model = tarq::createObject<tarq::ITARQModel>("TARQModel");
+    if (!model) throw std::runtime_error("no model: the component can't create one");
+    return model;
+}
+
+/// A property's value: valueOf<double>([&](double* value) { return model.get_ColLPSol(Variant("chair"), value); }).
+template <class Value, class Get>
+Value valueOf(const Get& get) {
+    Value value{};
+    check(get(&value));
+    return value;
+}
