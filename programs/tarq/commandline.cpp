@@ -15,6 +15,7 @@ constexpr auto programFooter = R"(Examples:
   tarq solve plan.mps --solution plan.csv    keep the solution as a table
   tarq parameters                            all solver parameters
   tarq parameters xmxmin                     one of them in full
+  tarq describe ITARQModel                   the members of an object, for programs
 
 'tarq COMMAND --help' tells more about a command.)";
 
@@ -46,6 +47,15 @@ constexpr auto parametersFooter = R"(Examples:
   tarq parameters xmxnod       limits, default and meaning of one parameter
   tarq parameters --json       the list for a program to read)";
 
+constexpr auto describeFooter = R"(NAME is a class, an interface, an enumeration or one of its values, or a member,
+alone or with its interface; capitals don't matter.
+
+Examples:
+  tarq describe                        all classes, interfaces and enumerations
+  tarq describe ITARQModel             the members of an interface
+  tarq describe ITARQModel.ColLB       what a member takes, gives and means
+  tarq describe TARQColType --json     an enumeration for a program to read)";
+
 void addEngineOption(CLI::App& app, std::string& engine) {
     app.add_option("--engine", engine, "Engine library to use instead of the one beside the component")
         ->option_text("FILE");
@@ -73,6 +83,12 @@ void describeParameters(CLI::App& app, ParametersOptions& options) {
     app.add_option("NAME", options.name, "Explain only this parameter, in full")->option_text(" ");
     app.add_flag("--json", options.json, "Print JSON");
     app.footer(parametersFooter);
+}
+
+void describeDescribe(CLI::App& app, DescribeOptions& options) {
+    app.add_option("NAME", options.name, "Explain only this, in full")->option_text(" ");
+    app.add_flag("--json", options.json, "Print JSON");
+    app.footer(describeFooter);
 }
 
 /// What is wrong in values that the parser takes as they are; empty when nothing is.
@@ -111,8 +127,14 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     CLI::App& parameters = *app.add_subcommand("parameters", "List or explain the solver parameters");
     parameters.group("Commands");
     describeParameters(parameters, line.parameters);
+    CLI::App& describe = *app.add_subcommand("describe", "List or explain classes, interfaces and enumerations");
+    describe.group("Commands");
+    describeDescribe(describe, line.describe);
 
-    const auto command = [&] { return solve.parsed() ? "solve " : parameters.parsed() ? "parameters " : ""; };
+    const auto command = [&]() -> std::string {
+        const std::vector<CLI::App*> given = app.get_subcommands();
+        return given.empty() ? "" : given.front()->get_name() + " ";
+    };
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp& help) {
@@ -132,8 +154,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
         line.action = Action::Solve;
     } else if (parameters.parsed()) {
         line.action = Action::Parameters;
+    } else if (describe.parsed()) {
+        line.action = Action::Describe;
     } else {
-        return refused("no command was given; the commands are solve and parameters", "");
+        return refused("no command was given; the commands are solve, parameters and describe", "");
     }
     return line;
 }

@@ -23,13 +23,19 @@ struct ParametersOptions {
     bool json = false;
 };
 
-enum class Action { None, Solve, Parameters, Version };
+struct DescribeOptions {
+    std::string name;  ///< empty: an overview
+    bool json = false;
+};
+
+enum class Action { None, Solve, Parameters, Describe, Version };
 
 struct CommandLine {
     Action action = Action::None;
     ExitCode exitCode = ExitCode::Success;  ///< with Action::None: help was shown, or the usage was wrong
     SolveOptions solve;
     ParametersOptions parameters;
+    DescribeOptions describe;
     std::string engine;  ///< whose version to show
 };
 

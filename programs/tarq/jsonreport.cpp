@@ -1,14 +1,11 @@
 #include "jsonreport.h"
 
-#include <nlohmann/json.hpp>
-
+#include "jsondocument.h"
 #include "statusnames.h"
 
 namespace tarq::command {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 template <class Value>
 Json namedValue(Value value) {
@@ -39,7 +36,7 @@ std::string jsonReport(const RunResult& result) {
         {"seconds", {{"read", result.readSeconds}, {"solve", result.solveSeconds}}},
         {"message", result.failure.empty() ? result.message : result.failure},
     };
-    return document.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    return documentOf(document);
 }
 
 }  // namespace tarq::command

@@ -1,9 +1,10 @@
-// tarq: solves model files and explains solver parameters from the command line.
+// tarq: solves model files and explains solver parameters and objects from the command line.
 
 #include <exception>
 
 #include "commandline.h"
 #include "console.h"
+#include "describecommand.h"
 #include "parameterscommand.h"
 #include "solvecommand.h"
 #include "versioncommand.h"
@@ -19,6 +20,8 @@ ExitCode run(int argc, const char* const* argv) {
             return solve(line.solve);
         case Action::Parameters:
             return explainParameters(line.parameters);
+        case Action::Describe:
+            return describe(line.describe);
         case Action::Version:
             return showVersion(line.engine);
         case Action::None:

@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 #include "console.h"
+#include "jsondocument.h"
 #include "modelobject.h"
 #include "parameterlist.h"
 #include "table.h"
@@ -14,8 +14,6 @@
 namespace tarq::command {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 Json jsonOf(const Variant& value) {
     switch (value.kind()) {
@@ -48,8 +46,6 @@ Json jsonOf(const Parameter& parameter) {
     }
     return row;
 }
-
-std::string documentOf(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
 
 /// The list, a table for each section; descriptions are cut at the terminal's edge, and whole where there is none.
 std::string listText(const std::vector<Parameter>& parameters) {
