@@ -13,6 +13,8 @@ namespace {
 constexpr auto programFooter = R"(Examples:
   tarq solve plan.mps                        solve a model and show the result
   tarq solve plan.mps --solution plan.csv    keep the solution as a table
+  tarq convert plan.mps plan.ltx             the same model in another format
+  tarq show plan.mps --rows 1:20             a readable listing
   tarq parameters                            all solver parameters
   tarq parameters xmxmin                     one of them in full
   tarq describe ITARQModel                   the members of an object, for programs
@@ -24,10 +26,12 @@ constexpr auto solveFooter = R"(Formats, told by the extension of FILE or by --f
   triplet  .tri   Triplet
   lindo    .ltx   Lindo
 
+--set and --profile act after the file is read, in the order given.
+
 Exit codes:
   0  an optimal solution was found
   1  wrong usage, or a parameter was refused
-  2  a file could not be read, understood or written
+  2  a file could not be read, understood or written, or the model was refused
   3  infeasible, unbounded or no integer solution
   4  ended at a limit or stopped; the best solution so far is shown
   5  the engine is missing or failed
@@ -45,7 +49,26 @@ Examples:
 constexpr auto parametersFooter = R"(Examples:
   tarq parameters              the whole list, by section
   tarq parameters xmxnod       limits, default and meaning of one parameter
-  tarq parameters --json       the list for a program to read)";
+  tarq parameters --json       the list for a program to read
+  tarq parameters --write a    a profile with all parameters, to be edited)";
+
+constexpr auto convertFooter = R"(The format of a file is told by its extension (.mps, .tri, .ltx) or by --from and
+--to; - as a file is standard input or output. A model that the format can't hold
+leaves no file. MPS and Lindo take names of up to 8 characters, Lindo takes no
+row with two bounds, Triplet holds everything but the model's name.
+
+Examples:
+  tarq convert plan.mps plan.tri
+  tarq convert plan.tri plan.ltx --rename
+  gunzip -c plan.mps.gz | tarq convert - plan.tri --from mps)";
+
+constexpr auto showFooter = R"(A range is FIRST:LAST, by number from 1 or by name; either may be left out, and a
+single one means itself.
+
+Examples:
+  tarq show plan.mps
+  tarq show plan.mps --rows 1:20 --cols 5:
+  tarq show plan.mps --cols CHAIRS)";
 
 constexpr auto describeFooter = R"(NAME is a class, an interface, an enumeration or one of its values, or a member,
 alone or with its interface; capitals don't matter.
@@ -55,6 +78,16 @@ Examples:
   tarq describe ITARQModel             the members of an interface
   tarq describe ITARQModel.ColLB       what a member takes, gives and means
   tarq describe TARQColType --json     an enumeration for a program to read)";
+
+struct CommandRow {
+    const char* name;
+    Action action;
+};
+constexpr CommandRow commands[] = {{"solve", Action::Solve},
+                                   {"convert", Action::Convert},
+                                   {"show", Action::Show},
+                                   {"parameters", Action::Parameters},
+                                   {"describe", Action::Describe}};
 
 void addEngineOption(CLI::App& app, std::string& engine) {
     app.add_option("--engine", engine, "Engine library to use instead of the one beside the component")
@@ -67,9 +100,14 @@ void describeSolve(CLI::App& app, SolveOptions& options) {
         ->required();
     app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
         ->option_text("mps|triplet|lindo");
-    app.add_option("--set", options.assignments, "Set a solver parameter; may be repeated and acts in the order given")
+    app.add_option("--set", "Set a solver parameter; may be repeated")
         ->option_text("NAME=VALUE")
-        ->allow_extra_args(false);
+        ->expected(1)
+        ->take_all();
+    app.add_option("--profile", "Set solver parameters from a profile file; may be repeated")
+        ->option_text("FILE")
+        ->expected(1)
+        ->take_all();
     app.add_option("--solution", options.solutionFile,
                    "Write the solution to a file: CSV if its extension is .csv, else JSON")
         ->option_text("FILE");
@@ -79,9 +117,35 @@ void describeSolve(CLI::App& app, SolveOptions& options) {
     app.footer(solveFooter);
 }
 
+void describeConvert(CLI::App& app, ConvertOptions& options) {
+    app.add_option("IN", options.input, "Model file to read")->option_text(" ")->required();
+    app.add_option("OUT", options.output, "Model file to write")->option_text(" ")->required();
+    app.add_option("--from", options.from, "Format of IN")->option_text("mps|triplet|lindo");
+    app.add_option("--to", options.to, "Format of OUT")->option_text("mps|triplet|lindo");
+    app.add_flag("--rename", options.rename, "Name the columns C1, C2 and so on, and the rows R1, R2 and so on");
+    app.footer(convertFooter);
+}
+
+void describeShow(CLI::App& app, ShowOptions& options) {
+    app.add_option("FILE", options.file, "Model file; - is standard input and needs --format")
+        ->option_text(" ")
+        ->required();
+    app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
+        ->option_text("mps|triplet|lindo");
+    app.add_option("--rows", options.rows, "Only these rows")->option_text("FIRST:LAST");
+    app.add_option("--cols", options.columns, "Only these columns")->option_text("FIRST:LAST");
+    app.footer(showFooter);
+}
+
 void describeParameters(CLI::App& app, ParametersOptions& options) {
-    app.add_option("NAME", options.name, "Explain only this parameter, in full")->option_text(" ");
-    app.add_flag("--json", options.json, "Print JSON");
+    CLI::Option* const name = app.add_option("NAME", options.name, "Explain only this parameter, in full");
+    name->option_text(" ");
+    CLI::Option* const json = app.add_flag("--json", options.json, "Print JSON");
+    app.add_option("--write", options.profile,
+                   "Write a profile with every parameter at its default; - for standard output")
+        ->option_text("FILE")
+        ->excludes(name)
+        ->excludes(json);
     app.footer(parametersFooter);
 }
 
@@ -91,16 +155,29 @@ void describeDescribe(CLI::App& app, DescribeOptions& options) {
     app.footer(describeFooter);
 }
 
+/// The values of --set and --profile in the order in which they were given.
+std::vector<ParameterSource> parameterSources(const CLI::App& app) {
+    std::vector<ParameterSource> sources;
+    std::size_t profiles = 0;
+    std::size_t assignments = 0;
+    for (const CLI::Option* option : app.parse_order()) {
+        const bool isProfile = option->check_name("--profile");
+        if (!isProfile && !option->check_name("--set")) continue;
+        sources.push_back({isProfile, option->results()[isProfile ? profiles++ : assignments++]});
+    }
+    return sources;
+}
+
 /// What is wrong in values that the parser takes as they are; empty when nothing is.
-std::string complaintAbout(const SolveOptions& options) {
-    for (const std::string& assignment : options.assignments) {
-        const std::size_t sign = assignment.find('=');
-        if (sign == std::string::npos || sign == 0) {
-            return fmt::format("--set {}: expected NAME=VALUE, such as --set xmxmin=5", assignment);
+std::string complaintAbout(const CLI::App& app, const SolveOptions& options) {
+    for (const ParameterSource& source : options.parameters) {
+        const std::size_t sign = source.text.find('=');
+        if (!source.isProfile && (sign == std::string::npos || sign == 0)) {
+            return fmt::format("--set {}: expected NAME=VALUE, such as --set xmxmin=5", printable(source.text));
         }
     }
-    if (options.solutionFile == "-") return "--solution needs the name of a file; use --json to print the result";
-    return {};
+    const bool isNamed = app.count("--solution") == 0 || (!options.solutionFile.empty() && options.solutionFile != "-");
+    return isNamed ? "" : "--solution needs the name of a file; use --json to print the result";
 }
 
 CommandLine refused(std::string_view complaint, std::string_view command) {
@@ -121,15 +198,15 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     app.footer(programFooter);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.require_subcommand(0, 1);
-    CLI::App& solve = *app.add_subcommand("solve", "Solve a model file");
-    solve.group("Commands");
+    const auto add = [&](const char* name, const char* help) -> CLI::App& {
+        return *app.add_subcommand(name, help)->group("Commands");
+    };
+    CLI::App& solve = add("solve", "Solve a model file");
     describeSolve(solve, line.solve);
-    CLI::App& parameters = *app.add_subcommand("parameters", "List or explain the solver parameters");
-    parameters.group("Commands");
-    describeParameters(parameters, line.parameters);
-    CLI::App& describe = *app.add_subcommand("describe", "List or explain classes, interfaces and enumerations");
-    describe.group("Commands");
-    describeDescribe(describe, line.describe);
+    describeConvert(add("convert", "Write a model file in another format"), line.convert);
+    describeShow(add("show", "Show a model file as a readable listing"), line.show);
+    describeParameters(add("parameters", "List or explain the solver parameters"), line.parameters);
+    describeDescribe(add("describe", "List or explain classes, interfaces and enumerations"), line.describe);
 
     const auto command = [&]() -> std::string {
         const std::vector<CLI::App*> given = app.get_subcommands();
@@ -146,18 +223,20 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
 
     if (version) {
         line.action = Action::Version;
-    } else if (solve.parsed()) {
-        if (const std::string complaint = complaintAbout(line.solve); !complaint.empty()) {
+        return line;
+    }
+    for (const CommandRow& row : commands) {
+        if (app.got_subcommand(row.name)) line.action = row.action;
+    }
+    if (line.action == Action::None) {
+        return refused("no command was given; the commands are solve, convert, show, parameters and describe", "");
+    }
+    if (line.action == Action::Solve) {
+        line.solve.parameters = parameterSources(solve);
+        if (const std::string complaint = complaintAbout(solve, line.solve); !complaint.empty()) {
             return refused(complaint, command());
         }
         if (line.solve.engine.empty()) line.solve.engine = line.engine;
-        line.action = Action::Solve;
-    } else if (parameters.parsed()) {
-        line.action = Action::Parameters;
-    } else if (describe.parsed()) {
-        line.action = Action::Describe;
-    } else {
-        return refused("no command was given; the commands are solve, parameters and describe", "");
     }
     return line;
 }

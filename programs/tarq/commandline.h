@@ -8,18 +8,40 @@
 
 namespace tarq::command {
 
+/// What sets parameters: an assignment NAME=VALUE, or a profile by its file name.
+struct ParameterSource {
+    bool isProfile = false;
+    std::string text;
+};
+
 struct SolveOptions {
-    std::string file;                      ///< "-" for standard input
-    std::string format;                    ///< empty: told by the file's extension
-    std::vector<std::string> assignments;  ///< NAME=VALUE, in the order given
-    std::string solutionFile;              ///< empty: none
-    std::string engine;                    ///< empty: the component's own choice
+    std::string file;                         ///< "-" for standard input
+    std::string format;                       ///< empty: told by the file's extension
+    std::vector<ParameterSource> parameters;  ///< in the order given
+    std::string solutionFile;                 ///< empty: none
+    std::string engine;                       ///< empty: the component's own choice
     bool json = false;
     bool quiet = false;
 };
 
+struct ConvertOptions {
+    std::string input;   ///< "-" for standard input
+    std::string output;  ///< "-" for standard output
+    std::string from;    ///< formats; empty: told by the file's extension
+    std::string to;
+    bool rename = false;
+};
+
+struct ShowOptions {
+    std::string file;    ///< "-" for standard input
+    std::string format;  ///< empty: told by the file's extension
+    std::string rows;    ///< "FIRST:LAST", by number or by name, either may be empty; empty: all
+    std::string columns;
+};
+
 struct ParametersOptions {
-    std::string name;  ///< empty: all
+    std::string name;     ///< empty: all
+    std::string profile;  ///< a profile to write, "-" for standard output; empty: none
     bool json = false;
 };
 
@@ -28,12 +50,14 @@ struct DescribeOptions {
     bool json = false;
 };
 
-enum class Action { None, Solve, Parameters, Describe, Version };
+enum class Action { None, Solve, Convert, Show, Parameters, Describe, Version };
 
 struct CommandLine {
     Action action = Action::None;
     ExitCode exitCode = ExitCode::Success;  ///< with Action::None: help was shown, or the usage was wrong
     SolveOptions solve;
+    ConvertOptions convert;
+    ShowOptions show;
     ParametersOptions parameters;
     DescribeOptions describe;
     std::string engine;  ///< whose version to show

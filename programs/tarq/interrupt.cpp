@@ -56,6 +56,8 @@ InterruptWatch::~InterruptWatch() {
     sigaction(SIGTERM, &oldTerminate_, nullptr);
     watchedModel = nullptr;
     alarm(0);
+    // A handler that is still at work on another thread may set one more alarm, which must not end the process.
+    if (oldAlarm_.sa_handler == SIG_DFL) oldAlarm_.sa_handler = SIG_IGN;
     sigaction(SIGALRM, &oldAlarm_, nullptr);
 }
 

@@ -12,6 +12,12 @@ Json namedValue(Value value) {
     return {{"value", static_cast<std::int32_t>(value)}, {"name", nameOf(value)}};
 }
 
+/// What the component says of a failure and, behind it, what the engine says.
+std::string messageOf(const RunResult& result) {
+    if (result.failure.empty() || result.message.empty()) return result.failure + result.message;
+    return result.failure + ' ' + result.message;
+}
+
 }  // namespace
 
 std::string jsonReport(const RunResult& result) {
@@ -34,7 +40,7 @@ std::string jsonReport(const RunResult& result) {
         {"nodes", result.nodes},
         {"integerSolutions", result.integerSolutions},
         {"seconds", {{"read", result.readSeconds}, {"solve", result.solveSeconds}}},
-        {"message", result.failure.empty() ? result.message : result.failure},
+        {"message", messageOf(result)},
     };
     return documentOf(document);
 }

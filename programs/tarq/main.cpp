@@ -1,11 +1,13 @@
-// tarq: solves model files and explains solver parameters and objects from the command line.
+// tarq: solves, converts and shows model files and explains solver parameters and objects from the command line.
 
 #include <exception>
 
 #include "commandline.h"
 #include "console.h"
+#include "convertcommand.h"
 #include "describecommand.h"
 #include "parameterscommand.h"
+#include "showcommand.h"
 #include "solvecommand.h"
 #include "versioncommand.h"
 
@@ -18,6 +20,10 @@ ExitCode run(int argc, const char* const* argv) {
     switch (line.action) {
         case Action::Solve:
             return solve(line.solve);
+        case Action::Convert:
+            return convert(line.convert);
+        case Action::Show:
+            return showModel(line.show);
         case Action::Parameters:
             return explainParameters(line.parameters);
         case Action::Describe:

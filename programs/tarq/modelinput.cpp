@@ -9,44 +9,31 @@
 #include <fstream>
 #include <memory>
 
-#include "console.h"
+#include "fileformat.h"
 #include "lasterror.h"
-#include "standardinput.h"
-#include "suggestion.h"
+#include "temporaryfile.h"
 
 namespace tarq::command {
 
 namespace {
 
-struct FormatRow {
-    TARQFileFormatType format;
-    std::string_view name;
-    std::string_view extension;
-};
-
-constexpr FormatRow formats[] = {
-    {TARQFileFormatType::MPS, "mps", ".mps"},
-    {TARQFileFormatType::Triplet, "triplet", ".tri"},
-    {TARQFileFormatType::Lindo, "lindo", ".ltx"},
-};
-constexpr auto formatList = "mps (.mps), triplet (.tri) and lindo (.ltx)";
-
-Failure unknownFormat(std::string text) {
-    return {ExitCode::WrongUsage, fmt::format("{}\nThe formats are {}.", text, formatList)};
-}
-
 /// Why the system won't let us read a file, in its own words.
 std::string reasonNotReadable(const std::string& file) {
+    constexpr auto unreadable = "it could not be read to its end, or has 2 gigabytes or more";
     std::error_code ignored;
     if (std::filesystem::is_directory(file, ignored)) return "it is a directory";
+    // Another open of a pipe would wait for another writer.
+    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) return unreadable;
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(std::fopen(file.c_str(), "rb"), std::fclose);
     if (opened == nullptr) return std::strerror(errno);
-    return "it could not be read to its end, or has 2 gigabytes or more";
+    return unreadable;
 }
 
 /// True for a text in which the keyword NAME is followed by a name too early for fixed columns.
 bool looksLikeFreeColumns(const std::string& file) {
     constexpr std::size_t nameColumn = 14;
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(file, ignored)) return false;
     std::ifstream input(file, std::ios::binary);
     std::string line;
     for (int count = 0; count < 1000 && std::getline(input, line); ++count) {
@@ -110,10 +97,9 @@ Failure explain(Status status, const std::string& shown, const std::string& file
     } else if (status == status::fileAccess) {
         text = fmt::format("{} can't be read: {}.", shown, reasonNotReadable(file));
     } else if (status == status::textTooLong) {
-        text = fmt::format("{}: {} A file's name may have 255 bytes.", shown, complaint);
+        text = fmt::format("{}: {} A file's name may have 255 characters.", shown, complaint);
     } else if (status == status::notImplemented) {
-        text = fmt::format("{}: reading the format {} is not implemented in this version.", shown,
-                           formats[static_cast<std::size_t>(format)].name);
+        text = fmt::format("{}: reading the format {} is not implemented in this version.", shown, formatName(format));
     } else {
         text = fmt::format("{}: {}", shown, complaint);
     }
@@ -122,26 +108,11 @@ Failure explain(Status status, const std::string& shown, const std::string& file
 
 }  // namespace
 
-std::string_view shownName(const std::string& file) { return file == "-" ? "standard input" : std::string_view(file); }
-
-std::optional<Failure> chooseFormat(const std::string& file, const std::string& name, TARQFileFormatType& format) {
-    const bool named = !name.empty();
-    if (!named && file == "-") return unknownFormat("standard input needs --format.");
-    const std::string wanted = lowerCase(named ? name : std::filesystem::path(file).extension().string());
-    for (const FormatRow& row : formats) {
-        if (wanted != (named ? row.name : row.extension)) continue;
-        format = row.format;
-        return std::nullopt;
-    }
-    if (named) return unknownFormat(fmt::format("--format {}: there is no such format.", name));
-    return unknownFormat(fmt::format("{}: the extension tells no format; name it with --format.", file));
-}
-
 std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TARQFileFormatType format) {
-    std::optional<StandardInputFile> spooled;
+    std::optional<TemporaryFile> spooled;
     std::string path = file;
     if (file == "-") {
-        spooled.emplace();
+        spooled.emplace().copyStandardInput();
         if (!spooled->failure().empty()) {
             return Failure{ExitCode::InputRejected,
                            fmt::format("standard input can't be read: {}.", spooled->failure())};
@@ -150,7 +121,7 @@ std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TAR
     }
     const Status status = model.ReadModel(path, format);
     if (status.isOk()) return std::nullopt;
-    return explain(status, printable(shownName(file)), path, format);
+    return explain(status, shownName(file), path, format);
 }
 
 }  // namespace tarq::command

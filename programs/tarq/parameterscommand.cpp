@@ -7,6 +7,7 @@
 #include "console.h"
 #include "jsondocument.h"
 #include "modelobject.h"
+#include "modeloutput.h"
 #include "parameterlist.h"
 #include "table.h"
 #include "terminal.h"
@@ -98,6 +99,12 @@ std::string fullText(const Parameter& parameter) {
 ExitCode explainParameters(const ParametersOptions& options) {
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
+    if (!options.profile.empty()) {
+        const auto failure = writeOutput(
+            options.profile, [&](const std::string& path) { return model->WriteProfile(path); },
+            [](Status) { return std::string(); });
+        return failure ? show(*failure) : ExitCode::Success;
+    }
     const std::vector<Parameter> parameters = readParameters(*model);
     if (options.name.empty()) {
         if (!options.json) return writeResult(listText(parameters), ExitCode::Success);

@@ -80,7 +80,7 @@ std::string failureText(ITARQModel& model, const RunResult& result) {
             engine);
     }
     std::string text =
-        fmt::format("the engine failed: {}", result.failure.empty() ? "it told no result." : result.failure);
+        fmt::format("{}: {}", result.ending(), result.failure.empty() ? "it told no result." : result.failure);
     if (result.solverStatus != TARQSolverStatusTyp::UndefinedSolverStatus) {
         text += fmt::format("\nSolver status: {}", nameOf(result.solverStatus));
     }

@@ -48,6 +48,8 @@ void runWatched(ITARQModel& model, bool showProgress, RunResult& result) {
         if (showProgress) progress.emplace(model, result.integer, watch);
         result.status = model.Optimize();
         if (result.status.failed()) result.failure = lastErrorText(result.status);
+        // The status alone doesn't tell a model that is refused from an engine that can't start.
+        result.modelRefused = result.failure == "Input error while transfering model to TARQ.DLL.";
     }
     result.interrupted = watch.interrupted();
     result.solveSeconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();

@@ -39,6 +39,7 @@ SolutionKind RunResult::solution() const {
 double RunResult::objective() const { return solution() == SolutionKind::Integer ? ipObjective : lpObjective; }
 
 ExitCode RunResult::exitCode() const {
+    if (status.failed() && modelRefused) return ExitCode::InputRejected;
     if (status.failed()) return ExitCode::EngineFailed;
     if (!status.isOk()) return ExitCode::EndedEarly;
     switch (solutionStatus) {
@@ -77,6 +78,7 @@ std::string RunResult::earlyEnding() const {
 std::string RunResult::ending() const {
     const ExitCode code = exitCode();
     if (code == ExitCode::EngineFailed) return "the engine failed";
+    if (code == ExitCode::InputRejected) return "the engine refused the model";
     if (code == ExitCode::EndedEarly) return earlyEnding();
     switch (solutionStatus) {
         case LPInfeasible:

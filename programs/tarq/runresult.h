@@ -21,8 +21,9 @@ struct RunResult {
     std::int32_t nonzeros = 0;
     bool integer = false;
 
-    Status status;        ///< what Optimize returned
-    std::string failure;  ///< description of a failed status
+    Status status;              ///< what Optimize returned
+    std::string failure;        ///< description of a failed status
+    bool modelRefused = false;  ///< the engine wouldn't take the model's data
     bool onlyRelaxation = false;
     bool interrupted = false;
 

@@ -27,6 +27,9 @@ SolutionLine SolutionTable::line(std::int32_t number) const {
         take(model_.get_RowDual(index, &line.dual), line.dual);
         take(model_.get_RowStatus(index, &line.status), line.status);
     }
+    // Adding 0 makes 0 of minus 0, which would look odd in a file.
+    line.value += 0.0;
+    line.dual += 0.0;
     return line;
 }
 

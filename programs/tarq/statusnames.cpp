@@ -29,8 +29,7 @@ constexpr Limit limits[] = {
 template <class Enumeration>
 std::string_view publishedName(Enumeration value) {
     const auto values = enumerationTableOf<Enumeration>->values;
-    const auto found =
-        std::ranges::find(values, static_cast<std::int32_t>(value), &EnumerationValue::value);
+    const auto found = std::ranges::find(values, static_cast<std::int32_t>(value), &EnumerationValue::value);
     return found == values.end() ? "Unknown" : found->name;
 }
 

@@ -156,6 +156,14 @@ TEST_F(CommandSolveTest, EngineThatIsMissingOrFailsGivesExitCode5AndTheReason) {
     EXPECT_EQ(Json::parse(memory.out)["message"], "Error, cannot allocate requested memory");
 }
 
+TEST_F(CommandSolveTest, DataThatTheEngineRefusesIsRejectedInputWithItsReason) {
+    const Output output =
+        run({"solve", file("model.mps", smallModelWith(" UP BOUND     Y                   -1\n")), "--json"});
+    EXPECT_EQ(output.exitCode, 2);
+    EXPECT_THAT(output.err, HasSubstr("The lower bound 0 of column 2 is above its upper bound -1."));
+    EXPECT_THAT(Json::parse(output.out)["message"], HasSubstr("above its upper bound"));
+}
+
 TEST_F(CommandSolveTest, ValuesThatAreNoNumbersLeaveTheJsonValid) {
     const Output output = playedRun("notanumber", {"--json", "--solution", path("solution.json")});
     EXPECT_TRUE(Json::parse(output.out)["objective"].is_null());
