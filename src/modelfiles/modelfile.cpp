@@ -7,7 +7,7 @@
 
 #include "frame/text.h"
 #include "modelfiles/mpsreader.h"
-#include "modelfiles/wholefile.h"
+#include "platform/wholefile.h"
 
 namespace tarq {
 namespace {

@@ -1,4 +1,4 @@
-#include "modelfiles/wholefile.h"
+#include "platform/wholefile.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,0 +1,44 @@
+// Writing a model into a file, in one of the formats or as a listing for people.
+//
+// Every check comes before the file is touched: a model that a format can't hold leaves no file, and an existing one as
+// it was. A write that fails midway leaves part of a file. The model is never changed. Lines end in a line feed.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "frame/status.h"
+#include "interfaces/enumerations.h"
+#include "model/modelstore.h"
+#include "parameters/parametertable.h"
+
+namespace tarq {
+
+/// What a writer needs of a model.
+struct WrittenModel {
+    const ModelStore& store;
+    const ParameterTable& parameters;  ///< direction and names of the vectors
+    std::string_view name;
+};
+
+/// Rows and columns from the first to the last, by number.
+struct ModelCutout {
+    std::int32_t firstRow;
+    std::int32_t lastRow;
+    std::int32_t firstColumn;
+    std::int32_t lastColumn;
+};
+
+/// Writes the model. 0x80041018 for a name of more than 255 characters, 0x80041031 for a format that is none,
+/// 0x80041026, 0x8004102B or 0x80041000 for a model that the format can't hold, 0x80041028 for a file that can't be
+/// written; the description tells what it was.
+[[nodiscard]] Outcome writeModelFile(const std::string& fileName, TARQFileFormatType format, const WrittenModel& model);
+
+/// Writes a listing of a part of the model, with what lies outside of it marked as hidden. The cutout lies within the
+/// model; a model without rows or columns has an empty one, whose last number is one below the first. 0x80041018 and
+/// 0x80041028 as above.
+[[nodiscard]] Outcome writeModelListing(const std::string& fileName, const WrittenModel& model,
+                                        const ModelCutout& cutout);
+
+}  // namespace tarq
