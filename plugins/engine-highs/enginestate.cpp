@@ -37,6 +37,8 @@ struct SchedulerRelease {
 }  // namespace
 
 std::int32_t EngineState::start() {
+    if (control_ && stageCaller_ == std::this_thread::get_id()) return fail(generalError, "The engine is at work.");
+    ++starts_;
     if (control_) control_->requestStop();
     control_.reset();
     model_.reset();
@@ -80,8 +82,8 @@ double EngineState::runSeconds() const {
 
 std::int32_t EngineState::setParameter(std::string_view assignment) {
     const auto equals = assignment.find('=');
-    if (lowerCase(assignment.substr(0, equals)) == "xcbstp" && equals != std::string_view::npos) {
-        stopRequested_ = parseNumber(assignment.substr(equals + 1)).value_or(0.0) != 0.0;
+    if (lowerCase(trimmed(assignment.substr(0, equals))) == "xcbstp" && equals != std::string_view::npos) {
+        stopRequested_ = parseNumber(trimmed(assignment.substr(equals + 1))).value_or(0.0) != 0.0;
         if (stopRequested_ && control_) control_->requestStop();
         return success;
     }
@@ -129,6 +131,7 @@ std::shared_ptr<Watch> EngineState::beginStage(double secondsAllowed, int nodesP
     line2_.clear();
     log_->clearMessage();
     control_ = std::make_shared<StageControl>(secondsAllowed, nodesPerCallback);
+    stageCaller_ = std::this_thread::get_id();
     if (stopRequested_) control_->requestStop();
     model_->tolerance = {std::max(1e-6, parameters_.number("xtolx")), integralityTolerance(parameters_)};
     auto watch = std::make_shared<Watch>();
@@ -163,12 +166,14 @@ StageOutcome EngineState::runInThread(Stage stage, const std::shared_ptr<Watch>&
     // Left by an exception, the stage may still be at work on what it has.
     struct Guard {
         EngineState& engine;
+        const std::shared_ptr<StageControl> control;
         bool completed = false;
         ~Guard() {
+            if (engine.control_ != control) return;
             engine.control_.reset();
             if (!completed) engine.model_.reset();
         }
-    } guard{*this};
+    } guard{*this, watch->control};
     const bool brief = stage == Stage::Lp && reported_.nonzeros <= briefNonzeros;
     const StageEnd end = brief ? runShortStage(*watch->control, work, tick) : runStage(watch->control, work, tick);
     guard.completed = true;
@@ -176,9 +181,11 @@ StageOutcome EngineState::runInThread(Stage stage, const std::shared_ptr<Watch>&
 
     const StopReason reason = watch->control->stopReason();
     if (end == StageEnd::Abandoned) {
-        model_.reset();
-        log_->close();
-        log_ = std::make_shared<LogSink>();
+        watch->log->close();
+        if (log_ == watch->log) {
+            model_.reset();
+            log_ = std::make_shared<LogSink>();
+        }
     }
     if (watch->incumbent) {
         StageOutcome best = incumbentOutcome(*watch->incumbent, reason);
@@ -236,6 +243,7 @@ std::int32_t EngineState::optimizeLp(int iterationFrequency, const LpOutputs& ou
     ip_.reset();
     const auto watch = beginStage(secondsOf(parameters_.number("xmxtlp")), 0);
     const auto control = control_;
+    const auto starts = starts_;
     const auto showProgress = [&] {
         takeLpProgress(*control);
         show(outputs.iterations, clamped(results_.iterations));
@@ -245,6 +253,7 @@ std::int32_t EngineState::optimizeLp(int iterationFrequency, const LpOutputs& ou
     };
     show(outputs.lpStatus, 0);
     StageOutcome outcome = runInThread(Stage::Lp, watch, iterationFrequency, showProgress);
+    if (starts != starts_) return generalError;
     if (!outcome.solution.values.empty()) control->progress.objective.store(outcome.objective, relaxed);
     showProgress();
     show(outputs.lpStatus, outcome.modelStatus);
@@ -267,6 +276,7 @@ std::int32_t EngineState::optimizeIp(int nodeFrequency, const IpOutputs& outputs
     const auto watch = beginStage(secondsOf(parameters_.number("xmxmin")), std::max(0, parameters_.integer("xcbnnd")));
     watch->incumbent = std::make_shared<Incumbent>();
     const auto control = control_;
+    const auto starts = starts_;
     control->progress.bestPossible.store(lp_->objective, relaxed);
     const auto showProgress = [&] {
         takeIpProgress(*control);
@@ -277,6 +287,7 @@ std::int32_t EngineState::optimizeIp(int nodeFrequency, const IpOutputs& outputs
     };
     show(outputs.stopReason, 0);
     StageOutcome outcome = runInThread(Stage::Ip, watch, nodeFrequency, showProgress);
+    if (starts != starts_) return generalError;
     if (outcome.solutionStatus == 0 || outcome.solutionStatus == 3) {
         control->progress.bestPossible.store(outcome.bestPossible, relaxed);
     }

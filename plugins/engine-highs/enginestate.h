@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
 
 #include "ipstage.h"
 #include "lpstage.h"
@@ -57,7 +58,8 @@ struct SolutionOutputs {
 
 class EngineState {
 public:
-    /// An empty model and no results. Parameters set before stay.
+    /// An empty model and no results. Parameters set before stay. Refused from the callback; from another thread a
+    /// stage that is still under way is given up.
     std::int32_t start();
     /// Back to the state of a new engine.
     std::int32_t release();
@@ -95,6 +97,8 @@ private:
     std::shared_ptr<LogSink> log_;
     std::string logFailure_;                 ///< why there is no log file though there should be
     std::shared_ptr<StageControl> control_;  ///< of the stage that runs
+    std::thread::id stageCaller_;            ///< the thread that called for it
+    std::int64_t starts_ = 0;                ///< tells a stage whether the state is still its own
     bool stopRequested_ = false;             ///< by XCBSTP, not yet obeyed
     ReportedModel reported_{};
     std::optional<StageOutcome> lp_;

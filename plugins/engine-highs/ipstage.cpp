@@ -26,7 +26,11 @@ public:
           progress_(control_.progress),
           mostNodes_(std::max(0, parameters.integer("xmxnod"))),
           mostSolutions_(std::max(0, parameters.integer("xmxint"))),
-          frequency_(nodeFrequency > 0 ? nodeFrequency : 0) {}
+          frequency_(nodeFrequency > 0 ? nodeFrequency : 0),
+          nodeLimit_(frequency_ > 0 ? std::min(frequency_, mostNodes_) : mostNodes_) {
+        const double cutoff = parameters.number("xipbnd");
+        model_.objectiveBound = std::abs(cutoff) >= noCutoff ? kHighsInf : model_.sense() * cutoff;
+    }
 
     StageOutcome run();
 
@@ -49,16 +53,14 @@ private:
     const int mostNodes_;
     const int mostSolutions_;
     const int frequency_;
+    const int nodeLimit_;  // the nearer one of break and limit
 
     bool found_ = false;  // a solution that passed the check
     PointCheck check_;
     SolutionArrays solution_;
 };
 
-bool IpStage::beatsCutoff(double objective) const {
-    const double cutoff = parameters_.number("xipbnd");
-    return std::abs(cutoff) >= noCutoff || model_.sense() * objective < model_.sense() * cutoff;
-}
+bool IpStage::beatsCutoff(double objective) const { return model_.sense() * objective < model_.objectiveBound; }
 
 HighsModelStatus IpStage::attempt(bool presolve) {
     if (control_.stopReason() != StopReason::None) return HighsModelStatus::kInterrupt;
@@ -71,10 +73,8 @@ HighsModelStatus IpStage::attempt(bool presolve) {
     applyOptions(parameters_, Stage::Ip, highs_);
     if (!presolve) highs_.setOptionValue("presolve", "off");
 
-    const double cutoff = parameters_.number("xipbnd");
-    highs_.setOptionValue("objective_bound", std::abs(cutoff) >= noCutoff ? kHighsInf : model_.sense() * cutoff);
-    int nodes = frequency_ > 0 ? std::min(frequency_, mostNodes_) : mostNodes_;
-    nodes -= static_cast<int>(std::min<std::int64_t>(nodes, watch_->nodesBefore));
+    highs_.setOptionValue("objective_bound", model_.objectiveBound);
+    const int nodes = nodeLimit_ - static_cast<int>(std::min<std::int64_t>(nodeLimit_, watch_->nodesBefore));
     highs_.setOptionValue("mip_max_nodes", nodes);
     highs_.setOptionValue("mip_max_improving_sols", mostSolutions_);
     allowTimeLeft(highs_, control_);
@@ -191,7 +191,7 @@ StageOutcome IpStage::ended(HighsModelStatus status) {
     StageOutcome outcome;
     outcome.result = 1;
     const StopReason reason = control_.stopReason();
-    const bool nodesReached = mostSolutions_ > 0 && watch_->nodesBefore >= (frequency_ > 0 ? frequency_ : mostNodes_);
+    const bool nodesReached = mostSolutions_ > 0 && watch_->nodesBefore >= nodeLimit_;
     const bool timeUp = status == HighsModelStatus::kTimeLimit || status == HighsModelStatus::kInterrupt;
     const bool atBreak = frequency_ > 0 && frequency_ <= mostNodes_ && nodesReached;
     if (reason == StopReason::Request || (atBreak && !timeUp)) {
@@ -199,7 +199,8 @@ StageOutcome IpStage::ended(HighsModelStatus status) {
     } else if (timeUp) {
         outcome.limit = stopReasonTime;
     } else {
-        const bool solutions = mostSolutions_ == 0 || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
+        // HiGHS also counts solutions that the checks refuse, so its count may be reached when ours isn't.
+        const bool solutions = !nodesReached || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
         outcome.limit = solutions ? stopReasonSolutions : stopReasonNodes;
     }
     describe(outcome);

@@ -41,6 +41,7 @@ private:
     [[nodiscard]] StageOutcome withoutColumns();
     [[nodiscard]] bool checkPrimal();
     void showInfeasibilities();
+    [[nodiscard]] bool losesDualsInPresolve() const;
 
     SolverModel& model_;
     Highs& highs_;
@@ -49,6 +50,7 @@ private:
     StageControl& control_;
     const int mostIterations_;
     const int frequency_;
+    std::int64_t simplexIterations_ = 0;  // of all attempts; a break counts no others
     PointCheck check_;
 };
 
@@ -72,12 +74,15 @@ void LpStage::setIterationLimit(Highs& highs) {
     const auto used = static_cast<int>(std::min<std::int64_t>(watch_->iterationsBefore, mostIterations_));
     int left = mostIterations_ - used;
     highs.setOptionValue("ipm_iteration_limit", left);
-    if (frequency_ > 0) left = std::min(left, std::max(0, frequency_ - used));
+    if (frequency_ > 0) {
+        left = std::min(left, frequency_ - static_cast<int>(std::min<std::int64_t>(simplexIterations_, frequency_)));
+    }
     highs.setOptionValue("simplex_iteration_limit", left);
 }
 
 void LpStage::countIterations(const Highs& highs) {
     const HighsInfo& info = highs.getInfo();
+    simplexIterations_ += std::max<HighsInt>(0, info.simplex_iteration_count);
     for (const HighsInt count :
          {info.simplex_iteration_count, info.ipm_iteration_count, info.crossover_iteration_count}) {
         watch_->iterationsBefore += std::max<HighsInt>(0, count);
@@ -205,9 +210,14 @@ void LpStage::showInfeasibilities() {
     control_.progress.sumOfInfeasibilities.store(info.sum_primal_infeasibilities, std::memory_order_relaxed);
 }
 
+// The way back from presolve without a basis gives the duals of a maximum wrong signs in HiGHS 1.10.
+bool LpStage::losesDualsInPresolve() const {
+    return model_.sense() < 0.0 && parameters_.integer("xlptyp") == 4 && parameters_.integer("xipxov") == 0;
+}
+
 // Tries what the parameters say, then without presolve where the outcome calls for it.
 HighsModelStatus LpStage::settle() {
-    const bool presolve = parameters_.integer("xrduce") != 0;
+    const bool presolve = parameters_.integer("xrduce") != 0 && !losesDualsInPresolve();
     HighsModelStatus status = attempt(presolve, false);
     const auto settled = [&] {
         if (control_.stopReason() != StopReason::None || isStopped(status)) return true;
@@ -242,7 +252,8 @@ StageOutcome LpStage::solved() {
 StageOutcome LpStage::ended(HighsModelStatus status) {
     StageOutcome outcome;
     const StopReason reason = control_.stopReason();
-    const bool broken = status == HighsModelStatus::kIterationLimit && frequency_ > 0 && frequency_ <= mostIterations_;
+    const bool broken = status == HighsModelStatus::kIterationLimit && frequency_ > 0 &&
+                        frequency_ <= mostIterations_ && simplexIterations_ >= frequency_;
     if (reason == StopReason::Request || (broken && reason == StopReason::None)) {
         outcome.result = resultStopped;
     } else {
@@ -358,7 +369,9 @@ SolutionArrays arraysOf(const Highs& highs) {
 
 StageOutcome solveLp(SolverModel& model, const ParameterValues& parameters, const std::shared_ptr<Watch>& watch,
                      int iterationFrequency) {
+    model.highs.resetOptions();  // those of an earlier stage
     observe(model.highs, watch, nullptr);
+    model.dropIntegrality();
     return LpStage(model, parameters, watch, iterationFrequency).run();
 }
 

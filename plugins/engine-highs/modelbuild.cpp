@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cmath>
+#include <limits>
 
 namespace tarq::engine {
 
@@ -15,6 +16,9 @@ std::string checkPointers(const ModelArrays& arrays) {
     if (arrays.rows < 0 || arrays.columns < 0 || arrays.nonzeros < 0) {
         return fmt::format("The model has {} rows, {} columns and {} nonzeros.", arrays.rows, arrays.columns,
                            arrays.nonzeros);
+    }
+    if (arrays.rows > std::numeric_limits<std::int32_t>::max() - arrays.columns) {
+        return fmt::format("{} rows and {} columns are more than can be numbered.", arrays.rows, arrays.columns);
     }
     if (!(arrays.infinity > 0.0)) return fmt::format("{:g} can't stand for infinity.", arrays.infinity);
     if (arrays.nonzeros > 0 && (!arrays.rowIndices || !arrays.columnIndices || !arrays.values)) {

@@ -44,12 +44,6 @@ auto find(const Table& table, std::string_view name) {
     return std::find_if(table.begin(), table.end(), [&](const auto& row) { return row.name == name; });
 }
 
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
-    return text;
-}
-
 }  // namespace
 
 std::string lowerCase(std::string_view text) {
@@ -58,6 +52,12 @@ std::string lowerCase(std::string_view text) {
         if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
     }
     return lower;
+}
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+    return text;
 }
 
 std::optional<double> parseNumber(std::string_view text) {

@@ -40,6 +40,9 @@ private:
 /// Text in lower case, ASCII letters only.
 [[nodiscard]] std::string lowerCase(std::string_view text);
 
+/// Text without the blanks and tabs at its ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
 /// A number in the form of the process-independent "C" notation, the whole text; nothing when it is none or not finite.
 [[nodiscard]] std::optional<double> parseNumber(std::string_view text);
 

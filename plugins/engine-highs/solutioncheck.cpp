@@ -49,6 +49,7 @@ PointCheck checkPoint(const HighsLp& lp, const std::vector<HighsVarType>& integr
         const double violation = violationOf(rowValues[row], lp.row_lower_[row], lp.row_upper_[row]);
         check.rows = std::max(check.rows, violation);
         if (violation > tolerance.feasibility + relativeTolerance * rowSizes[row]) check.feasible = false;
+        if (!std::isfinite(rowValues[row])) check.feasible = false;
     }
     if (check.integrality > tolerance.integrality) check.feasible = false;
     return check;

@@ -51,14 +51,14 @@ void takeMipState(const HighsCallbackDataOut& state, const Watch& watch) {
 }
 
 void takeImprovement(const HighsCallbackDataOut& state, const Watch& watch, const SolverModel& model) {
-    Progress& progress = watch.control->progress;
-    progress.integerSolutions.fetch_add(1, relaxed);
     if (!state.mip_solution) return;
     const HighsLp& lp = model.highs.getLp();
     std::vector<double> values(state.mip_solution, state.mip_solution + lp.num_col_);
     std::vector<double> rowValues;
     const PointCheck check = checkPoint(lp, model.integrality, values, model.tolerance, rowValues);
-    if (!check.feasible) return;
+    if (!check.feasible || model.sense() * check.objective >= model.objectiveBound) return;
+    Progress& progress = watch.control->progress;
+    progress.integerSolutions.fetch_add(1, relaxed);
     progress.objective.store(check.objective, relaxed);
     progress.hasIncumbent.store(true, relaxed);
     const std::lock_guard lock(watch.incumbent->mutex);
@@ -121,6 +121,12 @@ bool SolverModel::load(BuiltModel model, bool maximize, std::shared_ptr<LogSink>
     model.lp.sense_ = maximize ? ObjSense::kMaximize : ObjSense::kMinimize;
     integrality = std::move(model.integrality);
     return highs.passModel(std::move(model.lp)) != HighsStatus::kError;
+}
+
+void SolverModel::dropIntegrality() {
+    if (highs.getLp().integrality_.empty()) return;
+    const std::vector<HighsVarType> continuous(integrality.size(), HighsVarType::kContinuous);
+    highs.changeColsIntegrality(0, highs.getLp().num_col_ - 1, continuous.data());
 }
 
 void allowTimeLeft(Highs& highs, const StageControl& control) {

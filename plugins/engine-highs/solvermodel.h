@@ -45,12 +45,16 @@ public:
     Highs highs;                            ///< the continuous model, until the IP stage makes columns integer
     std::vector<HighsVarType> integrality;  ///< empty for an LP
     CheckTolerance tolerance{};
+    double objectiveBound = kHighsInf;  ///< in minimization form; integer solutions have to lie below it
 
     [[nodiscard]] bool isInteger() const { return !integrality.empty(); }
     [[nodiscard]] double sense() const { return highs.getLp().sense_ == ObjSense::kMaximize ? -1.0 : 1.0; }
 
     /// Hands the model over to HiGHS. False when HiGHS refuses it; the reason is in the log.
     [[nodiscard]] bool load(BuiltModel model, bool maximize, std::shared_ptr<LogSink> log);
+
+    /// Makes the model continuous again after an IP stage.
+    void dropIntegrality();
 };
 
 /// Sets what is left of the time a stage is allowed as the limit of the next run.

@@ -68,6 +68,7 @@ TEST_F(IntegerTest, OnlySolutionsBetterThanTheCutOffCount) {
         const StageResult best = optimizeIp(knapsack(), {"xminmx='max'", bound.bound});
         EXPECT_EQ(best.result, 0) << bound.bound;
         EXPECT_EQ(best.solutionStatus, bound.status) << bound.bound;
+        EXPECT_EQ(best.integerSolutions > 0, bound.status == 0) << bound.bound;
     }
     EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-20"}).solutionStatus, 4);
     EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-19.5"}).solutionStatus, 0);

@@ -64,6 +64,7 @@ TEST_F(InterfaceTest, RejectedModelsSayWhy) {
         {"The upper bound of row 1 is infinite.", [](Arguments& a) { a.upper[2] = -infinite; }},
         {"The type 3 of column 1 is unknown.", [](Arguments& a) { a.type[0] = 3; }},
         {"The model has -1 rows", [](Arguments& a) { a.rows = -1; }},
+        {"2147483647 rows and 2 columns are more", [](Arguments& a) { a.rows = 2147483647; }},
         {"The model has 2 rows, 2 columns and -4 nonzeros.", [](Arguments& a) { a.nonzeros = -4; }},
         {"0 can't stand for infinity.", [](Arguments& a) { a.infinity = 0; }},
         {"nan can't stand for infinity.", [=](Arguments& a) { a.infinity = nan; }},

@@ -1,6 +1,7 @@
 // LPs: optima in every algorithm variant, statuses, duals and states.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "loadedengine.h"
@@ -88,9 +89,16 @@ TEST_F(LinearTest, DualsAreDerivativesOfTheObjective) {
             .row(2, {1, 0, 0, 2}, 2);
     };
     for (const bool maximize : {false, true}) {
-        for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
-            SCOPED_TRACE(fmt::format("{} {}", algorithm, maximize));
-            const std::vector<std::string> parameters{algorithm, maximize ? "xminmx='max'" : "xminmx='min'"};
+        // With a time limit presolve and the way back are steps of their own; without crossover there is no basis.
+        const std::vector<std::vector<std::string>> algorithms{{"xlptyp=0"},
+                                                               {"xlptyp=2"},
+                                                               {"xlptyp=2", "xmxtlp=9"},
+                                                               {"xlptyp=4"},
+                                                               {"xlptyp=4", "xipxov=0"},
+                                                               {"xlptyp=4", "xipxov=0", "xmxtlp=9"}};
+        for (std::vector<std::string> parameters : algorithms) {
+            SCOPED_TRACE(fmt::format("{} {}", testing::PrintToString(parameters), maximize));
+            parameters.push_back(maximize ? "xminmx='max'" : "xminmx='min'");
             TestModel model = base();
             if (maximize) {
                 for (double& cost : model.cost) cost = -cost;
@@ -110,6 +118,32 @@ TEST_F(LinearTest, DualsAreDerivativesOfTheObjective) {
                 if (std::abs(derivative) > 1e-5) ++tight;
             }
             EXPECT_GE(tight, 3);
+        }
+    }
+}
+
+// A model of which presolve takes only a part away, so that the way back has duals to work out.
+TEST_F(LinearTest, ReducedCostsFollowFromTheDuals) {
+    TestModel model = denseLp(8);
+    model.columnUpper[0] = model.columnLower[0] = 1;
+    std::swap(model.rowLower, model.rowUpper);
+    for (double& lower : model.rowLower) lower = -infinite;
+    model.column(0, infinite, 3).row(-infinite, {0, 1, 0, 0, 0, 0, 0, 0, 1}, 4);
+    for (const char* crossover : {"xipxov=0", "xipxov=2"}) {
+        for (const char* limit : {"xmxtlp=1e20", "xmxtlp=9"}) {
+            SCOPED_TRACE(fmt::format("{} {}", crossover, limit));
+            const StageResult optimum = optimizeLp(model, {"xlptyp=4", "xminmx='max'", crossover, limit});
+            ASSERT_EQ(optimum.solutionStatus, 0);
+            std::vector<double> expected = model.cost;
+            for (std::size_t nonzero = 0; nonzero < model.values.size(); ++nonzero) {
+                const std::size_t row = model.cost.size() + static_cast<std::size_t>(model.rowIndices[nonzero] - 1);
+                expected[static_cast<std::size_t>(model.columnIndices[nonzero] - 1)] -=
+                    model.values[nonzero] * optimum.reducedCosts[row];
+            }
+            for (std::size_t column = 0; column < expected.size(); ++column) {
+                EXPECT_NEAR(optimum.reducedCosts[column], expected[column], 1e-5) << "at " << column;
+            }
+            EXPECT_GT(optimum.reducedCosts[model.cost.size() + 8], 1);  // the last row holds the last column
         }
     }
 }
@@ -171,6 +205,13 @@ TEST_F(LinearTest, RunsRepeatWithOtherThreadsAndTheSameOutcome) {
     ASSERT_EQ(put(smallLp()), 0);
     EXPECT_EQ(solveLp().result, 0);
     EXPECT_NEAR(solveLp().objective, -5, 1e-9);
+    // So do the options: after a stage without crossover one with it.
+    const auto basics = [](const StageResult& stage) {
+        return std::count(stage.states.begin(), stage.states.end(), 1);
+    };
+    EXPECT_EQ(basics(optimizeLp(denseLp(25), {"xlptyp=4", "xipxov=0"})), 0);
+    ASSERT_EQ(set("xipxov=2"), 0);
+    EXPECT_EQ(basics(solveLp()), 25);
 }
 
 }  // namespace tarq::test

@@ -38,7 +38,8 @@ TEST(SolutionCheck, PointsAreJudgedByTheModel) {
           Case{"below a bound", {-0.01, 1}, false}, Case{"above a bound", {3.01, 0}, false},
           Case{"row too small", {0.5, 0}, false}, Case{"row too large", {3, 1}, false},
           Case{"fractional", {1, 0.5}, false}, Case{"not a number", {kHighsInf - kHighsInf, 1}, false},
-          Case{"endless", {kHighsInf, 1}, false}, Case{"too short", {1}, false}}) {
+          Case{"endless", {kHighsInf, 1}, false}, Case{"row overflows", {1, 1.7e308}, false},
+          Case{"too short", {1}, false}}) {
         std::vector<double> rows;
         const PointCheck check = checkPoint(twoColumns(), integrality, judged.point, {1e-6, 1e-5}, rows);
         EXPECT_EQ(check.feasible, judged.feasible) << judged.what;

@@ -16,10 +16,15 @@ TEST_F(StopTest, IterationsEndTheLpWithWhatItHas) {
         const char* limit;
     };
     const std::vector<Case> cases{
-        {{"xlptyp=2", "xrduce=0"}, 5, 999, "0"}, {{"xlptyp=2", "xrduce=2"}, 5, 999, "0"},
-        {{"xlptyp=0", "xrduce=2"}, 5, 999, "0"}, {{"xmiter=5", "xrduce=2"}, 0, 1, "1"},
-        {{"xmiter=5", "xrduce=0"}, 9, 1, "1"},   {{"xmiter=9"}, 5, 999, "0"},
-        {{"xmiter=3", "xlptyp=4"}, 0, 1, "1"},   {{"xmxtlp=0"}, 0, 1, "2"},
+        {{"xlptyp=2", "xrduce=0"}, 5, 999, "0"},
+        {{"xlptyp=2", "xrduce=2"}, 5, 999, "0"},
+        {{"xlptyp=0", "xrduce=2"}, 5, 999, "0"},
+        {{"xmiter=5", "xrduce=2"}, 0, 1, "1"},
+        {{"xmiter=5", "xrduce=0"}, 9, 1, "1"},
+        {{"xmiter=9"}, 5, 999, "0"},
+        {{"xmiter=3", "xlptyp=4"}, 0, 1, "1"},
+        {{"xmiter=3", "xlptyp=4"}, 2, 1, "1"},
+        {{"xmxtlp=0"}, 0, 1, "2"},
     };
     for (const Case& limit : cases) {
         SCOPED_TRACE(testing::PrintToString(limit.parameters));
@@ -93,7 +98,7 @@ TEST_F(StopTest, CallbackComesEachSoManyNodes) {
 }
 
 TEST_F(StopTest, StopInTheCallbackEndsTheStageAsABreak) {
-    for (const char* request : {"XCBSTP=1", "xcbstp=1"}) {
+    for (const char* request : {"XCBSTP=1", "xcbstp = 1"}) {
         ASSERT_EQ(optimizeLp(hardIp(), {"xcbnnd=20"}).result, 0);
         onCallback([&] {
             if (number("xnodes") >= 60) set(request);
@@ -138,6 +143,8 @@ TEST_F(StopTest, TheEngineRefusesOtherWorkDuringAStage) {
     onCallback([&] {
         EXPECT_NE(put(smallLp()), 0);
         EXPECT_NE(operation<decltype(FreeMemory)>("FreeMemory")(), 0);
+        EXPECT_NE(operation<decltype(Initialize)>("Initialize")(), 0);
+        EXPECT_NE(operation<decltype(InitModel)>("InitModel")(), 0);
         std::int32_t whole = 0;
         double real = 0.0;
         EXPECT_NE(operation<decltype(OptimizeLP)>("OptimizeLP")(0, &whole, &whole, &whole, &real, &real), 0);
