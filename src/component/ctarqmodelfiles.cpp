@@ -1,12 +1,29 @@
-// CTARQModel: reading model files.
+// CTARQModel: reading and writing model files.
 #include "component/ctarqmodel.h"
 #include "component/memberguard.h"
+#include "modelfiles/modelcutout.h"
 #include "modelfiles/modelfile.h"
+#include "modelfiles/modelwriter.h"
 
 namespace tarq {
 
 Status CTARQModel::ReadModel(const std::string& FileName, TARQFileFormatType eFileFormat) {
     return guarded(classid::TARQModel, [&] { return readModelFile(FileName, eFileFormat, *this); });
+}
+
+Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eFileFormat) {
+    return guarded(classid::TARQModel,
+                   [&] { return writeModelFile(FileName, eFileFormat, {store_, parameters_, modelName_}); });
+}
+
+Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
+                                   const Variant& StartCol, const Variant& EndCol) {
+    return guarded(classid::TARQModel, [&] {
+        if (Outcome name = checkWrittenName(FileName); !name.isOk()) return name;
+        ModelCutout cutout{};
+        Outcome resolved = resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout);
+        return resolved.isOk() ? writeModelListing(FileName, {store_, parameters_, modelName_}, cutout) : resolved;
+    });
 }
 
 }  // namespace tarq

@@ -23,13 +23,6 @@ Status CTARQModel::SetNZStair(const Variant& /*RowIndices*/, const Variant& /*Co
     return status::notImplemented;
 }
 Status CTARQModel::ShowPropertyPage(std::int32_t* /*pbDirty*/) { return status::notImplemented; }
-Status CTARQModel::WriteDebugModel(const std::string& /*FileName*/, const Variant& /*StartRow*/,
-                                   const Variant& /*EndRow*/, const Variant& /*StartCol*/, const Variant& /*EndCol*/) {
-    return status::notImplemented;
-}
-Status CTARQModel::WriteModel(const std::string& /*FileName*/, TARQFileFormatType /*eFileFormat*/) {
-    return status::notImplemented;
-}
 Status CTARQModel::WriteProfile(const std::string& /*ProfileName*/) { return status::notImplemented; }
 Status CTARQModel::get_Var(const Variant& /*Index*/, Ref<IUnknown>* /*value*/) { return status::notImplemented; }
 Status CTARQModel::put_Var(const Variant& /*Index*/, IUnknown* /*value*/) { return status::notImplemented; }

@@ -9,8 +9,8 @@
 
 namespace tarq {
 
-/// Clears the model and fills it from the text of a Lindo file. A failure leaves what stands before it in the model, and
-/// the direction that was set.
+/// Clears the model and fills it from the text of a Lindo file. A failure leaves what stands before it in the model,
+/// and the direction that was set.
 [[nodiscard]] std::optional<ParseFailure> readLindo(std::string text, ModelFileTarget& model);
 
 }  // namespace tarq

@@ -1,0 +1,23 @@
+// Which part of a model a client wants to see, from the addresses that it passes.
+#pragma once
+
+#include "frame/status.h"
+#include "frame/variant.h"
+#include "modelfiles/modelwriter.h"
+
+namespace tarq {
+
+/// The addresses of the first and the last row and column, each a number, a name or missing.
+struct CutoutAddresses {
+    const Variant& firstRow;
+    const Variant& lastRow;
+    const Variant& firstColumn;
+    const Variant& lastColumn;
+};
+
+/// Sets `cutout`; a missing first one means 1 and a missing last one the count. Fails as the addressing does, and with
+/// 0x80041031 when a first one lies behind its last one. A model without rows or columns has none to cut out: with both
+/// missing that is an empty range and no failure.
+[[nodiscard]] Outcome resolveCutout(const ModelStore& store, const CutoutAddresses& addresses, ModelCutout& cutout);
+
+}  // namespace tarq

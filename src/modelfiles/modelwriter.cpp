@@ -1,0 +1,29 @@
+#include "modelfiles/modelwriter.h"
+
+#include "frame/text.h"
+#include "modelfiles/lindowriter.h"
+#include "modelfiles/mpswriter.h"
+#include "modelfiles/tripletwriter.h"
+
+namespace tarq {
+
+Outcome checkWrittenName(const std::string& fileName) {
+    constexpr std::size_t longestFileName = 255;
+    if (utf16Length(fileName) <= longestFileName) return {};
+    return {status::textTooLong, "Filename is too long."};
+}
+
+Outcome writeModelFile(const std::string& fileName, TARQFileFormatType format, const WrittenModel& model) {
+    if (Outcome name = checkWrittenName(fileName); !name.isOk()) return name;
+    switch (format) {
+        case TARQFileFormatType::MPS:
+            return writeMps(fileName, model);
+        case TARQFileFormatType::Triplet:
+            return writeTriplet(fileName, model);
+        case TARQFileFormatType::Lindo:
+            return writeLindo(fileName, model);
+    }
+    return {status::invalidArgument, "Wrong parameter for file format."};
+}
+
+}  // namespace tarq
