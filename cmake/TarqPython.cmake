@@ -30,5 +30,6 @@ if(TARQ_SANITIZE)
     endif()
   endforeach()
   list(JOIN runtimes ":" preloaded)
-  list(APPEND tarq_python_environment "LD_PRELOAD=${preloaded}" "ASAN_OPTIONS=detect_leaks=0" "PYTHONMALLOC=malloc")
+  list(APPEND tarq_python_environment "LD_PRELOAD=${preloaded}" "PYTHONMALLOC=malloc"
+    "ASAN_OPTIONS=detect_leaks=0" "TSAN_OPTIONS=report_thread_leaks=0")
 endif()

@@ -60,7 +60,8 @@ TARQ_ENGINE_API int32_t PutModel(int32_t zero, double infinity, int32_t rows, in
                                  const double* lower, const double* upper, const double* cost, const int32_t* type);
 
 /* Solves the LP. iterationFrequency: break after that many iterations, 0 for none. lpStatus: 1 infeasible,
- * 2 unbounded. The outputs may be written at any time during the call, to show progress.
+ * 2 unbounded. The outputs may be written at any time during the call, to show progress; other threads of the client
+ * may read them meanwhile, so they are best written as atomic values (relaxed).
  * Result 0: solved; 1: a resource limit ended it; 2: input error; 3: output error; 4: numeric error; 5: general error;
  * 6: internal error; 999: stopped at a break. */
 TARQ_ENGINE_API int32_t OptimizeLP(int32_t iterationFrequency, int32_t* iterations, int32_t* infeasibilities,

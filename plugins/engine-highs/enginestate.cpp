@@ -320,8 +320,8 @@ std::int32_t EngineState::deliver(const std::optional<StageOutcome>& outcome, co
     if (count > 0 && (!outputs.values || !outputs.reducedCosts || !outputs.basisStatus)) {
         return fail(inputError, "The arrays for a solution are missing.");
     }
-    *outputs.status = outcome->solutionStatus;
-    *outputs.objective = outcome->objective;
+    show(outputs.status, static_cast<std::int32_t>(outcome->solutionStatus));
+    show(outputs.objective, outcome->objective);
     const SolutionArrays& solution = outcome->solution;
     if (solution.values.size() == count) {
         std::copy(solution.values.begin(), solution.values.end(), outputs.values);

@@ -12,8 +12,9 @@ Status CTARQModel::ReadModel(const std::string& FileName, TARQFileFormatType eFi
 }
 
 Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eFileFormat) {
-    return guarded(classid::TARQModel,
-                   [&] { return writeModelFile(FileName, eFileFormat, {store_, parameters_, modelName_}); });
+    return guarded(classid::TARQModel, [&] {
+        return writeModelFile(FileName, eFileFormat, {store_, parameters_, modelName_});
+    });
 }
 
 Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,

@@ -17,13 +17,11 @@ Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const V
     return status::notImplemented;
 }
 Status CTARQModel::ReadMPLModel(const std::string& /*FileName*/) { return status::notImplemented; }
-Status CTARQModel::ReadProfile(const std::string& /*ProfileName*/) { return status::notImplemented; }
 Status CTARQModel::SetNZStair(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/,
                               const Variant& /*Nonzeros*/) {
     return status::notImplemented;
 }
 Status CTARQModel::ShowPropertyPage(std::int32_t* /*pbDirty*/) { return status::notImplemented; }
-Status CTARQModel::WriteProfile(const std::string& /*ProfileName*/) { return status::notImplemented; }
 Status CTARQModel::get_Var(const Variant& /*Index*/, Ref<IUnknown>* /*value*/) { return status::notImplemented; }
 Status CTARQModel::put_Var(const Variant& /*Index*/, IUnknown* /*value*/) { return status::notImplemented; }
 Status CTARQModel::get_IsMPLAvailable(std::int32_t* /*value*/) { return status::notImplemented; }

@@ -2,6 +2,7 @@
 #include "component/ctarqmodel.h"
 #include "component/memberguard.h"
 #include "parameters/parameteraccess.h"
+#include "parameters/profile.h"
 #include "parameters/solverfilenames.h"
 
 namespace tarq {
@@ -68,6 +69,14 @@ Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lO
         *lpOptionValue = option.value;
         return outcome;
     });
+}
+
+Status CTARQModel::ReadProfile(const std::string& ProfileName) {
+    return guarded(classid::TARQModel, [&] { return readProfile(ProfileName, parameters_, store_.infinity()); });
+}
+
+Status CTARQModel::WriteProfile(const std::string& ProfileName) {
+    return guarded(classid::TARQModel, [&] { return writeProfile(ProfileName, parameters_); });
 }
 
 Status CTARQModel::ResetParameters() {

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "frame/text.h"
+#include "modelfiles/lindoreader.h"
 #include "modelfiles/mpsreader.h"
+#include "modelfiles/tripletreader.h"
 #include "platform/wholefile.h"
 
 namespace tarq {
@@ -37,9 +39,9 @@ Outcome readModelText(std::string text, TARQFileFormatType format, ModelFileTarg
         case TARQFileFormatType::MPS:
             return parseOutcome("MPS", readMps(std::move(text), target));
         case TARQFileFormatType::Triplet:
-            return {status::notImplemented, "Triplet files cannot be read yet."};
+            return parseOutcome("Triplet", readTriplet(std::move(text), target));
         case TARQFileFormatType::Lindo:
-            return {status::notImplemented, "Lindo files cannot be read yet."};
+            return parseOutcome("Lindo", readLindo(std::move(text), target));
     }
     return {status::invalidArgument, "Wrong parameter for file format."};
 }

@@ -80,7 +80,8 @@ TEST_F(CommandDescribeTest, AnInterfaceListsItsMembersInPublishedOrder) {
         const std::int32_t step = members[i]["name"] == members[i - 1]["name"] ? 0 : 1;
         EXPECT_EQ(members[i]["id"].get<int>(), members[i - 1]["id"].get<int>() + step) << members[i]["name"];
     }
-    EXPECT_THAT(run({"describe", "ITARQModel"}).out, AllOf(HasSubstr(" 1  method          Test()\n"), HasSubstr("hidden")));
+    EXPECT_THAT(run({"describe", "ITARQModel"}).out,
+                AllOf(HasSubstr(" 1  method          Test()\n"), HasSubstr("hidden")));
 }
 
 TEST_F(CommandDescribeTest, UnknownNameSuggestsNearOnes) {

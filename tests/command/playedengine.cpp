@@ -33,6 +33,12 @@ struct State {
 };
 State state;
 
+/// Another thread may read the outputs during the call.
+template <class Number>
+void show(Number* output, Number value) {
+    std::atomic_ref(*output).store(value, std::memory_order_relaxed);
+}
+
 double number() { return plays("notanumber") ? std::numeric_limits<double>::quiet_NaN() : 1.5; }
 
 }  // namespace
@@ -70,11 +76,11 @@ int32_t PutModel(int32_t, double, int32_t rows, int32_t columns, int32_t, const 
 
 int32_t OptimizeLP(int32_t, int32_t* iterations, int32_t* infeasibilities, int32_t* lpStatus, double* objective,
                    double* sumOfInfeasibilities) {
-    *iterations = 7;
-    *infeasibilities = 0;
-    *lpStatus = 0;
-    *objective = number();
-    *sumOfInfeasibilities = 0;
+    show(iterations, 7);
+    show(infeasibilities, 0);
+    show(lpStatus, 0);
+    show(objective, number());
+    show(sumOfInfeasibilities, 0.0);
     if (plays("numeric")) return 4;
     if (plays("spinning")) {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
@@ -94,8 +100,8 @@ int32_t OptimizeLP(int32_t, int32_t* iterations, int32_t* infeasibilities, int32
 }
 
 int32_t GetLPSolution(int32_t* status, double* objective, double* values, double* reducedCosts, int32_t* basisStatus) {
-    *status = plays("long") || plays("deaf") ? 3 : 0;
-    *objective = number();
+    show(status, plays("long") || plays("deaf") ? 3 : 0);
+    show(objective, number());
     for (int32_t i = 0; i < state.entries; ++i) {
         values[i] = number();
         reducedCosts[i] = -number();

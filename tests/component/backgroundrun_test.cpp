@@ -189,10 +189,9 @@ TEST_F(BackgroundRunTest, ModelThatIsDroppedLivesUntilItsRunEnds) {
     Ref<ITARQModel> only = model;
     ASSERT_THAT(model->OptimizeAsync(), succeeds());
     ASSERT_TRUE(runIsUnderWay());
-    ITARQModel* const running = model.get();
+    ASSERT_THAT(model->StopOptimizeAsync(), succeeds());
     model = nullptr;
     only = nullptr;
-    (void)running->StopOptimizeAsync();
     auto atEnd = alive.get_future();
     ASSERT_EQ(atEnd.wait_for(longest), std::future_status::ready);
     EXPECT_EQ(atEnd.get(), before);

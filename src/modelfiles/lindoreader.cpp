@@ -1,0 +1,286 @@
+#include "modelfiles/lindoreader.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "frame/numbertext.h"
+#include "model/nonzeroloader.h"
+#include "modelfiles/columnstatements.h"
+#include "modelfiles/freetokenscanner.h"
+
+namespace tarq {
+namespace {
+
+constexpr std::size_t longestName = 8;
+
+/// A token in capitals, which may be of any length.
+std::string inCapitals(std::string_view token) {
+    std::string text(token);
+    for (char& character : text) character = upperCased(character);
+    return text;
+}
+
+bool isSign(std::string_view token) { return token == "+" || token == "-"; }
+
+/// What a reader of sums says where the objective and a restriction differ.
+struct SumMessages {
+    std::string_view incomplete;
+    std::string_view digitFirst;
+    bool isObjective;
+};
+constexpr SumMessages objectiveMessages{"Incomplete objective function.", "Variable names may not start with a number.",
+                                        true};
+constexpr SumMessages restrictionMessages{"Incomplete restriction.", "Variable name may not start with a number.",
+                                          false};
+
+/// A message; empty where all went well.
+using Message = std::string;
+
+class LindoReader {
+public:
+    LindoReader(std::string text, ModelFileTarget& model)
+        : scanner_(std::move(text)), model_(model), store_(model.store()) {}
+
+    std::optional<ParseFailure> read() {
+        Message message = readDirection();
+        if (message.empty()) message = readObjective();
+        if (message.empty()) message = readRestrictions();
+        storeRow();
+        store_.loadNonzeros(nonzeros_);
+        if (message.empty()) message = readStatements();
+        if (message.empty()) return std::nullopt;
+        return ParseFailure{std::move(message), scanner_.currentLineNumber()};
+    }
+
+private:
+    struct Term {
+        double coefficient = 1.0;
+        std::int32_t column = 0;  ///< number from 1
+    };
+    struct RowEntry {
+        std::int32_t column;
+        double value;
+    };
+
+    Message readDirection() {
+        if (!scanner_.nextToken()) return "Unexpected end of file.";
+        const std::string direction = inCapitals(scanner_.token());
+        const bool isMaximum = direction == "MAX" || direction == "MAXIMIZE";
+        if (!isMaximum && direction != "MIN" && direction != "MINIMIZE") {
+            return "Optimization direction (MIN/MAX) expected.";
+        }
+        model_.setParameter("xminmx", isMaximum ? "max" : "min");
+        return scanner_.nextToken() ? Message() : "Start of objective function expected.";
+    }
+
+    Message readObjective() {
+        for (bool isFirst = true; !scanner_.isSubjectToHere(); isFirst = false) {
+            Term term;
+            if (Message message = readTerm(isFirst, objectiveMessages, term); !message.empty()) return message;
+            store_.column(term.column - 1).cost += term.coefficient;
+            if (!scanner_.nextToken()) return "Unexpected end of file, missing constraints.";
+        }
+        (void)scanner_.nextToken();
+        return {};
+    }
+
+    /// Reads a term up to its variable, which becomes a column if it is new.
+    Message readTerm(bool isFirst, const SumMessages& messages, Term& term) {
+        double sign = 1.0;
+        if (isSign(scanner_.token())) {
+            sign = scanner_.token() == "-" ? -1.0 : 1.0;
+            if (!scanner_.nextToken()) return Message(messages.incomplete);
+        } else if (!isFirst) {
+            return "+ or - expected.";
+        }
+        if (parseReal(scanner_.token(), term.coefficient) && !scanner_.nextToken()) return "Expecting variable name.";
+        term.coefficient *= sign;
+        if (Message message = checkName(messages); !message.empty()) return message;
+        term.column = columnOf(scanner_.token());
+        return {};
+    }
+
+    Message checkName(const SumMessages& messages) {
+        const std::string_view name = scanner_.token();
+        if (name.size() > longestName) return "Variable names may not be longer than 8 characters.";
+        if (name.front() >= '0' && name.front() <= '9') return Message(messages.digitFirst);
+        if (name.find_first_of("+-<>=") != std::string_view::npos) {
+            if (messages.isObjective && isSign(name)) return "No constans allowed in objective function.";
+            return std::string("Illegal character in variable name '").append(name).append("'.");
+        }
+        if (!messages.isObjective || !scanner_.isSubjectToHere()) return {};
+        if (equalsInUpperCase(scanner_.token(), "ST")) {
+            return "Token 'ST' appears after incomplete objective function. Don't use ST as a variable name.";
+        }
+        return "'SUBJECT TO' appears after incomplete objective function.";
+    }
+
+    std::int32_t columnOf(std::string_view token) {
+        std::array<char, longestName> capitals{};
+        for (std::size_t i = 0; i < token.size(); ++i) capitals[i] = upperCased(token[i]);
+        const std::string_view name(capitals.data(), token.size());
+        const std::int32_t found = store_.findColumn(name);
+        if (found >= 0) return found + 1;
+        ColumnRecord column;
+        column.name = name;
+        column.upperBound = store_.infinity();
+        (void)store_.addColumnRecord(std::move(column));
+        return store_.columnCount();
+    }
+
+    Message readRestrictions() {
+        for (;;) {
+            if (scanner_.token().empty()) return "Unexpected end of file, 'END' missing.";
+            if (equalsInUpperCase(scanner_.token(), "END")) {
+                (void)scanner_.nextToken();
+                return {};
+            }
+            if (Message message = readRestriction(); !message.empty()) return message;
+            storeRow();
+            (void)scanner_.nextToken();
+        }
+    }
+
+    Message readRestriction() {
+        if (scanner_.token().size() > longestName) {
+            return "Name of restriction or variable is longer than 8 characters.";
+        }
+        RowRecord row;
+        const std::string first = inCapitals(scanner_.token());
+        if (scanner_.peekIsCloseParen()) {
+            if (store_.findRow(first) >= 0) return "Duplicate row name.";
+            if (!scanner_.nextToken()) return "Start of restriction expected.";
+            row.name = first;
+        }
+        (void)store_.addRowRecord(std::move(row));
+        for (bool isFirst = true; isFirst || !scanner_.isRelation(); isFirst = false) {
+            Term term;
+            if (Message message = readTerm(isFirst, restrictionMessages, term); !message.empty()) return message;
+            addToRow(term);
+            if (!scanner_.nextToken()) return Message(restrictionMessages.incomplete);
+        }
+        return readRightHandSide();
+    }
+
+    void addToRow(const Term& term) {
+        const auto index = static_cast<std::size_t>(term.column) - 1;
+        if (index >= placeInRow_.size()) placeInRow_.resize(std::max(index + 1, 2 * placeInRow_.size()));
+        std::size_t& place = placeInRow_[index];
+        // Places left by earlier rows don't hold this column.
+        if (place < row_.size() && row_[place].column == term.column) {
+            row_[place].value += term.coefficient;
+            return;
+        }
+        place = row_.size();
+        row_.push_back({term.column, term.coefficient});
+    }
+
+    void storeRow() {
+        for (const RowEntry& entry : row_) {
+            if (entry.value != 0.0) nonzeros_.append(entry.column, store_.rowCount(), entry.value);
+        }
+        row_.clear();
+    }
+
+    Message readRightHandSide() {
+        const char relation = scanner_.token().find('<') != std::string_view::npos   ? '<'
+                              : scanner_.token().find('>') != std::string_view::npos ? '>'
+                                                                                     : '=';
+        if (!scanner_.nextToken()) return "RHS of restriction is missing.";
+        double sign = 1.0;
+        if (isSign(scanner_.token())) {
+            sign = scanner_.token() == "-" ? -1.0 : 1.0;
+            if (!scanner_.nextToken()) return "Incomplete RHS.";
+        }
+        double value = 0.0;
+        if (!parseReal(scanner_.token(), value)) return "RHS is no valid number.";
+        value = store_.clampToInfinity(sign * value);
+        RowRecord& row = store_.row(store_.rowCount() - 1);
+        row.lowerBound = relation == '<' ? -store_.infinity() : value;
+        row.upperBound = relation == '>' ? store_.infinity() : value;
+        return {};
+    }
+
+    Message readStatements() {
+        ColumnStatements statements(store_);
+        Message message;
+        while (message.empty() && !scanner_.token().empty()) {
+            message = readStatement(statements);
+            if (message.empty()) (void)scanner_.nextToken();
+        }
+        statements.finish();
+        return message;
+    }
+
+    Message readStatement(ColumnStatements& statements) {
+        const std::string word = inCapitals(scanner_.token());
+        if (word == "QCP") return "TARQ does not support quadratic models.";
+        if (word == "TITLE") {
+            model_.setModelName(std::string(scanner_.titleText()));
+            return {};
+        }
+        if (word == "SLB" || word == "SUB") return readBound(word, statements);
+        constexpr std::pair<std::string_view, ColumnStatement> kinds[] = {
+            {"FREE", ColumnStatement::Free}, {"GIN", ColumnStatement::General}, {"INT", ColumnStatement::Binary}};
+        for (const auto& [name, statement] : kinds) {
+            if (word == name) return readTarget(word, statement, statements);
+        }
+        return "Unknown Lindo Statement.";
+    }
+
+    Message readTarget(const std::string& word, ColumnStatement statement, ColumnStatements& statements) {
+        if (!scanner_.nextToken()) return "Missing variable name after " + word + ".";
+        std::int32_t count = 0;
+        if (parseInteger(scanner_.token(), count)) {
+            statements.applyToFirst(statement, std::min(count, store_.columnCount()));
+            return {};
+        }
+        std::int32_t position = 0;
+        Message message = findColumn(position);
+        if (message.empty()) statements.apply(statement, position);
+        return message;
+    }
+
+    Message readBound(const std::string& word, ColumnStatements& statements) {
+        if (!scanner_.nextToken()) return "Missing variable name after " + word + ".";
+        std::int32_t position = 0;
+        if (Message message = findColumn(position); !message.empty()) return message;
+        const std::string& name = store_.column(position).name;
+        if (!scanner_.nextToken()) return "Missing value name after " + word + ".";
+        double sign = 1.0;
+        if (isSign(scanner_.token())) {
+            sign = scanner_.token() == "-" ? -1.0 : 1.0;
+            if (!scanner_.nextToken()) return "Missing value name after " + word + " " + name + ".";
+        }
+        double value = 0.0;
+        if (!parseReal(scanner_.token(), value)) return "Bad numeric value for " + word + ".";
+        ColumnRecord& column = statements.column(position);
+        (word == "SLB" ? column.lowerBound : column.upperBound) = store_.clampToInfinity(sign * value);
+        return {};
+    }
+
+    Message findColumn(std::int32_t& position) {
+        const std::string name = inCapitals(scanner_.token());
+        position = store_.findColumn(name);
+        return position >= 0 ? Message() : "Variable name '" + name + "' does not exist.";
+    }
+
+    FreeTokenScanner scanner_;
+    ModelFileTarget& model_;
+    ModelStore& store_;
+    NonzeroLoader nonzeros_;
+    std::vector<RowEntry> row_;            ///< of the restriction that is read
+    std::vector<std::size_t> placeInRow_;  ///< by column, where it stood in the latest row that had it
+};
+
+}  // namespace
+
+std::optional<ParseFailure> readLindo(std::string text, ModelFileTarget& model) {
+    model.clearModel();
+    return LindoReader(std::move(text), model).read();
+}
+
+}  // namespace tarq
