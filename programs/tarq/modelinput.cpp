@@ -98,8 +98,6 @@ Failure explain(Status status, const std::string& shown, const std::string& file
         text = fmt::format("{} can't be read: {}.", shown, reasonNotReadable(file));
     } else if (status == status::textTooLong) {
         text = fmt::format("{}: {} A file's name may have 255 characters.", shown, complaint);
-    } else if (status == status::notImplemented) {
-        text = fmt::format("{}: reading the format {} is not implemented in this version.", shown, formatName(format));
     } else {
         text = fmt::format("{}: {}", shown, complaint);
     }

@@ -37,6 +37,25 @@ struct ShortestForm {
     }
 };
 
+/// Whether 16 significant digits of a double are its shortest form, of which this is a short one. A double lies up to
+/// half of its last bit beside the number that it stands for, which can show in the 16th digit when the first one is
+/// large; unless it stands for that number exactly, as 7.25.
+bool holdsAtSixteenDigits(const ShortestForm& form) {
+    if (form.digits[0] < '4') return true;
+    const int decimals = form.count - 1 - form.exponent;
+    constexpr int mostDecimals = 20;
+    if (decimals <= 0 || decimals > mostDecimals) return false;
+    std::uint64_t digits = 0;
+    for (int i = 0; i < form.count; ++i)
+        digits = digits * 10 + static_cast<std::uint64_t>(form.digits[static_cast<std::size_t>(i)] - '0');
+    // digits / 10^decimals has a finite binary form where the fives go away.
+    for (int i = 0; i < decimals; ++i) {
+        if (digits % 5 != 0) return false;
+        digits /= 5;
+    }
+    return true;
+}
+
 char* writeZeros(char* to, int count) {
     std::memset(to, '0', static_cast<std::size_t>(count));
     return to + count;
@@ -83,7 +102,7 @@ char* writeGeneral(char* to, double value, int digits) {
     if (char* const end = writeWhole(to, value, most); end != nullptr) return end;
     if (std::isfinite(value)) {
         const ShortestForm form(value);
-        if (form.count <= std::min(digits, safeDigits)) {
+        if (form.count <= std::min(digits, safeDigits) && (digits <= safeDigits || holdsAtSixteenDigits(form))) {
             if (form.negative) *to++ = '-';
             return form.exponent < -4 || form.exponent >= digits ? writeScientific(to, form) : writeFixed(to, form);
         }

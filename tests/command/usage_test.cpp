@@ -77,7 +77,8 @@ TEST_F(CommandUsageTest, InputThatCannotBeReadNamesFileAndLine) {
                                         "ELF\0\1\n\xff",
                                         8)),
          "binary.mps, line 1: "},
-        {file("model.ltx", "MAX X\nEND\n"), "model.ltx: reading the format lindo"},
+        {file("model.ltx", "MAX X\nEND\n"), "model.ltx, line 2: + or - expected."},
+        {file("model.tri", "1 1 1 1\n0 1 x 0 X\n"), "model.tri, line 2: Can't read cost in Section 3."},
     };
     std::filesystem::create_directory(folder_ / "folder.mps");
     const auto check = [&](const std::string& model, std::string_view saying) {

@@ -1,4 +1,4 @@
-// What the tests of the MPS reader share: a model that notes all it is told, and lines laid out in fixed columns.
+// What the tests of model files share: a model that notes all it is told, and lines laid out in fixed columns.
 #pragma once
 
 #include <initializer_list>
@@ -38,7 +38,9 @@ struct MpsModel final : ModelFileTarget {
         parameters.emplace_back(parameter, value);
     }
 
-    Outcome read(std::string text) { return readModelText(std::move(text), TARQFileFormatType::MPS, *this); }
+    Outcome read(std::string text, TARQFileFormatType format = TARQFileFormatType::MPS) {
+        return readModelText(std::move(text), format, *this);
+    }
 
     [[nodiscard]] const RowRecord& row(std::string_view rowName) { return modelStore.row(modelStore.findRow(rowName)); }
     [[nodiscard]] const ColumnRecord& column(std::string_view columnName) {
