@@ -39,9 +39,11 @@ struct ShortestForm {
 
 /// Whether 16 significant digits of a double are its shortest form, of which this is a short one. A double lies up to
 /// half of its last bit beside the number that it stands for, which can show in the 16th digit when the first one is
-/// large; unless it stands for that number exactly, as 7.25.
+/// large, or when a double that stands for a power of ten lies below it; unless it stands for that number exactly, as
+/// 7.25.
 bool holdsAtSixteenDigits(const ShortestForm& form) {
-    if (form.digits[0] < '4') return true;
+    const bool powerOfTen = form.count == 1 && form.digits[0] == '1';
+    if (form.digits[0] < '4' && !powerOfTen) return true;
     const int decimals = form.count - 1 - form.exponent;
     constexpr int mostDecimals = 20;
     if (decimals <= 0 || decimals > mostDecimals) return false;
@@ -100,7 +102,8 @@ char* writeWhole(char* to, double value, double most) {
 char* writeGeneral(char* to, double value, int digits) {
     const double most = digits == 3 ? 999.0 : digits == 5 ? 99'999.0 : digits == 11 ? 99'999'999'999.0 : 1e15;
     if (char* const end = writeWhole(to, value, most); end != nullptr) return end;
-    if (std::isfinite(value)) {
+    // Subnormal numbers have fewer digits than printf shows of them.
+    if (std::isnormal(value)) {
         const ShortestForm form(value);
         if (form.count <= std::min(digits, safeDigits) && (digits <= safeDigits || holdsAtSixteenDigits(form))) {
             if (form.negative) *to++ = '-';

