@@ -1,6 +1,6 @@
 // CTARQModel: columns and their properties.
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "model/modeledit.h"
 
 namespace tarq {

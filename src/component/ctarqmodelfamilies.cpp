@@ -1,6 +1,6 @@
 // CTARQModel: the hidden members by which families keep their columns and rows.
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "model/modeledit.h"
 
 namespace tarq {

@@ -1,6 +1,6 @@
 // CTARQModel: reading and writing model files.
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "modelfiles/modelcutout.h"
 #include "modelfiles/modelfile.h"
 #include "modelfiles/modelwriter.h"

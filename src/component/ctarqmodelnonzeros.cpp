@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "model/modeledit.h"
 
 namespace tarq {

@@ -1,6 +1,6 @@
 // CTARQModel: the solver parameters.
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "parameters/parameteraccess.h"
 #include "parameters/profile.h"
 #include "parameters/solverfilenames.h"

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 
 namespace tarq {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
+#include "frame/memberguard.h"
 #include "frame/text.h"
 #include "parameters/parameteraccess.h"
 

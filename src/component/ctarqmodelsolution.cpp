@@ -1,7 +1,7 @@
 // CTARQModel: the solution values of columns and rows.
 #include "component/ctarqmodel.h"
-#include "component/memberguard.h"
 #include "engine/solution.h"
+#include "frame/memberguard.h"
 
 namespace tarq {
 namespace {

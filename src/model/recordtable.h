@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "frame/status.h"
-#include "model/nameindex.h"
+#include "frame/nameindex.h"
 #include "platform/largepages.h"
 
 namespace tarq {

@@ -1,4 +1,4 @@
-#include "model/nameindex.h"
+#include "frame/nameindex.h"
 
 #include <algorithm>
 #include <cstring>
