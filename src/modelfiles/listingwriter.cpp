@@ -124,12 +124,17 @@ private:
         file_.write("  ");
     }
 
+    /// AddCol keeps any number as a type; all but 0 count as integer.
+    static std::string_view shownType(TARQColType type) {
+        if (type == TARQColType::Continuous) return "Con  ";
+        return type == TARQColType::Binary ? "Bin  " : "Int  ";
+    }
+
     void writeColumn(std::int32_t number) {
-        constexpr std::string_view types[] = {"Con  ", "Int  ", "Bin  "};
         const ColumnRecord& column = store_.column(number - 1);
         file_.write(shown(column.name, number));
         file_.write(": ");
-        file_.write(types[static_cast<std::size_t>(column.type)]);
+        file_.write(shownType(column.type));
         putBound(column.lowerBound, column.lowerBound > -store_.infinity(), "-INF");
         putBound(column.upperBound, column.upperBound < store_.infinity(), "INF");
         file_.write('\n');
