@@ -43,6 +43,14 @@ Outcome checkNames(const ModelStore& store) {
     return {};
 }
 
+/// At most `length` bytes, and no part of a character.
+std::string_view firstBytes(std::string_view text, std::size_t length) {
+    if (text.size() <= length) return text;
+    const auto continues = [&](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U; };
+    while (length > 0 && continues(length)) --length;
+    return text.substr(0, length);
+}
+
 /// One line, put together by columns and padded with blanks in between.
 class MpsLine {
 public:
@@ -72,8 +80,12 @@ private:
 
 class MpsWriter {
 public:
-    MpsWriter(const WrittenModel& model, OutputFile& file)
-        : store_(model.store), model_(model), file_(file), objective_(parameter("xobj", "OBJ-FUNC")) {}
+    MpsWriter(const WrittenModel& model, const ColumnOrder& nonzeros, OutputFile& file)
+        : store_(model.store),
+          model_(model),
+          nonzeros_(nonzeros),
+          file_(file),
+          objective_(parameter("xobj", "OBJ-FUNC")) {}
 
     void write() {
         writeHead();
@@ -113,7 +125,7 @@ private:
         file_.write('\n');
         line_.putAt(1, "NAME");
         const std::string_view name = model_.name.empty() ? std::string_view("NONAME") : model_.name;
-        line_.putAt(modelNamePlace.firstColumn, name.substr(0, modelNamePlace.width));
+        line_.putAt(modelNamePlace.firstColumn, firstBytes(name, modelNamePlace.width));
         line_.writeTo(file_);
     }
 
@@ -153,7 +165,6 @@ private:
 
     void writeColumns() {
         file_.write("COLUMNS\n");
-        const ColumnOrder nonzeros(store_);
         bool inBlock = false;
         for (std::int32_t i = 0; i < store_.columnCount(); ++i) {
             const ColumnRecord& column = store_.column(i);
@@ -161,8 +172,8 @@ private:
             if (isInteger != inBlock) writeMarker(isInteger);
             inBlock = isInteger;
             if (column.cost != 0.0) putPair(column.name, objective_, column.cost);
-            const auto rows = nonzeros.rowNumbers(i);
-            const auto values = nonzeros.values(i);
+            const auto rows = nonzeros_.rowNumbers(i);
+            const auto values = nonzeros_.values(i);
             for (std::size_t k = 0; k < rows.size(); ++k) putPair(column.name, store_.row(rows[k] - 1).name, values[k]);
             endPairs();
         }
@@ -215,23 +226,27 @@ private:
     }
 
     void writeBoundsOf(const ColumnRecord& column, std::string_view set) {
-        const bool below = isFiniteBelow(column.lowerBound);
-        const bool above = isFiniteAbove(column.upperBound);
+        // A bound that is not a number is not without a bound.
+        const bool noLower = column.lowerBound <= -store_.infinity();
+        const bool noUpper = column.upperBound >= store_.infinity();
         const bool isInteger = column.type == TARQColType::Integer;
         if (column.type == TARQColType::Binary) return putBound("BV", set, column);
-        if (!below && !above) return putBound("FR", set, column);
+        if (noLower && noUpper) return putBound("FR", set, column);
         if (column.lowerBound == column.upperBound) return putBound("FX", set, column, column.lowerBound);
-        if (!below) {
+        if (noLower) {
             putBound("MI", set, column);
         } else if (column.lowerBound != 0.0) {
             putBound(isInteger ? "LI" : "LO", set, column, column.lowerBound);
         }
         // Without one, a reader would give an integer column the upper bound 1.
-        if (above || isInteger) putBound(isInteger ? "UI" : "UP", set, column, column.upperBound);
+        if (isFiniteAbove(column.upperBound) || (noUpper && isInteger)) {
+            putBound(isInteger ? "UI" : "UP", set, column, column.upperBound);
+        }
     }
 
     const ModelStore& store_;
     const WrittenModel& model_;
+    const ColumnOrder& nonzeros_;
     OutputFile& file_;
     std::string_view objective_;
     MpsLine line_;
@@ -242,9 +257,11 @@ private:
 
 Outcome writeMps(const std::string& fileName, const WrittenModel& model) {
     if (Outcome names = checkNames(model.store); !names.isOk()) return names;
+    // Before the file is touched, as memory may run out here.
+    const ColumnOrder nonzeros(model.store);
     OutputFile file(fileName);
     if (!file.isOpen()) return writeFailure();
-    MpsWriter(model, file).write();
+    MpsWriter(model, nonzeros, file).write();
     return file.close() ? Outcome() : writeFailure();
 }
 
