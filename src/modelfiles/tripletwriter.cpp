@@ -1,5 +1,7 @@
 #include "modelfiles/tripletwriter.h"
 
+#include <algorithm>
+#include <limits>
 #include <string_view>
 
 #include "modelfiles/numberforms.h"
@@ -36,8 +38,9 @@ private:
     /// With a tenth to spare, for readers that make room beforehand.
     static void put(OutputFile& file, std::int64_t count) {
         constexpr double spare = 1.1;
-        file.wroteTo(writeIntegerToken(file.room(longestNumberForm),
-                                       static_cast<std::int32_t>(spare * static_cast<double>(count))));
+        const double room =
+            std::min<double>(spare * static_cast<double>(count), std::numeric_limits<std::int32_t>::max());
+        file.wroteTo(writeIntegerToken(file.room(longestNumberForm), static_cast<std::int32_t>(room)));
     }
 
     void writeSizes() {
