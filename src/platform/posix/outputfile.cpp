@@ -1,11 +1,13 @@
 #include "platform/outputfile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <ctime>
 #include <utility>
 
 namespace tarq {
@@ -13,6 +15,33 @@ namespace {
 
 // As large as the cache takes well; larger ones only move the work to page faults.
 constexpr std::size_t bufferLength = 4 * OutputFile::largestRoom;
+
+/// Keeps the signal of a pipe without a reader from ending the process: the write's own failure tells enough.
+class BrokenPipeSilence {
+public:
+    BrokenPipeSilence() {
+        sigemptyset(&signal_);
+        sigaddset(&signal_, SIGPIPE);
+        sigset_t pending;
+        wasPending_ = sigpending(&pending) == 0 && sigismember(&pending, SIGPIPE) == 1;
+        pthread_sigmask(SIG_BLOCK, &signal_, &before_);
+    }
+    BrokenPipeSilence(const BrokenPipeSilence&) = delete;
+    BrokenPipeSilence& operator=(const BrokenPipeSilence&) = delete;
+    ~BrokenPipeSilence() {
+        constexpr std::timespec atOnce{};
+        if (!wasPending_) {
+            while (sigtimedwait(&signal_, nullptr, &atOnce) < 0 && errno == EINTR) {
+            }
+        }
+        pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+    }
+
+private:
+    sigset_t signal_;
+    sigset_t before_;
+    bool wasPending_ = false;
+};
 
 bool writeAll(int descriptor, const char* text, std::size_t length) {
     while (length > 0) {
@@ -51,6 +80,7 @@ void OutputFile::write(std::string_view text) {
 }
 
 void OutputFile::flush() {
+    const BrokenPipeSilence silence;
     if (!failed_) failed_ = !writeAll(descriptor_, buffer_.get(), static_cast<std::size_t>(end_ - buffer_.get()));
     end_ = buffer_.get();
 }
