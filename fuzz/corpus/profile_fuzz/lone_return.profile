@@ -1,0 +1,2 @@
+xmiter=5xscale=1
+xobj=ab

@@ -1,0 +1,1 @@
+xfnmps = 'wow! so' ! much

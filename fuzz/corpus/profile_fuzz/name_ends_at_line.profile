@@ -1,0 +1,3 @@
+xscale=1
+xmiter
+xmxnod=4

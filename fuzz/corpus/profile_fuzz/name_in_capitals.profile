@@ -1,0 +1,1 @@
+XMITER=5 XScAlE=1

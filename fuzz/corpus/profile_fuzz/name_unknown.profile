@@ -1,0 +1,3 @@
+xscale=1
+
+  xzbest = 1 ! no

@@ -1,0 +1,3 @@
+xobj = 'a
+! still quoted
+xmiter=5 ! x'

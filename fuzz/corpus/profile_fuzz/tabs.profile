@@ -1,0 +1,1 @@
+	xmiter	=	5	xscale	=1

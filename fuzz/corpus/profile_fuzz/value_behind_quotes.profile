@@ -1,0 +1,1 @@
+xobj='a'xbound="b"xmiter=3

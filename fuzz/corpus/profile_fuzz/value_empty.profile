@@ -1,0 +1,1 @@
+xbound = '' xobj="' xrhs=""

@@ -1,0 +1,2 @@
+xmiter = 1,000
+xtolx=0,5

@@ -1,0 +1,2 @@
+xmiter =
+xobj=A

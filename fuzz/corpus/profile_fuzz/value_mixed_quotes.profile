@@ -1,0 +1,1 @@
+xminmx="MAX'

@@ -1,0 +1,1 @@
+xmiter = many

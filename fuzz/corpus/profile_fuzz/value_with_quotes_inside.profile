@@ -1,0 +1,1 @@
+xobj=a'b c'd e
