@@ -1,10 +1,13 @@
 #include "showcommand.h"
 
+#include <fmt/format.h>
+
 #include <charconv>
 #include <string>
 #include <string_view>
 
 #include "fileformat.h"
+#include "lasterror.h"
 #include "modelinput.h"
 #include "modelobject.h"
 #include "modeloutput.h"
@@ -44,16 +47,20 @@ ExitCode showModel(const ShowOptions& options) {
     const Range rows = range(options.rows);
     const Range columns = range(options.columns);
     Status listed;
-    auto failure = writeOutput(
-        "-",
-        [&](const std::string& path) {
-            listed = model->WriteDebugModel(path, rows.first, rows.last, columns.first, columns.last);
-            return listed;
-        },
-        [](Status) { return std::string("A range is FIRST:LAST, by number from 1 or by name."); });
+    std::string complaint;
+    const auto list = [&](const std::string& path) {
+        listed = model->WriteDebugModel(path, rows.first, rows.last, columns.first, columns.last);
+        if (listed.failed()) complaint = lastErrorText(listed);
+        return listed;
+    };
+    const auto failure = writeOutput("-", list, [](Status) { return std::string(); });
     if (!failure) return ExitCode::Success;
-    // A range that the model doesn't have is the user's mistake, not the file's.
-    if (listed.failed() && listed != status::fileAccess) failure->code = ExitCode::WrongUsage;
+    if (listed.failed() && listed != status::fileAccess) {
+        // A range that the model doesn't have is the user's mistake, not the output's.
+        return show(
+            Failure{ExitCode::WrongUsage, fmt::format("{}: {}\nA range is FIRST:LAST, by number from 1 or by name.",
+                                                      shownName(options.file, "standard input"), complaint)});
+    }
     return show(*failure);
 }
 

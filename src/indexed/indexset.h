@@ -26,12 +26,14 @@ public:
     [[nodiscard]] bool empty() const noexcept { return names_.empty(); }
     [[nodiscard]] const std::string& operator[](std::size_t position) const noexcept { return names_[position]; }
     [[nodiscard]] const std::vector<std::string>& names() const noexcept { return names_; }
+    /// Whether a name has a point inside, which is also what stands between the names of a cell.
+    [[nodiscard]] bool hasPoint() const noexcept { return pointed_ > 0; }
     /// First position of a name, or `absent`.
     [[nodiscard]] std::int32_t find(std::string_view name) const;
 
     void reserve(std::size_t count);
-    /// Appends a name and tells whether it was new; a name that is there already is not appended.
-    bool append(std::string name);
+    /// Appends a name, which may be there already.
+    void append(std::string name);
     /// Gives an element another name, which other elements may have too.
     void rename(std::size_t position, std::string name);
 
@@ -41,6 +43,7 @@ public:
 private:
     std::vector<std::string> names_;
     NameIndex index_;
+    std::size_t pointed_ = 0;  ///< number of names with a point
 };
 
 /// The text under which a value is an element: a text as it is, a number as it reads. Reals have to be whole and to fit
@@ -48,7 +51,7 @@ private:
 /// valid index value."). Failures have the status invalidArgument.
 Outcome indexElementName(const Variant& value, std::string& name);
 
-/// Appends the element of a value; besides the failures of indexElementName, "Duplicate element 'x' in index."
+/// Appends the element of a value. Fails as indexElementName, and with "Duplicate element 'x' in index."
 Outcome addIndexElement(const Variant& value, Indexset& names);
 
 /// Goes to the next combination of positions, of which dimension i has sizes[i]; false, with all positions 0 again,

@@ -1,6 +1,9 @@
 // Walking the values of the objects that have some: sets, series, arrays, and their enumerators.
 #pragma once
 
+#include <limits>
+#include <utility>
+
 #include "frame/ienumvariant.h"
 #include "frame/object.h"
 #include "frame/status.h"
@@ -11,6 +14,7 @@ namespace tarq {
 /// What an object gives its values through, and whether it gives any.
 struct ValueSource {
     bool offered = false;            ///< the object is one of those that have values
+    bool isSeries = false;           ///< a sequence in which no two neighbours are equal
     Ref<IEnumVARIANT> enumerator{};  ///< set, and reset, where that succeeded
 };
 
@@ -20,22 +24,26 @@ struct ValueSource {
 Outcome openValueSource(IUnknown* object, ValueSource& source);
 
 /// Hands the values that are left to `take`, which returns an Outcome, until that fails or there is none left. A
-/// failing Next ends the walk as a failing Reset does.
+/// failing Next ends the walk as a failing Reset does; so does a series whose step is too small to make headway.
 template <class Take>
-Outcome walkValues(IEnumVARIANT& enumerator, const Take& take);
+Outcome walkValues(const ValueSource& source, const Take& take);
 
 /// The failure of an object's own operation, worded by the object: invalidArgument with the calling thread's record as
 /// the description.
 Outcome failureOf(Status status);
 
 template <class Take>
-Outcome walkValues(IEnumVARIANT& enumerator, const Take& take) {
+Outcome walkValues(const ValueSource& source, const Take& take) {
+    double last = std::numeric_limits<double>::quiet_NaN();
     for (;;) {
         Variant value;
-        const Status fetched = enumerator.Next(1, &value, nullptr);
+        const Status fetched = source.enumerator->Next(1, &value, nullptr);
         if (fetched.failed()) return failureOf(fetched);
         if (!fetched.isOk()) return {};
-        if (const Outcome taken = take(std::move(value)); !taken.isOk()) return taken;
+        const double number = value.is(Kind::Double) ? value.real() : last;
+        if (Outcome taken = take(std::move(value)); !taken.isOk()) return taken;
+        if (source.isSeries && number == last) return {status::invalidArgument, "Step of series is too small."};
+        last = number;
     }
 }
 

@@ -173,7 +173,7 @@ TEST(LindoReader, HostileTextsCostNoMoreThanTheirLength) {
     } cases[] = {
         {std::string(length, ' '), "Unexpected end of file."},
         {"MIN " + std::string(length, 'X'), "Variable names may not be longer than 8 characters."},
-        {"MIN " + std::string(length, '-'), "Illegal character in variable name '-'."},
+        {"MIN " + std::string(length, '-'), "No constans allowed in objective function."},
         {"MIN X ST X > " + std::string(length, '1'), "Unexpected end of file, 'END' missing."},
         {std::string(length, '\0'), "Optimization direction (MIN/MAX) expected."},
         {"MIN " + std::string(length, '\n'), "Start of objective function expected."},

@@ -1,0 +1,131 @@
+#include "indexed/indexarguments.h"
+
+#include <utility>
+
+#include "frame/safearray.h"
+#include "indexed/elementreader.h"
+#include "indexed/objectvalues.h"
+
+namespace tarq {
+namespace {
+
+Outcome refused(std::string message) { return {status::invalidArgument, std::move(message)}; }
+
+Outcome readArray(const SafeArray& array, Indexset& names) {
+    const ElementReader reader(array);
+    if (!reader.isReadable()) return refused("Array contains elements of wrong type.");
+    if (array.dimensions().empty()) return refused("SafeArray is empty or NULL pointer has been passed.");
+    if (array.dimensions().size() > 1) return refused("Multidimensional SafeArrays may not be used as indexset.");
+    const std::size_t count = array.elementCount();
+    names.reserve(count);
+    for (std::size_t position = 0; position < count; ++position) {
+        if (Outcome added = addIndexElement(reader.value(position), names); !added.isOk()) return added;
+    }
+    return {};
+}
+
+Outcome readObject(IUnknown* object, Indexset& names) {
+    ValueSource source;
+    if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
+    if (!source.offered) return refused("Passed object cannot be used as an index set.");
+    return walkValues(source, [&](const Variant& value) { return addIndexElement(value, names); });
+}
+
+/// One entry of a list of dimensions.
+Outcome readEntry(const Variant& entry, Indexset& names) {
+    if (entry.isArray()) {
+        return entry.isByReference() ? readArray(entry.array(), names) : refused("Unsupported argument type.");
+    }
+    Variant value = entry.copyDereferenced();
+    if (value.isObject()) return readObject(value.object(), names);
+    if (value.isArray() || !value.toInteger()) return refused("Unsupported argument type.");
+    if (value.integer() < 1) {
+        return refused("Single value as upper limit of index series may not be smaller than 1.");
+    }
+    names = Indexset::numbered(value.integer());
+    return {};
+}
+
+/// The elements that one index argument names, which need not be there.
+Outcome readArgument(const Variant& argument, Indexset& names) {
+    if (argument.isArray()) {
+        // The reverse of a new dimension, which is read by reference only.
+        return argument.isByReference() ? refused("Array contains elements of wrong type.")
+                                        : readArray(argument.array(), names);
+    }
+    const Variant value = argument.copyDereferenced();
+    if (value.isArray()) return readArray(value.array(), names);
+    if (value.isObject()) return readObject(value.object(), names);
+    return addIndexElement(value, names);
+}
+
+Outcome notThere(const std::string& element) {
+    return refused(std::string("Index element '").append(element).append("' is no index element of the base object."));
+}
+
+Outcome selectOne(const Variant& argument, const Indexset& base, std::vector<std::int32_t>& positions) {
+    std::string name;
+    if (Outcome read = indexElementName(argument, name); !read.isOk()) return read;
+    const std::int32_t position = base.find(name);
+    if (position == Indexset::absent) return notThere(name);
+    positions.push_back(position);
+    return {};
+}
+
+Outcome selectMany(const Variant& argument, const Indexset& base, std::vector<std::int32_t>& positions) {
+    Indexset names;
+    if (Outcome read = readArgument(argument, names); !read.isOk()) return read;
+    positions.reserve(names.size());
+    for (const std::string& name : names.names()) {
+        const std::int32_t position = base.find(name);
+        if (position == Indexset::absent) return notThere(name);
+        positions.push_back(position);
+    }
+    return {};
+}
+
+}  // namespace
+
+Outcome readIndexsetList(const ValueList& list, std::vector<Indexset>& indexsets) {
+    for (const Variant& entry : list.walk()) {
+        Indexset names;
+        if (Outcome read = readEntry(entry, names); !read.isOk()) return read;
+        if (names.empty()) return refused("Empty index set.");
+        indexsets.push_back(std::move(names));
+    }
+    return {};
+}
+
+void Selection::append(SelectedDimension dimension) {
+    sizes_.push_back(dimension.size());
+    dimensions_.push_back(std::move(dimension));
+}
+
+Outcome selectIndexsets(const IndexArguments& arguments, std::span<const Indexset> base, Selection& selection) {
+    std::size_t last = arguments.size();
+    while (last > 0 && arguments[last - 1]->isMissing()) --last;
+    if (last > base.size()) return refused("Too many indexsets used as parameter.");
+    for (std::size_t dimension = 0; dimension < base.size(); ++dimension) {
+        if (dimension >= last || arguments[dimension]->isMissing()) {
+            selection.append(SelectedDimension(base[dimension].size()));
+            continue;
+        }
+        const Variant& argument = *arguments[dimension];
+        const bool isPlain = argument.isText() || argument.is(Kind::Long) || argument.isRealKind();
+        std::vector<std::int32_t> positions;
+        Outcome selected = isPlain ? selectOne(argument, base[dimension], positions)
+                                   : selectMany(argument, base[dimension], positions);
+        if (!selected.isOk()) return selected;
+        selection.append(SelectedDimension(std::move(positions)));
+    }
+    return {};
+}
+
+std::string fullIndexName(std::string_view prefix, std::span<const Indexset> indexsets,
+                          std::span<const std::size_t> positions) {
+    std::string name(prefix);
+    for (std::size_t i = 0; i < indexsets.size(); ++i) name.append(1, '.').append(indexsets[i][positions[i]]);
+    return name;
+}
+
+}  // namespace tarq

@@ -1,0 +1,284 @@
+#include "indexed/valueimport.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "frame/convertelement.h"
+#include "indexed/arraycells.h"
+#include "indexed/elementreader.h"
+#include "indexed/indexset.h"
+#include "indexed/objectvalues.h"
+#include "indexed/spreadsheetrange.h"
+#include "interfaces/itarqarray.h"
+#include "interfaces/itarqseries.h"
+
+namespace tarq {
+namespace {
+
+Outcome refused(std::string message) { return {status::invalidArgument, std::move(message)}; }
+
+Outcome appendConverted(Variant value, Kind target, std::vector<Variant>& values) {
+    std::string message;
+    return convertElement(std::move(value), target, values, message) ? Outcome() : refused(std::move(message));
+}
+
+/// One element of an array; numbers that are wanted as doubles need no conversion.
+Outcome appendElement(const ElementReader& reader, std::size_t position, Kind target, std::vector<Variant>& values) {
+    if (target == Kind::Double && reader.isNumeric()) {
+        values.emplace_back(reader.number(position));
+        return {};
+    }
+    return appendConverted(reader.value(position), target, values);
+}
+
+Outcome appendAllElements(const ElementReader& reader, std::size_t count, Kind target, std::vector<Variant>& values) {
+    values.reserve(values.size() + count);
+    for (std::size_t position = 0; position < count; ++position) {
+        if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
+    }
+    return {};
+}
+
+// ---- The leading block of an array
+
+Outcome checkBlock(const SafeArray& array, std::span<const std::size_t> shape) {
+    const std::span<const Dimension> dimensions = array.dimensions();
+    if (dimensions.size() != shape.size()) return refused("Dimension of array does not fit.");
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        if (dimensions[i].length >= shape[i]) continue;
+        return refused(std::string("Dimension ").append(std::to_string(i + 1)).append(" of array is too small."));
+    }
+    return {};
+}
+
+/// The block of the sizes `shape` at the lower bounds of an array of more than one dimension.
+Outcome appendBlock(const SafeArray& array, const ElementReader& reader, std::span<const std::size_t> shape,
+                    Kind target, std::vector<Variant>& values) {
+    const std::size_t count = combinationCount(shape);
+    if (count == 0) return {};
+    values.reserve(count);
+    std::vector<std::size_t> positions(shape.size(), 0);
+    do {
+        std::size_t position = 0;
+        for (std::size_t i = 0; i < shape.size(); ++i)
+            position = position * array.dimensions()[i].length + positions[i];
+        if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
+    } while (nextIndexCombination(shape, positions));
+    return {};
+}
+
+Outcome expandArray(const Variant& value, std::span<const std::size_t> shape, std::size_t count, Kind target,
+                    std::vector<Variant>& values) {
+    const SafeArray& array = value.array();
+    const ElementReader reader(array);
+    if (value.isByReference() || !reader.isReadable()) return refused("Array has wrong data type.");
+    if (array.dimensions().empty()) return {};
+    if (array.dimensions().size() == 1) {
+        if (array.elementCount() < count) return refused("Not enough elements in value array.");
+        return appendAllElements(reader, array.elementCount(), target, values);
+    }
+    if (Outcome checked = checkBlock(array, shape); !checked.isOk()) return checked;
+    return appendBlock(array, reader, shape, target, values);
+}
+
+// ---- Single values
+
+bool convertScalar(Variant& value, Kind target) {
+    switch (target) {
+        case Kind::Empty:
+            return value.normalizeValue();
+        case Kind::Long:
+            return value.toInteger();
+        case Kind::Double:
+            return value.toReal();
+        case Kind::Text:
+            return value.toText();
+        default:
+            return true;
+    }
+}
+
+// ---- Spreadsheet ranges
+
+Outcome appendCells(const SpreadsheetRange& range, std::int32_t rows, std::int32_t columns, Kind target,
+                    std::vector<Variant>& values) {
+    for (std::int32_t row = 1; row <= rows; ++row) {
+        for (std::int32_t column = 1; column <= columns; ++column) {
+            Variant value;
+            if (Outcome read = range.cell(row, column, value); !read.isOk()) return read;
+            if (Outcome appended = appendConverted(std::move(value), target, values); !appended.isOk()) {
+                return appended;
+            }
+        }
+    }
+    return {};
+}
+
+Outcome sizesOf(const SpreadsheetRange& range, std::int32_t& rows, std::int32_t& columns) {
+    if (Outcome checked = range.requireSingleArea(); !checked.isOk()) return checked;
+    if (Outcome asked = range.rowCount(rows); !asked.isOk()) return asked;
+    return range.columnCount(columns);
+}
+
+/// The cells of a range that a selection of the sizes `shape` takes.
+Outcome expandRange(const SpreadsheetRange& range, std::span<const std::size_t> shape, Kind target,
+                    std::vector<Variant>& values) {
+    std::int32_t rows = 0;
+    std::int32_t columns = 0;
+    if (Outcome asked = sizesOf(range, rows, columns); !asked.isOk()) return asked;
+    const auto sizeOf = [](std::int32_t count) { return static_cast<std::size_t>(std::max(count, 0)); };
+    if (shape.empty()) return {};
+    if (shape.size() > 2) return refused("Excel Ranges cannot be read into objects with more than 2 dimensions.");
+    if (shape.size() == 1) {
+        if (shape[0] > sizeOf(rows) * sizeOf(columns)) return refused("Not enough values in Excel Range.");
+        return appendCells(range, rows, columns, target, values);
+    }
+    if (sizeOf(rows) < shape[0]) return refused("Not enough rows in Excel Range.");
+    if (sizeOf(columns) < shape[1]) return refused("Not enough columns in Excel Range.");
+    return appendCells(range, static_cast<std::int32_t>(shape[0]), static_cast<std::int32_t>(shape[1]), target, values);
+}
+
+// ---- Arrays of this component
+
+Outcome appendArrayCells(std::span<const Variant> cells, Kind target, std::vector<Variant>& values) {
+    values.reserve(values.size() + cells.size());
+    for (const Variant& cell : cells) {
+        if (Outcome appended = appendConverted(cell, target, values); !appended.isOk()) return appended;
+    }
+    return {};
+}
+
+Outcome checkArrayShape(ITARQArray& array, std::span<const std::size_t> shape) {
+    std::int32_t dimensions = 0;
+    if (const Status asked = array.get_NumberOfIndexsets(&dimensions); asked.failed()) return failureOf(asked);
+    if (static_cast<std::size_t>(dimensions) != shape.size()) return refused("Dimension of TARQArray does not fit.");
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        std::int32_t size = 0;
+        const Status asked = array.get_SizeOfIndexset(static_cast<std::int32_t>(i) + 1, &size);
+        if (asked.failed()) return failureOf(asked);
+        if (static_cast<std::size_t>(size) >= shape[i]) continue;
+        return refused(std::string("Dimension ").append(std::to_string(i + 1)).append(" of TARQArray is too small."));
+    }
+    return {};
+}
+
+/// Reads the leading block cell by cell, which fails where a cell of it isn't there or can't be converted.
+Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
+    constexpr std::size_t mostIndices = 5;
+    if (combinationCount(shape) == 0) return {};
+    std::array<Variant, mostIndices> indices;
+    indices.fill(Variant::missing());
+    std::vector<std::size_t> positions(shape.size(), 0);
+    std::vector<Variant> block;
+    do {
+        for (std::size_t i = 0; i < std::min(shape.size(), mostIndices); ++i) {
+            indices[i] = Variant(static_cast<std::int32_t>(positions[i]) + 1);
+        }
+        Variant value;
+        const Status asked =
+            array.get_ValueByNumIndex(indices[0], indices[1], indices[2], indices[3], indices[4], &value);
+        if (asked.failed()) return failureOf(asked);
+        block.clear();
+        if (Outcome read = appendConverted(std::move(value), target, block); !read.isOk()) return read;
+    } while (nextIndexCombination(shape, positions));
+    return {};
+}
+
+/// What an array has to offer for a selection of the sizes `shape`. Its values are read by the caller afterwards, all
+/// of them in their own order, so that of a larger array the first ones are taken and not the leading block.
+Outcome checkArray(ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
+    if (Outcome checked = checkArrayShape(array, shape); !checked.isOk()) return checked;
+    // Cells that lie together are all read afterwards, and a failure would be the same.
+    if (Ref<IArrayCells> cells = Ref<ITARQArray>(&array).query<IArrayCells>();
+        cells && !cells->rowMajorCells().empty()) {
+        return {};
+    }
+    return checkArrayBlock(array, shape, target);
+}
+
+/// Room for the members of a series at once: one too long for any memory ends here and not after hours.
+void reserveForSeries(const Ref<IUnknown>& object, std::vector<Variant>& values) {
+    const Ref<ITARQSeries> series = object.query<ITARQSeries>();
+    std::int32_t count = 0;
+    if (series && series->get_Count(&count).isOk()) values.reserve(static_cast<std::size_t>(count));
+}
+
+}  // namespace
+
+Outcome appendArrayValues(const SafeArray& array, Kind target, std::vector<Variant>& values) {
+    const ElementReader reader(array);
+    if (!reader.isReadable()) return refused("Array contains elements of wrong type.");
+    if (array.dimensions().size() != 1) return refused("Multidimensional arrays not allowed.");
+    return appendAllElements(reader, array.elementCount(), target, values);
+}
+
+Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>& values) {
+    values.clear();
+    const Ref<IUnknown> held(object);
+    if (const Ref<IArrayCells> cells = held.query<IArrayCells>(); cells && !cells->rowMajorCells().empty()) {
+        return appendArrayCells(cells->rowMajorCells(), target, values);
+    }
+    ValueSource source;
+    if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
+    if (source.offered) {
+        if (source.isSeries) reserveForSeries(held, values);
+        return walkValues(source, [&](Variant value) { return appendConverted(std::move(value), target, values); });
+    }
+    const SpreadsheetRange range(object);
+    if (!range) return refused("Passed object is not allowed.");
+    std::int32_t rows = 0;
+    std::int32_t columns = 0;
+    if (Outcome asked = sizesOf(range, rows, columns); !asked.isOk()) return asked;
+    return appendCells(range, rows, columns, target, values);
+}
+
+Outcome flattenValueList(const ValueList& list, std::vector<Variant>& values) {
+    for (const Variant& entry : list.walk()) {
+        if (entry.isArray()) {
+            if (!entry.isByReference()) return refused("Unsupported argument type.");
+            if (Outcome read = appendArrayValues(entry.array(), Kind::Empty, values); !read.isOk()) return read;
+            continue;
+        }
+        Variant value = entry.copyDereferenced();
+        if (value.isObject()) {
+            std::vector<Variant> collected;
+            Outcome read = collectObjectValues(value.object(), Kind::Empty, collected);
+            if (!read.isOk()) return read;
+            std::ranges::move(collected, std::back_inserter(values));
+            continue;
+        }
+        if (value.isArray() || !value.normalizeValue()) return refused("Unsupported argument type.");
+        values.push_back(std::move(value));
+    }
+    return {};
+}
+
+Outcome expandValues(const Variant& value, std::span<const std::size_t> shape, std::size_t count, Kind target,
+                     std::vector<Variant>& values) {
+    values.clear();
+    if (value.isArray()) {
+        if (Outcome read = expandArray(value, shape, count, target, values); !read.isOk()) return read;
+    } else if (Variant plain = value.copyDereferenced(); plain.isArray()) {
+        return expandValues(plain, shape, count, target, values);
+    } else if (!plain.isObject()) {
+        if (!convertScalar(plain, target)) return refused("Parameter for value is of wrong type.");
+        values.assign(count, plain);
+        return {};
+    } else {
+        const Ref<IUnknown> object(plain.object());
+        const SpreadsheetRange range(object.get());
+        if (const Ref<ITARQArray> array = object.query<ITARQArray>()) {
+            if (Outcome checked = checkArray(*array, shape, target); !checked.isOk()) return checked;
+        }
+        Outcome read = range && !object.query<ITARQArray>() ? expandRange(range, shape, target, values)
+                                                            : collectObjectValues(object.get(), target, values);
+        if (!read.isOk()) return read;
+    }
+    if (values.size() < count) return refused("Not enough values passed.");
+    return {};
+}
+
+}  // namespace tarq
