@@ -20,7 +20,11 @@ bool parseInteger(std::string_view text, std::int32_t& value) {
     if (plus && first != end && *first == '-') return false;
     std::int32_t read = 0;
     const auto [stop, error] = std::from_chars(first, end, read);
-    if (error != std::errc{} || stop != end) return false;
+    if (stop != end || error == std::errc::invalid_argument) return false;
+    if (error == std::errc::result_out_of_range) {
+        using Limits = std::numeric_limits<std::int32_t>;
+        read = *first == '-' ? Limits::min() : Limits::max();
+    }
     value = read;
     return true;
 }

@@ -20,8 +20,8 @@ std::string realText(double value);
 /// what is too large, 0 for what is too small. On failure `value` is unchanged and the result is false.
 [[nodiscard]] inline bool parseReal(std::string_view text, double& value);
 
-/// Reads a whole text of an optional sign and digits. On failure, which includes a number beyond 32 bits, `value` is
-/// unchanged and the result is false.
+/// Reads a whole text of an optional sign and digits. A number beyond 32 bits becomes the nearest that fits. On failure
+/// `value` is unchanged and the result is false.
 [[nodiscard]] bool parseInteger(std::string_view text, std::int32_t& value);
 
 namespace numbertext {

@@ -95,19 +95,25 @@ TEST(NumberTextTest, OtherTextsAreNoReals) {
     }
 }
 
-TEST(NumberTextTest, IntegersAreWholeTextsWithin32Bits) {
+TEST(NumberTextTest, IntegersAreWholeTextsHeldWithin32Bits) {
     struct {
         const char* text;
         std::int32_t value;
-    } const good[] = {{"0", 0},  {"-12", -12}, {"+7", 7}, {"2147483647", 2147483647}, {"-2147483648", INT32_MIN},
-                      {"007", 7}};
+    } const good[] = {{"0", 0},
+                      {"-12", -12},
+                      {"+7", 7},
+                      {"2147483647", 2147483647},
+                      {"-2147483648", INT32_MIN},
+                      {"007", 7},
+                      {"2147483648", INT32_MAX},
+                      {"-2147483649", INT32_MIN},
+                      {"+99999999999999999999", INT32_MAX}};
     for (const auto& row : good) {
         std::int32_t value = 99;
         EXPECT_TRUE(parseInteger(row.text, value)) << row.text;
         EXPECT_EQ(value, row.value);
     }
-    for (const char* text : {"", "+", "-", "+-1", "--1", " 1", "1 ", "1.", "1e2", "0x1", "2147483648", "-2147483649",
-                             "99999999999999999999"}) {
+    for (const char* text : {"", "+", "-", "+-1", "--1", " 1", "1 ", "1.", "1e2", "0x1", "99999999999x"}) {
         std::int32_t value = 99;
         EXPECT_FALSE(parseInteger(text, value)) << text;
         EXPECT_EQ(value, 99);
