@@ -131,6 +131,7 @@ TEST(LindoReader, StatementsActInTheirOrderAlsoOnTheFirstColumns) {
     } const cases[] = {
         {"GIN 2", "iicc", {0, 0, 0, 0}},
         {"GIN 99 INT 1", "biii", {0, 0, 0, 0}},
+        {"GIN 99999999999", "iiii", {0, 0, 0, 0}},
         {"INT 3 GIN 2", "iibc", {0, 0, 0, 0}},
         {"GIN 0 INT 0", "cccc", {0, 0, 0, 0}},
         {"SLB B 5 FREE 3 SLB C 7", "cccc", {-infinity, -infinity, 7, 0}},

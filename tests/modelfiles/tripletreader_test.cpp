@@ -60,7 +60,8 @@ TEST(TripletReader, WrongTextsFailWithTheirMessageAndLine) {
         {"0 1 0 0", "Bad number of rows in Section 2.", 1},
         {"1.5 1 0 0", "Bad number of rows in Section 2.", 1},
         {"1 -1 0 0", "Bad number of cols in Section 2.", 1},
-        {"1 99999999999 0 0", "Bad number of cols in Section 2.", 1},
+        {"1 -99999999999 0 0", "Bad number of cols in Section 2.", 1},
+        {"1 99999999999 0 0", "Number of cols found in section 3 does not fit value from section 2.", 2},
         {"1 1 0 0 -1", "Bad value for xinf in Section 2.", 1},
         {"1 1 0 0 inf", "Bad value for xinf in Section 2.", 1},
         {sizes + "a 1 0 0 X", "Can't read LB in Section 3.", 2},
@@ -84,6 +85,7 @@ TEST(TripletReader, WrongTextsFailWithTheirMessageAndLine) {
         {row + "1 a 1", "Can't read col index in Section 5.", 4},
         {row + "2 2 nan", "Can't read nz in Section 5.", 4},
         {row + "2 2 1", "Bad row index in Section 5.", 4},
+        {row + "99999999999 1 1", "Bad row index in Section 5.", 4},
         {row + "1 0 1", "Bad col index in Section 5.", 4},
     };
     for (const auto& one : cases) {
