@@ -5,6 +5,8 @@
 
 #include "component/ctarqmodel.h"
 #include "frame/text.h"
+#include "indexed/ctarqarray.h"
+#include "indexed/ctarqarrayenum.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodelevents.h"
 
@@ -16,14 +18,15 @@ constexpr std::array classes{
                &_ITARQModelEvents::memberTable},
     ClassEntry{"TARQSet", classid::TARQSet, "ITARQSet"},
     ClassEntry{"TARQSeries", classid::TARQSeries, "ITARQSeries"},
-    ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray"},
+    ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray", &createInstance<CTARQArray>, &ITARQArray::memberTable},
     ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar"},
     ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes"},
     ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet"},
     ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet"},
     ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum"},
     ClassEntry{"TARQSetEnum", classid::TARQSetEnum, "ITARQSetEnum"},
-    ClassEntry{"TARQArrayEnum", classid::TARQArrayEnum, "ITARQArrayEnum"},
+    ClassEntry{"TARQArrayEnum", classid::TARQArrayEnum, "ITARQArrayEnum", &createInstance<CTARQArrayEnum>,
+               &ITARQArrayEnum::memberTable},
     ClassEntry{"TARQVarSetEnum", classid::TARQVarSetEnum, "ITARQVarSetEnum"},
     ClassEntry{"TARQResSetEnum", classid::TARQResSetEnum, "ITARQResSetEnum"},
     ClassEntry{"tarqprop1", classid::tarqprop1, ""},

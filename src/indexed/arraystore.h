@@ -51,6 +51,7 @@ public:
 
     /// All cells in the order of the combinations; empty where they are kept by name.
     [[nodiscard]] std::span<Variant> block() noexcept { return cells_; }
+    [[nodiscard]] std::span<const Variant> block() const noexcept { return cells_; }
     /// Hands every cell to `use`.
     template <class Use>
     void forEachCell(const Use& use);

@@ -1,0 +1,25 @@
+// Reading and writing selected cells of a store.
+#pragma once
+
+#include <span>
+
+#include "frame/status.h"
+#include "frame/variant.h"
+#include "indexed/arraystore.h"
+#include "indexed/indexarguments.h"
+
+namespace tarq {
+
+/// The cell of a selection of one, else an array of Variants of the selection's sizes with lower bounds 0. Fails with
+/// "Index '.a.b' does not exist.", invalidArgument, where a combination has no cell.
+Outcome readCells(ArrayStore& store, const Selection& selection, Variant& value);
+
+/// Stores the values, one for each selected cell in their order; values beyond them are left. Fails as readCells, with
+/// what was stored until then.
+Outcome writeCells(ArrayStore& store, const Selection& selection, std::span<Variant> values);
+
+/// Stores the values in the cells in their order, from the first one on; cells without a value stay as they are. Fails
+/// as readCells, and without storing anything where there are more values than combinations of elements.
+Outcome storeValues(ArrayStore& store, std::span<Variant> values);
+
+}  // namespace tarq

@@ -1,0 +1,83 @@
+// CTARQEnumBase: what the enumerators over a selection of named things have in common.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "frame/countedobject.h"
+#include "frame/ienumvariant.h"
+#include "frame/memberguard.h"
+#include "indexed/selectionwalk.h"
+
+namespace tarq {
+
+/// Base of the enumerator `Derived`, with the interface `EnumInterface`, over objects that offer `ParentInterface`.
+template <class Derived, class EnumInterface, class ParentInterface, const Guid& classId>
+class CTARQEnumBase : public CountedObject<Derived, EnumInterface, IEnumVARIANT> {
+public:
+    Status Skip(std::uint32_t count) override {
+        Status ended;
+        const Status ready = guarded(classId, [&]() -> Outcome {
+            if (Outcome initialized = requireInitialized(); !initialized.isOk()) return initialized;
+            ended = walk_.skip(count) ? status::ok : IEnumVARIANT::fewerLeft;
+            return {};
+        });
+        return ready.isOk() ? ended : ready;
+    }
+    Status Reset() override {
+        return guarded(classId, [&]() -> Outcome {
+            if (Outcome initialized = requireInitialized(); !initialized.isOk()) return initialized;
+            walk_.reset();
+            return {};
+        });
+    }
+    Status Clone(IEnumVARIANT** /*copy*/) override { return status::notImplemented; }
+
+protected:
+    ~CTARQEnumBase() = default;
+
+    [[nodiscard]] Outcome requireInitialized() const {
+        return initialized_ ? Outcome() : Outcome(status::notInitialized, "Enumerator has not been initialized.");
+    }
+
+    /// Selects from the parent's dimensions, which are read through its public members, and starts before the first
+    /// item.
+    Outcome select(Ref<ParentInterface> parent, const IndexArguments& indices, std::string prefix) {
+        parent_ = std::move(parent);
+        walk_ = SelectionWalk();
+        std::vector<Indexset> base;
+        if (const Status read = readDimensions(base); !read.isOk()) return read;
+        Selection selection;
+        if (Outcome selected = selectIndexsets(indices, base, selection); !selected.isOk()) return selected;
+        walk_ = SelectionWalk(std::move(prefix), std::move(base), std::move(selection));
+        initialized_ = true;
+        return {};
+    }
+
+    SelectionWalk walk_;
+    Ref<ParentInterface> parent_;
+    bool initialized_ = false;
+
+private:
+    Status readDimensions(std::vector<Indexset>& base) const {
+        std::int32_t dimensions = 0;
+        if (const Status read = parent_->get_NumberOfIndexsets(&dimensions); !read.isOk()) return read;
+        for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {
+            std::int32_t size = 0;
+            if (const Status read = parent_->get_SizeOfIndexset(dimension, &size); !read.isOk()) return read;
+            Indexset& names = base.emplace_back();
+            for (std::int32_t element = 1; element <= size; ++element) {
+                std::string name;
+                const Status read = parent_->get_IndexsetElement(dimension, element, &name);
+                if (!read.isOk()) return read;
+                names.append(std::move(name));
+            }
+        }
+        return status::ok;
+    }
+};
+
+}  // namespace tarq
