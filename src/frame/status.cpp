@@ -19,6 +19,7 @@ constexpr std::array meanings{
     StatusMeaning{generalFailure, "general failure"},
     StatusMeaning{classNotAvailable, "class is not available"},
     StatusMeaning{outOfMemory, "out of memory"},
+    StatusMeaning{badArgument, "bad argument"},
     StatusMeaning{componentFailure, "general component failure"},
     StatusMeaning{libraryNotFound, "engine or library file not found"},
     StatusMeaning{entryPointsMissing, "entry points of the library missing"},

@@ -47,6 +47,7 @@ inline constexpr Status classNotAvailable{0x80040154};
 inline constexpr Status noConnection{0x80040200};
 inline constexpr Status cannotConnect{0x80040202};
 inline constexpr Status outOfMemory{0x8007000E};
+inline constexpr Status badArgument{0x80070057};
 
 inline constexpr Status componentFailure{0x80041000};
 inline constexpr Status libraryNotFound{0x80041011};

@@ -1,0 +1,26 @@
+// CTARQSeries: the object behind ITARQSeries. It holds three numbers; its enumerator makes the members.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/countedobject.h"
+#include "indexed/serieswalk.h"
+#include "interfaces/itarqseries.h"
+
+namespace tarq {
+
+// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
+class CTARQSeries final : public CountedObject<CTARQSeries, ITARQSeries> {
+public:
+    Status Init(double Start, double End, const Variant& Step) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get_Series(double Start, double End, const Variant& Step, Ref<IUnknown>* value) override;
+    Status get_Count(std::int32_t* value) override;
+
+private:
+    SeriesRange range_;
+    bool initialized_ = false;
+};
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
+
+}  // namespace tarq

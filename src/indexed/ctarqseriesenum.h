@@ -1,0 +1,31 @@
+// CTARQSeriesEnum: the object behind ITARQSeriesEnum, an enumerator too.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/countedobject.h"
+#include "frame/ienumvariant.h"
+#include "indexed/serieswalk.h"
+#include "interfaces/itarqseriesenum.h"
+
+namespace tarq {
+
+// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
+class CTARQSeriesEnum final : public CountedObject<CTARQSeriesEnum, ITARQSeriesEnum, IEnumVARIANT> {
+public:
+    Status Init(double Start, double End, double Step) override;
+
+    /// Clients know *fetched as one more than the number of members handed out.
+    Status Next(std::uint32_t count, Variant* values, std::uint32_t* fetched) override;
+    /// `fewerLeft` also where the end itself is the member that comes next.
+    Status Skip(std::uint32_t count) override;
+    Status Reset() override;
+    Status Clone(IEnumVARIANT** copy) override;
+
+private:
+    SeriesWalk walk_;
+    bool initialized_ = false;
+};
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
+
+}  // namespace tarq
