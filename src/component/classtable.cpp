@@ -7,6 +7,10 @@
 #include "frame/text.h"
 #include "indexed/ctarqarray.h"
 #include "indexed/ctarqarrayenum.h"
+#include "indexed/ctarqseries.h"
+#include "indexed/ctarqseriesenum.h"
+#include "indexed/ctarqset.h"
+#include "indexed/ctarqsetenum.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodelevents.h"
 
@@ -16,15 +20,18 @@ namespace {
 constexpr std::array classes{
     ClassEntry{"TARQModel", classid::TARQModel, "ITARQModel", &createInstance<CTARQModel>, &ITARQModel::memberTable,
                &_ITARQModelEvents::memberTable},
-    ClassEntry{"TARQSet", classid::TARQSet, "ITARQSet"},
-    ClassEntry{"TARQSeries", classid::TARQSeries, "ITARQSeries"},
+    ClassEntry{"TARQSet", classid::TARQSet, "ITARQSet", &createInstance<CTARQSet>, &ITARQSet::memberTable},
+    ClassEntry{"TARQSeries", classid::TARQSeries, "ITARQSeries", &createInstance<CTARQSeries>,
+               &ITARQSeries::memberTable},
     ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray", &createInstance<CTARQArray>, &ITARQArray::memberTable},
     ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar"},
     ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes"},
     ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet"},
     ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet"},
-    ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum"},
-    ClassEntry{"TARQSetEnum", classid::TARQSetEnum, "ITARQSetEnum"},
+    ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum", &createInstance<CTARQSeriesEnum>,
+               &ITARQSeriesEnum::memberTable},
+    ClassEntry{"TARQSetEnum", classid::TARQSetEnum, "ITARQSetEnum", &createInstance<CTARQSetEnum>,
+               &ITARQSetEnum::memberTable},
     ClassEntry{"TARQArrayEnum", classid::TARQArrayEnum, "ITARQArrayEnum", &createInstance<CTARQArrayEnum>,
                &ITARQArrayEnum::memberTable},
     ClassEntry{"TARQVarSetEnum", classid::TARQVarSetEnum, "ITARQVarSetEnum"},

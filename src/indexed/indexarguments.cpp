@@ -87,6 +87,7 @@ Outcome selectMany(const Variant& argument, const Indexset& base, std::vector<st
 }  // namespace
 
 Outcome readIndexsetList(const ValueList& list, std::vector<Indexset>& indexsets) {
+    if (list.length() == 0) return refused("Empty index set.");
     for (const Variant& entry : list.walk()) {
         Indexset names;
         if (Outcome read = readEntry(entry, names); !read.isOk()) return read;

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "indexed/ctarqseriesenum.h"
-#include "tests/indexed/setfixture.h"
+#include "tests/indexed/datafixture.h"
 
 namespace tarq {
 namespace {

@@ -4,7 +4,7 @@
 #include <random>
 
 #include "frame/module.h"
-#include "tests/indexed/setfixture.h"
+#include "tests/indexed/datafixture.h"
 
 namespace tarq {
 namespace {

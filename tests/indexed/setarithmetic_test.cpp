@@ -1,7 +1,7 @@
 // Arithmetic with the elements of a set.
 #include <limits>
 
-#include "tests/indexed/setfixture.h"
+#include "tests/indexed/datafixture.h"
 
 namespace tarq {
 namespace {
