@@ -1,6 +1,7 @@
 // FreeTokenScanner: cuts the text of a Lindo file into tokens, across its lines.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -17,7 +18,12 @@ public:
     [[nodiscard]] bool nextToken();
     /// The current token; empty at the end of the text.
     [[nodiscard]] std::string_view token() const { return text().substr(tokenStart_, tokenLength_); }
+    [[nodiscard]] std::size_t tokenStart() const { return tokenStart_; }
     [[nodiscard]] bool isRelation() const;
+    /// How far behind the start of the current token the next `character` stands, or the end of the text. Linear.
+    [[nodiscard]] std::size_t distanceTo(char character) const {
+        return std::min(text().find(character, tokenStart_), textLength()) - tokenStart_;
+    }
 
     /// Whether the next token is ")", which is then the current one; otherwise the current one stays. The line of the
     /// cursor may have changed also then.

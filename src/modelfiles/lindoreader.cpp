@@ -8,13 +8,19 @@
 
 #include "frame/numbertext.h"
 #include "model/nonzeroloader.h"
+#include "modelfiles/columnfinder.h"
 #include "modelfiles/columnstatements.h"
+#include "modelfiles/fixednametable.h"
 #include "modelfiles/freetokenscanner.h"
 
 namespace tarq {
 namespace {
 
 constexpr std::size_t longestName = 8;
+/// So many columns tell how many the objective has.
+constexpr std::int32_t sampleLength = 1000;
+/// No file makes the reader take much memory by what it seems to hold.
+constexpr double largestGuess = 1e6;
 
 /// A token in capitals, which may be of any length.
 std::string inCapitals(std::string_view token) {
@@ -23,6 +29,9 @@ std::string inCapitals(std::string_view token) {
     return text;
 }
 
+bool isOperator(char character) {
+    return character == '+' || character == '-' || character == '<' || character == '>' || character == '=';
+}
 bool isSign(std::string_view token) { return token == "+" || token == "-"; }
 
 /// What a reader of sums says where the objective and a restriction differ.
@@ -48,6 +57,8 @@ public:
         Message message = readDirection();
         if (message.empty()) message = readObjective();
         if (message.empty()) message = readRestrictions();
+        // What stands before a failure stays in the model.
+        storeTerms();
         storeRow();
         store_.loadNonzeros(nonzeros_);
         if (message.empty()) message = readStatements();
@@ -58,7 +69,7 @@ public:
 private:
     struct Term {
         double coefficient = 1.0;
-        std::int32_t column = 0;  ///< number from 1
+        FixedName variable;
     };
     struct RowEntry {
         std::int32_t column;
@@ -77,17 +88,20 @@ private:
     }
 
     Message readObjective() {
+        objectiveStart_ = scanner_.tokenStart();
         for (bool isFirst = true; !scanner_.isSubjectToHere(); isFirst = false) {
             Term term;
             if (Message message = readTerm(isFirst, objectiveMessages, term); !message.empty()) return message;
-            store_.column(term.column - 1).cost += term.coefficient;
+            takeTerm(term);
             if (!scanner_.nextToken()) return "Unexpected end of file, missing constraints.";
         }
+        storeTerms();
+        inObjective_ = false;
         (void)scanner_.nextToken();
         return {};
     }
 
-    /// Reads a term up to its variable, which becomes a column if it is new.
+    /// Reads a term up to its variable.
     Message readTerm(bool isFirst, const SumMessages& messages, Term& term) {
         double sign = 1.0;
         if (isSign(scanner_.token())) {
@@ -99,7 +113,7 @@ private:
         if (parseReal(scanner_.token(), term.coefficient) && !scanner_.nextToken()) return "Expecting variable name.";
         term.coefficient *= sign;
         if (Message message = checkName(messages); !message.empty()) return message;
-        term.column = columnOf(scanner_.token());
+        term.variable = variableHere();
         return {};
     }
 
@@ -107,7 +121,7 @@ private:
         const std::string_view name = scanner_.token();
         if (name.size() > longestName) return "Variable names may not be longer than 8 characters.";
         if (name.front() >= '0' && name.front() <= '9') return Message(messages.digitFirst);
-        if (name.find_first_of("+-<>=") != std::string_view::npos) {
+        if (std::ranges::any_of(name, isOperator)) {
             if (messages.isObjective && isSign(name)) return "No constans allowed in objective function.";
             return std::string("Illegal character in variable name '").append(name).append("'.");
         }
@@ -118,17 +132,54 @@ private:
         return "'SUBJECT TO' appears after incomplete objective function.";
     }
 
-    std::int32_t columnOf(std::string_view token) {
+    [[nodiscard]] FixedName variableHere() const {
+        const std::string_view token = scanner_.token();
         std::array<char, longestName> capitals{};
         for (std::size_t i = 0; i < token.size(); ++i) capitals[i] = upperCased(token[i]);
-        const std::string_view name(capitals.data(), token.size());
-        const std::int32_t found = store_.findColumn(name);
-        if (found >= 0) return found + 1;
+        return FixedName(std::string_view(capitals.data(), token.size()));
+    }
+
+    /// Keeps a term until its column is on its way from memory.
+    void takeTerm(const Term& term) {
+        if (termCount_ == terms_.size()) storeTerms();
+        columns_.prefetch(term.variable);
+        terms_[termCount_++] = term;
+    }
+
+    /// Adds the terms kept to the objective or to the restriction. New variables become columns, in their order.
+    void storeTerms() {
+        const std::size_t count = std::exchange(termCount_, 0);
+        std::array<std::int32_t, termsKept> positions;
+        for (std::size_t i = 0; i < count; ++i) positions[i] = findOrAddColumn(terms_[i].variable);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (inObjective_) {
+                store_.column(positions[i]).cost += terms_[i].coefficient;
+            } else {
+                addToRow(positions[i], terms_[i].coefficient);
+            }
+        }
+    }
+
+    std::int32_t findOrAddColumn(FixedName name) {
+        const std::int32_t next = store_.columnCount();
+        const std::int32_t position = columns_.insert(name, next);
+        if (position != next) return position;
         ColumnRecord column;
-        column.name = name;
+        column.name = name.text();
         column.upperBound = store_.infinity();
         (void)store_.addColumnRecord(std::move(column));
-        return store_.columnCount();
+        if (inObjective_ && next == sampleLength) reserveColumns();
+        return position;
+    }
+
+    /// Guesses the columns from the length of the objective, which ends before the first name of a restriction.
+    void reserveColumns() {
+        const auto read = static_cast<double>(scanner_.tokenStart() - objectiveStart_);
+        const auto rest = static_cast<double>(scanner_.distanceTo(')'));
+        const auto count = static_cast<std::int32_t>(std::min(sampleLength * (1.0 + rest / read), largestGuess));
+        store_.reserveColumns(count);
+        columns_.reserve(static_cast<std::size_t>(count));
+        placeInRow_.reserve(static_cast<std::size_t>(count));
     }
 
     Message readRestrictions() {
@@ -139,6 +190,7 @@ private:
                 return {};
             }
             if (Message message = readRestriction(); !message.empty()) return message;
+            storeTerms();
             storeRow();
             (void)scanner_.nextToken();
         }
@@ -159,23 +211,23 @@ private:
         for (bool isFirst = true; isFirst || !scanner_.isRelation(); isFirst = false) {
             Term term;
             if (Message message = readTerm(isFirst, restrictionMessages, term); !message.empty()) return message;
-            addToRow(term);
+            takeTerm(term);
             if (!scanner_.nextToken()) return Message(restrictionMessages.incomplete);
         }
         return readRightHandSide();
     }
 
-    void addToRow(const Term& term) {
-        const auto index = static_cast<std::size_t>(term.column) - 1;
+    void addToRow(std::int32_t position, double coefficient) {
+        const auto index = static_cast<std::size_t>(position);
         if (index >= placeInRow_.size()) placeInRow_.resize(std::max(index + 1, 2 * placeInRow_.size()));
-        std::size_t& place = placeInRow_[index];
+        std::uint32_t& place = placeInRow_[index];
         // Places left by earlier rows don't hold this column.
-        if (place < row_.size() && row_[place].column == term.column) {
-            row_[place].value += term.coefficient;
+        if (place < row_.size() && row_[place].column == position + 1) {
+            row_[place].value += coefficient;
             return;
         }
-        place = row_.size();
-        row_.push_back({term.column, term.coefficient});
+        place = static_cast<std::uint32_t>(row_.size());
+        row_.push_back({position + 1, coefficient});
     }
 
     void storeRow() {
@@ -264,7 +316,8 @@ private:
 
     Message findColumn(std::int32_t& position) {
         const std::string name = inCapitals(scanner_.token());
-        position = store_.findColumn(name);
+        position = finder_.find(
+            name, [&] { return name.size() > longestName ? FixedNameTable::absent : columns_.find(variableHere()); });
         return position >= 0 ? Message() : "Variable name '" + name + "' does not exist.";
     }
 
@@ -272,8 +325,15 @@ private:
     ModelFileTarget& model_;
     ModelStore& store_;
     NonzeroLoader nonzeros_;
-    std::vector<RowEntry> row_;            ///< of the restriction that is read
-    std::vector<std::size_t> placeInRow_;  ///< by column, where it stood in the latest row that had it
+    FixedNameTable columns_;  ///< exactly the columns of the store, which every term asks for
+    bool inObjective_ = true;
+    std::size_t objectiveStart_ = 0;
+    static constexpr std::size_t termsKept = 32;
+    std::array<Term, termsKept> terms_{};
+    std::size_t termCount_ = 0;
+    ColumnFinder finder_{store_};            ///< of the statements
+    std::vector<RowEntry> row_;              ///< of the restriction that is read
+    std::vector<std::uint32_t> placeInRow_;  ///< by column, where it stood in the latest row that had it
 };
 
 }  // namespace

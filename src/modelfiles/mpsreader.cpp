@@ -337,7 +337,7 @@ Failure MpsReader::readBounds() {
 Failure MpsReader::readBound() {
     const FixedName name = fixedName(3);
     if (name.empty()) return "Empty col name in BOUNDS section.";
-    const std::int32_t position = target_.findColumn(name);
+    const std::int32_t position = target_.findNextColumn(name);
     if (position == MpsTarget::absent) return "Col name does not exist.";
     const std::array<char, 2> characters = scanner_.rowTypeCharacters();
     const MpsBoundType* const type = findMpsBoundType({characters.data(), characters.size()});

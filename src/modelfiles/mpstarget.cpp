@@ -59,13 +59,13 @@ void MpsTarget::addRow(FixedName name, MpsRowType type) {
 }
 
 std::int32_t MpsTarget::findOrAddColumn(FixedName name, bool binary) {
-    if (const std::int32_t position = findColumn(name); position != absent) return position;
     ColumnRecord column;
     column.name = name.text();
     column.upperBound = binary ? 1.0 : store_.infinity();
     column.type = binary ? TARQColType::Binary : TARQColType::Continuous;
-    (void)store_.addColumnRecord(std::move(column));
-    return store_.columnCount() - 1;
+    // Most columns are new: the store finds out whether this one is while it adds it.
+    if (store_.addColumnRecord(std::move(column)).isOk()) return store_.columnCount() - 1;
+    return store_.findColumn(name.text());
 }
 
 void MpsTarget::applyRightHandSide(std::int32_t rowPosition, double value) {

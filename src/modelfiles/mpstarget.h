@@ -9,6 +9,7 @@
 
 #include "model/modelstore.h"
 #include "model/nonzeroloader.h"
+#include "modelfiles/columnfinder.h"
 #include "modelfiles/fixedname.h"
 #include "modelfiles/fixednametable.h"
 
@@ -53,7 +54,10 @@ public:
     /// The positions of names, or `absent`.
     [[nodiscard]] std::int32_t findRow(FixedName name) const { return rows_.find(name); }
     void prefetchRow(FixedName name) const { rows_.prefetch(name); }
-    [[nodiscard]] std::int32_t findColumn(FixedName name) const { return store_.findColumn(name.text()); }
+    /// For a section that mostly names the columns in their order.
+    [[nodiscard]] std::int32_t findNextColumn(FixedName name) {
+        return finder_.find(name.text(), [&] { return store_.findColumn(name.text()); });
+    }
     /// The position of a column, which is added when it is new: binary or continuous.
     [[nodiscard]] std::int32_t findOrAddColumn(FixedName name, bool binary);
 
@@ -74,6 +78,7 @@ private:
 
     ModelStore& store_;
     FixedNameTable rows_;
+    ColumnFinder finder_{store_};
     NonzeroLoader nonzeros_;
 };
 
