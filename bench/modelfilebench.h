@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "largemodel.h"
@@ -77,8 +78,10 @@ void measureWriting(benchmark::State& state, FileCall<Model> write) {
     }
 }
 
-inline void inOneRun(benchmark::internal::Benchmark* bench) {
-    constexpr int repetitions = 5;
+inline constexpr int usualRepetitions = 5;
+
+inline void inOneRun(const std::string& name, int repetitions, std::function<void(benchmark::State&)> run) {
+    auto* const bench = benchmark::RegisterBenchmark(name.c_str(), std::move(run));
     bench->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->Iterations(1)->Repetitions(repetitions);
     bench->ComputeStatistics("min",
                              [](const std::vector<double>& values) { return *std::ranges::min_element(values); });
@@ -87,17 +90,17 @@ inline void inOneRun(benchmark::internal::Benchmark* bench) {
 
 /// Adds the benchmark of reading what `file` makes. The result is only there to initialise something.
 template <class Model>
-bool addReading(const std::string& name, FileCall<Model> read, const std::function<std::string()>& file) {
-    inOneRun(benchmark::RegisterBenchmark(("modelRead/" + name).c_str(), [read, file](benchmark::State& state) {
-        measureReading<Model>(state, read, file());
-    }));
+bool addReading(const std::string& name, FileCall<Model> read, const std::function<std::string()>& file,
+                int repetitions = usualRepetitions) {
+    inOneRun("modelRead/" + name, repetitions,
+             [read, file](benchmark::State& state) { measureReading<Model>(state, read, file()); });
     return true;
 }
 
 template <class Model>
 bool addWriting(const std::string& name, FileCall<Model> write) {
-    inOneRun(benchmark::RegisterBenchmark(("modelWrite/" + name).c_str(),
-                                          [write](benchmark::State& state) { measureWriting<Model>(state, write); }));
+    inOneRun("modelWrite/" + name, usualRepetitions,
+             [write](benchmark::State& state) { measureWriting<Model>(state, write); });
     return true;
 }
 

@@ -1,9 +1,7 @@
-// Model files with CoinUtils.
-#include <CoinLpIO.hpp>
+// Model files with CoinUtils, whose LP reader had not ended after minutes on a model of this size.
 #include <CoinMpsIO.hpp>
 
 #include "modelfilebench.h"
-#include "peerfiles.h"
 
 namespace {
 
@@ -19,23 +17,8 @@ private:
     CoinMpsIO model_;
 };
 
-class CoinLpFiles {
-public:
-    CoinLpFiles() { model_.messageHandler()->setLogLevel(0); }
-
-    bool readLp(const std::string& path) {
-        model_.readLp(path.c_str());
-        return true;
-    }
-    [[nodiscard]] std::int64_t nonzeros() const { return model_.getNumElements(); }
-
-private:
-    CoinLpIO model_;
-};
-
 [[maybe_unused]] const bool added[]{
     filebench::addReading<CoinMpsFiles>("coinutils/mps", &CoinMpsFiles::readMps, filebench::largeMpsFile),
-    filebench::addReading<CoinLpFiles>("coinutils/lp", &CoinLpFiles::readLp, filebench::largeLpFile),
     filebench::addWriting<CoinMpsFiles>("coinutils/mps", &CoinMpsFiles::writeMps)};
 
 }  // namespace
