@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/largepages.h"
+
 namespace tarq {
 
 class NameIndex {
@@ -75,7 +77,7 @@ private:
             return (*this)(entry, wanted);
         }
     };
-    using Entries = tsl::robin_set<Entry, Hash, Equal>;
+    using Entries = tsl::robin_set<Entry, Hash, Equal, LargePageAllocator<Entry>>;
 
     [[nodiscard]] std::uint32_t hashOf(std::string_view name) const;
 
