@@ -34,13 +34,14 @@ Outcome failureOf(Status status);
 
 template <class Take>
 Outcome walkValues(const ValueSource& source, const Take& take) {
-    double last = std::numeric_limits<double>::quiet_NaN();
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    double last = none;
     for (;;) {
         Variant value;
         const Status fetched = source.enumerator->Next(1, &value, nullptr);
         if (fetched.failed()) return failureOf(fetched);
         if (!fetched.isOk()) return {};
-        const double number = value.is(Kind::Double) ? value.real() : last;
+        const double number = value.is(Kind::Double) ? value.real() : none;
         if (Outcome taken = take(std::move(value)); !taken.isOk()) return taken;
         if (source.isSeries && number == last) return {status::invalidArgument, "Step of series is too small."};
         last = number;
