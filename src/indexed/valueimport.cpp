@@ -81,6 +81,8 @@ Outcome expandArray(const Variant& value, std::span<const std::size_t> shape, st
         return appendAllElements(reader, array.elementCount(), target, values);
     }
     if (Outcome checked = checkBlock(array, shape); !checked.isOk()) return checked;
+    const bool isWhole = array.elementCount() == combinationCount(shape);
+    if (isWhole) return appendAllElements(reader, array.elementCount(), target, values);
     return appendBlock(array, reader, shape, target, values);
 }
 
