@@ -1,6 +1,7 @@
 // Term lists: a weighted sum of columns, written as one list of coefficients and columns.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -24,5 +25,30 @@ struct TermList {
 /// or an object that has columns or values. A coefficient that isn't there is 1. Failures have the status
 /// invalidArgument.
 Outcome parseCoeffsAndCols(const ValueList& list, TermList& terms);
+
+/// Hands each column of the list with its coefficient to `take(name, coefficient)`, which returns an Outcome, until
+/// that fails. Its own failures have the status invalidArgument: a list that ends with coefficients, found before
+/// anything is handed out, and a term with another number of coefficients than columns, found when its turn comes.
+template <class Take>
+Outcome walkTerms(const TermList& terms, const Take& take);
+
+/// The tests of walkTerms, of the list and of a term.
+Outcome checkTermCount(const TermList& terms);
+Outcome checkTerm(const CoefficientGroup& coefficients, const ColumnGroup& columns);
+
+template <class Take>
+Outcome walkTerms(const TermList& terms, const Take& take) {
+    if (Outcome checked = checkTermCount(terms); !checked.isOk()) return checked;
+    for (std::size_t term = 0; term < terms.columns.size(); ++term) {
+        const CoefficientGroup& coefficients = terms.coefficients[term];
+        const ColumnGroup& columns = terms.columns[term];
+        if (Outcome checked = checkTerm(coefficients, columns); !checked.isOk()) return checked;
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            const double coefficient = coefficients[coefficients.size() == 1 ? 0 : i];
+            if (Outcome taken = take(columns[i], coefficient); !taken.isOk()) return taken;
+        }
+    }
+    return {};
+}
 
 }  // namespace tarq

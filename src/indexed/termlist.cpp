@@ -1,0 +1,114 @@
+#include "indexed/termlist.h"
+
+#include <array>
+#include <span>
+#include <utility>
+
+#include "frame/convertelement.h"
+#include "frame/object.h"
+#include "indexed/objectvalues.h"
+#include "indexed/plainvalue.h"
+#include "indexed/valueimport.h"
+
+namespace tarq {
+namespace {
+
+/// Sets `coefficients`, and false where the element is none: it is then read as columns.
+bool readCoefficients(const Variant& element, CoefficientGroup& coefficients) {
+    const PlainValue value(element);
+    std::vector<Variant> values;
+    if (value->isArray()) {
+        if (!appendArrayValues(value->array(), Kind::Double, values).isOk()) return false;
+    } else if (value->isObject()) {
+        const Ref<IUnknown> object(value->object());
+        if (!collectObjectValues(object.get(), Kind::Double, values).isOk()) return false;
+    } else {
+        Variant number = *value;
+        if (!number.toReal()) return false;
+        values.push_back(std::move(number));
+    }
+    coefficients.clear();
+    coefficients.reserve(values.size());
+    for (const Variant& number : values) coefficients.push_back(number.real());
+    return true;
+}
+
+void appendNames(std::vector<Variant>& texts, ColumnGroup& columns) {
+    columns.reserve(columns.size() + texts.size());
+    for (Variant& text : texts) columns.push_back(text.takeText());
+}
+
+/// Appends the columns of an object where it is of the kind that the reader knows, which `known` tells.
+using ColumnObjectReader = Outcome (*)(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known);
+
+/// The values of a set, series or array, or of what walks one, are names.
+Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
+    ValueSource source;
+    const Outcome opened = openValueSource(object.get(), source);
+    known = source.offered;
+    if (!opened.isOk() || !known) return opened;
+    std::vector<Variant> texts;
+    std::string message;
+    Outcome walked = walkValues(source, [&](Variant value) -> Outcome {
+        if (convertElement(std::move(value), Kind::Text, texts, message)) return {};
+        return {status::invalidArgument, message};
+    });
+    if (walked.isOk()) appendNames(texts, columns);
+    return walked;
+}
+
+/// Every kind of object that stands for columns, in the order in which they are asked.
+constexpr std::array<ColumnObjectReader, 1> columnObjectReaders{&readValuesAsNames};
+
+Outcome readColumnObject(const Ref<IUnknown>& object, ColumnGroup& columns) {
+    for (const ColumnObjectReader read : columnObjectReaders) {
+        bool known = false;
+        if (Outcome outcome = read(object, columns, known); known || !outcome.isOk()) return outcome;
+    }
+    return {status::invalidArgument, "Passed object cannot be used as an index set."};
+}
+
+Outcome readColumns(const Variant& element, ColumnGroup& columns) {
+    const PlainValue value(element);
+    if (value->isObject()) return readColumnObject(Ref<IUnknown>(value->object()), columns);
+    std::vector<Variant> texts;
+    if (value->isArray()) {
+        if (Outcome read = appendArrayValues(value->array(), Kind::Text, texts); !read.isOk()) return read;
+    } else {
+        Variant name = *value;
+        if (!name.toText()) return {status::invalidArgument, "Value cannot be used as a column name."};
+        texts.push_back(std::move(name));
+    }
+    appendNames(texts, columns);
+    return {};
+}
+
+}  // namespace
+
+Outcome parseCoeffsAndCols(const ValueList& list, TermList& terms) {
+    TermList read;
+    const ValueList::Walk walk = list.walk();
+    const std::span<const Variant> elements = walk.values();
+    for (std::size_t position = 0; position < elements.size();) {
+        CoefficientGroup& coefficients = read.coefficients.emplace_back(CoefficientGroup{1.0});
+        // The only element of a list is a column, even where it reads as a number.
+        if (elements.size() > 1 && readCoefficients(elements[position], coefficients)) ++position;
+        if (position == elements.size()) break;
+        ColumnGroup& columns = read.columns.emplace_back();
+        if (Outcome outcome = readColumns(elements[position++], columns); !outcome.isOk()) return outcome;
+    }
+    terms = std::move(read);
+    return {};
+}
+
+Outcome checkTermCount(const TermList& terms) {
+    if (terms.coefficients.size() == terms.columns.size()) return {};
+    return {status::invalidArgument, "Last argument are coefficients without corresponding column(s)."};
+}
+
+Outcome checkTerm(const CoefficientGroup& coefficients, const ColumnGroup& columns) {
+    if (coefficients.size() == 1 || coefficients.size() == columns.size()) return {};
+    return {status::invalidArgument, "Number of coefficients does not fit number of columns."};
+}
+
+}  // namespace tarq
