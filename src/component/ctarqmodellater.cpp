@@ -9,7 +9,6 @@ Status CTARQModel::AddRes(IUnknown* /*TARQRes*/) { return status::notImplemented
 Status CTARQModel::AttachVar(IUnknown* /*TARQVar*/, const Variant& /*Index*/) { return status::notImplemented; }
 Status CTARQModel::AttachRes(IUnknown* /*TARQRes*/, const Variant& /*Index*/) { return status::notImplemented; }
 Status CTARQModel::ExecuteAMPLModel(const std::string& /*MODFileName*/) { return status::notImplemented; }
-Status CTARQModel::AddObjSum(const ValueList& /*CoeffsAndCols*/) { return status::notImplemented; }
 Status CTARQModel::ReadAMPLModel(const std::string& /*MODFileName*/, const ValueList& /*DATFileNames*/) {
     return status::notImplemented;
 }
@@ -17,20 +16,10 @@ Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const V
     return status::notImplemented;
 }
 Status CTARQModel::ReadMPLModel(const std::string& /*FileName*/) { return status::notImplemented; }
-Status CTARQModel::SetNZStair(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/,
-                              const Variant& /*Nonzeros*/) {
-    return status::notImplemented;
-}
 Status CTARQModel::ShowPropertyPage(std::int32_t* /*pbDirty*/) { return status::notImplemented; }
 Status CTARQModel::get_Var(const Variant& /*Index*/, Ref<IUnknown>* /*value*/) { return status::notImplemented; }
 Status CTARQModel::put_Var(const Variant& /*Index*/, IUnknown* /*value*/) { return status::notImplemented; }
 Status CTARQModel::get_IsMPLAvailable(std::int32_t* /*value*/) { return status::notImplemented; }
-Status CTARQModel::get_NZs(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/, Variant* /*value*/) {
-    return status::notImplemented;
-}
-Status CTARQModel::put_NZs(const Variant& /*RowIndices*/, const Variant& /*ColIndices*/, const Variant& /*value*/) {
-    return status::notImplemented;
-}
 Status CTARQModel::get_Res(const Variant& /*Index*/, Ref<IUnknown>* /*value*/) { return status::notImplemented; }
 Status CTARQModel::put_Res(const Variant& /*Index*/, IUnknown* /*value*/) { return status::notImplemented; }
 Status CTARQModel::ReadAMPLStub(const std::string& /*StubFileName*/) { return status::notImplemented; }

@@ -95,7 +95,9 @@ public:
     /// Runs the engine on a thread of its own.
     virtual Status OptimizeAsync() = 0;
 
-    /// Adds terms to the objective.
+    /// Sets the cost of each column that the list names to its coefficient: coefficients and columns in turn, a number
+    /// or several and then a name, several, or an object that has some. The coefficient 1 may be left out. The other
+    /// columns keep their costs. A failure keeps the costs set before it.
     virtual Status AddObjSum(const ValueList& CoeffsAndCols) = 0;
 
     /// Reads an AMPL model through the external translator.
@@ -117,7 +119,8 @@ public:
     /// Sets every parameter to its default and every result to 0.
     virtual Status ResetParameters() = 0;
 
-    /// Sets a stair of coefficients.
+    /// Replaces the coefficients of the first row and column, the second row and column, and so on to the end of the
+    /// shorter list, from one value for all or a list of values.
     virtual Status SetNZStair(const Variant& RowIndices, const Variant& ColIndices, const Variant& Nonzeros) = 0;
 
     /// For the parameter page: whether parameters changed.
@@ -309,10 +312,12 @@ public:
     /// Replaces a coefficient; 0 removes it.
     virtual Status put_NZ(const Variant& Row, const Variant& Col, double value) = 0;
 
-    /// A block of coefficients.
+    /// A block of coefficients. Each index argument is a name or number, an array of one dimension, or an object that
+    /// has values. One place gives a Double, more an array with a row for each row and lower bounds 1.
     virtual Status get_NZs(const Variant& RowIndices, const Variant& ColIndices, Variant* value) = 0;
 
-    /// Replaces a block of coefficients.
+    /// Replaces a block of coefficients from one value for all, a list of values row by row, or an array of as many
+    /// rows and columns or more. A failure changes nothing.
     virtual Status put_NZs(const Variant& RowIndices, const Variant& ColIndices, const Variant& value) = 0;
 
     /// The object itself.

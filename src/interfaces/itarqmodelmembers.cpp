@@ -62,7 +62,9 @@ std::vector<MemberInfo> members() {
                               "Runs the engine on the calling thread. 0x00042001: a resource limit ended it, "
                               "0x00042002: it stopped at a break; the result so far is in the model then.")),
         flagged(blocking, method<&ITARQModel::OptimizeAsync>("OptimizeAsync", "Start LP and IP run as a thread.")),
-        method<&ITARQModel::AddObjSum>("AddObjSum", "Adds terms to the objective.", "CoeffsAndCols"),
+        method<&ITARQModel::AddObjSum>("AddObjSum",
+                                       "Sets the costs of the columns that a list of coefficients and columns names.",
+                                       "CoeffsAndCols"),
         flagged(blocking, method<&ITARQModel::ReadAMPLModel>("ReadAMPLModel",
                                                              "Reads an AMPL model through the external translator.",
                                                              "MODFileName", "DATFileNames")),
@@ -79,8 +81,9 @@ std::vector<MemberInfo> members() {
                                                            "ProfileName")),
         method<&ITARQModel::ResetParameters>("ResetParameters",
                                              "Sets every parameter to its default and every result to 0."),
-        method<&ITARQModel::SetNZStair>("SetNZStair", "Sets a stair of coefficients.", "RowIndices", "ColIndices",
-                                        "Nonzeros"),
+        method<&ITARQModel::SetNZStair>(
+            "SetNZStair", "Sets the coefficient of the first row and column, the second row and column, and so on.",
+            "RowIndices", "ColIndices", "Nonzeros"),
         flagged(hidden,
                 method<&ITARQModel::SetRequiresSaveProperties>(
                     "SetRequiresSaveProperties", "For the parameter page: whether parameters changed.", "bSave")),

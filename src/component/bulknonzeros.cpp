@@ -1,0 +1,106 @@
+#include "component/bulknonzeros.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "component/indexlists.h"
+#include "frame/safearray.h"
+#include "indexed/indexset.h"
+#include "indexed/plainvalue.h"
+#include "indexed/valueimport.h"
+
+namespace tarq {
+namespace {
+
+struct Places {
+    PositionList rows;
+    PositionList columns;
+};
+
+Outcome resolvePlaces(const ModelStore& store, const Variant& rows, const Variant& columns, Places& places) {
+    if (Outcome outcome = resolveIndexList(store, columns, IndexedSide::Columns, places.columns); !outcome.isOk()) {
+        return outcome;
+    }
+    return resolveIndexList(store, rows, IndexedSide::Rows, places.rows);
+}
+
+/// Values for so many places, of which a client may have given a single one for all.
+class PlaceValues {
+public:
+    /// Reads values for a selection of these sizes.
+    Outcome read(const Variant& source, std::span<const std::size_t> shape) {
+        constexpr std::size_t most = std::numeric_limits<std::ptrdiff_t>::max() / sizeof(Variant);
+        const PlainValue value(source);
+        const std::size_t count = combinationCount(shape);
+        if (count > most) return status::outOfMemory;
+        // A single value is converted and kept once, however large the selection is.
+        const bool single = !value->isArray() && !value->isObject();
+        step_ = single ? 0 : 1;
+        constexpr std::array<std::size_t, 1> one{1};
+        return expandValues(source, single ? one : shape, single ? 1 : count, Kind::Double, values_);
+    }
+    [[nodiscard]] double operator[](std::size_t position) const { return values_[step_ * position].real(); }
+
+private:
+    std::vector<Variant> values_;
+    std::size_t step_ = 1;
+};
+
+}  // namespace
+
+Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns, Variant& values) {
+    Places places;
+    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    if (places.rows.size() == 1 && places.columns.size() == 1) {
+        double value = 0.0;
+        static_cast<void>(store.findNonzero(places.columns.front() + 1, places.rows.front() + 1, value));
+        values = Variant(value);
+        return {};
+    }
+    const std::array dimensions{Dimension{1, static_cast<std::uint32_t>(places.rows.size())},
+                                Dimension{1, static_cast<std::uint32_t>(places.columns.size())}};
+    SafeArray array;
+    if (const Status made = SafeArray::create(Kind::Double, dimensions, array); !made.isOk()) return made;
+    std::size_t cell = 0;
+    const std::span<double> cells = array.elements<double>();
+    for (const std::int32_t row : places.rows) {
+        for (const std::int32_t column : places.columns) {
+            static_cast<void>(store.findNonzero(column + 1, row + 1, cells[cell++]));
+        }
+    }
+    values = Variant(std::move(array));
+    return {};
+}
+
+Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
+    Places places;
+    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    const std::array<std::size_t, 2> shape{places.rows.size(), places.columns.size()};
+    PlaceValues read;
+    if (Outcome outcome = read.read(values, shape); !outcome.isOk()) return outcome;
+    std::size_t cell = 0;
+    for (const std::int32_t row : places.rows) {
+        for (const std::int32_t column : places.columns) store.setNonzero(column + 1, row + 1, read[cell++]);
+    }
+    return {};
+}
+
+Outcome setNonzeroStair(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
+    Places places;
+    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    const std::array<std::size_t, 1> shape{std::min(places.rows.size(), places.columns.size())};
+    PlaceValues read;
+    if (Outcome outcome = read.read(values, shape); !outcome.isOk()) return outcome;
+    for (std::size_t step = 0; step < shape.front(); ++step) {
+        store.setNonzero(places.columns[step] + 1, places.rows[step] + 1, read[step]);
+    }
+    return {};
+}
+
+}  // namespace tarq

@@ -1,0 +1,139 @@
+#include "component/indexlists.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "frame/convertelement.h"
+#include "frame/object.h"
+#include "frame/safearray.h"
+#include "indexed/objectvalues.h"
+#include "indexed/plainvalue.h"
+#include "indexed/valueimport.h"
+#include "interfaces/itarqseries.h"
+#include "interfaces/itarqseriesenum.h"
+#include "interfaces/itarqset.h"
+#include "interfaces/itarqsetenum.h"
+#include "model/addressing.h"
+
+namespace tarq {
+namespace {
+
+using Resolve = Outcome (*)(const ModelStore& store, const Variant& address, std::int32_t& position);
+
+/// The store and how one of its sides is addressed.
+struct AddressedStore {
+    const ModelStore& store;
+    Resolve resolve;
+
+    Outcome append(std::int32_t number, PositionList& positions) const { return append(Variant(number), positions); }
+    Outcome append(const std::string& name, PositionList& positions) const { return append(Variant(name), positions); }
+    Outcome append(const Variant& address, PositionList& positions) const {
+        std::int32_t position = 0;
+        if (Outcome resolved = resolve(store, address, position); !resolved.isOk()) return resolved;
+        positions.push_back(position);
+        return {};
+    }
+};
+
+/// Appends the positions of an object where it is of the kind that the reader knows, which `known` tells.
+using ObjectReader = Outcome (*)(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions,
+                                 bool& known);
+
+template <class... Interfaces>
+bool offersAny(const Ref<IUnknown>& object) {
+    return (static_cast<bool>(object.query<Interfaces>()) || ...);
+}
+
+/// Each value of a set or series, or of what walks one, is a name or a number. Arrays have values too, but are no list
+/// of indices. The values are resolved as they come, since a series may have far more of them than the model has
+/// columns.
+Outcome readListedValues(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions,
+                         bool& known) {
+    known = offersAny<ITARQSeries, ITARQSeriesEnum, ITARQSet, ITARQSetEnum>(object);
+    if (!known) return {};
+    ValueSource source;
+    if (Outcome opened = openValueSource(object.get(), source); !opened.isOk()) return opened;
+    std::vector<Variant> address;
+    std::string message;
+    return walkValues(source, [&](Variant value) -> Outcome {
+        address.clear();
+        if (!convertElement(std::move(value), Kind::Empty, address, message)) {
+            return {status::invalidArgument, message};
+        }
+        return addressed.append(address.front(), positions);
+    });
+}
+
+/// What the two sides differ in. Readers are asked in their order.
+struct SideRules {
+    Resolve resolve;
+    std::span<const ObjectReader> readers;
+    std::string_view badObject;
+};
+
+constexpr std::array<ObjectReader, 1> columnReaders{&readListedValues};
+constexpr std::array<ObjectReader, 1> rowReaders{&readListedValues};
+
+constexpr SideRules columnRules{&resolveColumn, columnReaders, "Bad type of object for col indices."};
+constexpr SideRules rowRules{&resolveRow, rowReaders, "Bad type of object for row indices."};
+
+Outcome readObject(const SideRules& rules, const AddressedStore& addressed, const Ref<IUnknown>& object,
+                   PositionList& positions) {
+    for (const ObjectReader read : rules.readers) {
+        bool known = false;
+        if (Outcome outcome = read(addressed, object, positions, known); known || !outcome.isOk()) return outcome;
+    }
+    return {status::invalidArgument, std::string(rules.badObject)};
+}
+
+template <class Element>
+Outcome appendEach(const AddressedStore& addressed, std::span<const Element> addresses, PositionList& positions) {
+    positions.reserve(addresses.size());
+    for (const Element& address : addresses) {
+        if (Outcome appended = addressed.append(address, positions); !appended.isOk()) return appended;
+    }
+    return {};
+}
+
+Outcome readArray(const AddressedStore& addressed, const SafeArray& array, PositionList& positions) {
+    // The usual lists are resolved where they are, as reading them would give the same values again.
+    const bool isList = array.dimensions().size() == 1;
+    if (isList && array.elementKind() == Kind::Long) {
+        return appendEach(addressed, array.elements<std::int32_t>(), positions);
+    }
+    if (isList && array.elementKind() == Kind::Text) {
+        return appendEach(addressed, array.elements<std::string>(), positions);
+    }
+    const auto isAddress = [](const Variant& value) { return value.isText() || value.is(Kind::Long); };
+    if (isList && array.elementKind() == Kind::Variant && std::ranges::all_of(array.elements<Variant>(), isAddress)) {
+        return appendEach(addressed, array.elements<Variant>(), positions);
+    }
+    std::vector<Variant> addresses;
+    if (Outcome read = appendArrayValues(array, Kind::Empty, addresses); !read.isOk()) return read;
+    return appendEach(addressed, std::span<const Variant>(addresses), positions);
+}
+
+}  // namespace
+
+Outcome resolveIndexList(const ModelStore& store, const Variant& indices, IndexedSide side, PositionList& positions) {
+    const SideRules& rules = side == IndexedSide::Columns ? columnRules : rowRules;
+    const AddressedStore addressed{store, rules.resolve};
+    const PlainValue value(indices);
+    PositionList found;
+    Outcome outcome;
+    if (value->isArray()) {
+        outcome = readArray(addressed, value->array(), found);
+    } else if (value->isObject()) {
+        outcome = readObject(rules, addressed, Ref<IUnknown>(value->object()), found);
+    } else {
+        outcome = addressed.append(*value, found);
+    }
+    if (outcome.isOk()) positions = std::move(found);
+    return outcome;
+}
+
+}  // namespace tarq

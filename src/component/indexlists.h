@@ -1,0 +1,24 @@
+// Index lists: what a client passes where many columns or rows are meant, as positions in the store.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "frame/status.h"
+#include "frame/variant.h"
+#include "model/modelstore.h"
+
+namespace tarq {
+
+/// 0-based positions in the order of the client's list, which may name one twice.
+using PositionList = std::vector<std::int32_t>;
+
+enum class IndexedSide { Columns, Rows };
+
+/// Sets `positions` from an array of one dimension or an object, whose values each are a name or a number, or from one
+/// name or number. Fails as resolveColumn and resolveRow do, and with 0x80041031 where the list can't be read;
+/// `positions` is left alone then.
+[[nodiscard]] Outcome resolveIndexList(const ModelStore& store, const Variant& indices, IndexedSide side,
+                                       PositionList& positions);
+
+}  // namespace tarq
