@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 #include "frame/countedobject.h"
 #include "frame/ienumvariant.h"

@@ -72,7 +72,6 @@ std::int32_t ElementLookup::find(const Variant& element) const {
             return values_[static_cast<std::size_t>(position)].text();
         });
     }
-    if (isNotANumber(element)) return absent;
     return numbers_.find(NumberKey(element), [this](std::int32_t position) {
         return NumberKey(values_[static_cast<std::size_t>(position)]);
     });

@@ -1,6 +1,7 @@
 // Series and their enumerators.
 #include "indexed/ctarqseries.h"
 
+#include <cmath>
 #include <limits>
 
 #include "indexed/ctarqseriesenum.h"
@@ -94,11 +95,12 @@ TEST(SeriesTest, CountFits32BitsWhateverTheNumbers) {
         std::int32_t count;
     };
     const Case cases[] = {
-        {0, 2147483645, none, 2147483646},    {0, 2147483646, none, mostMembers},
-        {0, 2147483647, none, mostMembers},   {-1e308, 1e308, none, mostMembers},
-        {0, 1, Variant(1e-300), mostMembers}, {0, infinity, none, mostMembers},
-        {0, 1, Variant(infinity), 1},         {infinity, infinity, none, mostMembers},
-        {0, notANumber, none, mostMembers},   {0, 1, Variant(notANumber), mostMembers},
+        {0, std::nextafter(1.0, 0.0), none, 1},   {0, 2147483645, none, 2147483646},
+        {0, 2147483646, none, mostMembers},       {0, 2147483647, none, mostMembers},
+        {-1e308, 1e308, none, mostMembers},       {0, 1, Variant(1e-300), mostMembers},
+        {0, infinity, none, mostMembers},         {0, 1, Variant(infinity), 1},
+        {infinity, infinity, none, mostMembers},  {0, notANumber, none, mostMembers},
+        {0, 1, Variant(notANumber), mostMembers},
     };
     for (const Case& c : cases) {
         const Ref<ITARQSeries> series = make<CTARQSeries, ITARQSeries>();

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "frame/module.h"
+#include "indexed/elementlookup.h"
 #include "tests/indexed/datafixture.h"
 
 namespace tarq {
@@ -371,6 +372,19 @@ TEST(SetContainsTest, LongAndShortListsAgreeWithComparingEachWithEach) {
         ASSERT_THAT(set->Del(ValueList(values)), succeeds());
         EXPECT_EQ(shown(set), shown(left));
     }
+}
+
+TEST(ElementLookupTest, BothZerosAreOneElementAndNotANumberIsNone) {
+    const ElementLookup zeros({Variant(1), Variant(0.0), Variant(-0.0), Variant(0), Variant::null(), Variant::null()});
+    EXPECT_EQ(zeros.find(Variant(-0.0)), 1);
+    EXPECT_EQ(zeros.find(Variant(0)), 3);
+    EXPECT_EQ(zeros.find(Variant::null()), 4);
+    EXPECT_EQ(zeros.distinctCount(), 4U);
+
+    constexpr std::size_t many = 200000;
+    const ElementLookup noNumbers(std::vector<Variant>(many, Variant(notANumber)));
+    EXPECT_EQ(noNumbers.distinctCount(), many);
+    EXPECT_FALSE(noNumbers.contains(Variant(notANumber)));
 }
 
 TEST(SetTest, SetReplacesTheElementsAndHandsBackItself) {

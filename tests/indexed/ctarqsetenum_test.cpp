@@ -226,11 +226,6 @@ TEST(SetEnumTest, BeforeInitItIsRefusedByNameOrAnswersNo) {
     EXPECT_EQ(walk.walked->Clone(nullptr), status::notImplemented);
 }
 
-TEST(SetEnumTest, EnumeratorKeepsItsSetAlive) {
-    const SetEnum walk = enumOf(newSet(listOf(1, 2)));
-    EXPECT_EQ(shown(walk.walked), "1 2");
-}
-
 TEST(PositionWalkTest, SkipComparesTheDistanceAndNotThePlaceWithTheEnd) {
     PositionWalk walk{.start = 3, .end = 4, .step = 2, .current = 3};
     EXPECT_FALSE(walk.skip(3));
