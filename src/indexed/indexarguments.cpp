@@ -5,6 +5,7 @@
 #include "frame/safearray.h"
 #include "indexed/elementreader.h"
 #include "indexed/objectvalues.h"
+#include "indexed/plainvalue.h"
 
 namespace tarq {
 namespace {
@@ -33,30 +34,30 @@ Outcome readObject(IUnknown* object, Indexset& names) {
 
 /// One entry of a list of dimensions.
 Outcome readEntry(const Variant& entry, Indexset& names) {
-    if (entry.isArray()) {
-        return entry.isByReference() ? readArray(entry.array(), names) : refused("Unsupported argument type.");
+    const PlainValue plain(entry);
+    if (plain->isArray()) {
+        return plain->isByReference() ? readArray(plain->array(), names) : refused("Unsupported argument type.");
     }
-    Variant value = entry.copyDereferenced();
-    if (value.isObject()) return readObject(value.object(), names);
-    if (value.isArray() || !value.toInteger()) return refused("Unsupported argument type.");
-    if (value.integer() < 1) {
+    if (plain->isObject()) return readObject(plain->object(), names);
+    Variant count = *plain;
+    if (!count.toInteger()) return refused("Unsupported argument type.");
+    if (count.integer() < 1) {
         return refused("Single value as upper limit of index series may not be smaller than 1.");
     }
-    names = Indexset::numbered(value.integer());
+    names = Indexset::numbered(count.integer());
     return {};
 }
 
 /// The elements that one index argument names, which need not be there.
 Outcome readArgument(const Variant& argument, Indexset& names) {
-    if (argument.isArray()) {
+    const PlainValue plain(argument);
+    if (plain->isArray()) {
         // The reverse of a new dimension, which is read by reference only.
-        return argument.isByReference() ? refused("Array contains elements of wrong type.")
-                                        : readArray(argument.array(), names);
+        return plain->isByReference() ? refused("Array contains elements of wrong type.")
+                                      : readArray(plain->array(), names);
     }
-    const Variant value = argument.copyDereferenced();
-    if (value.isArray()) return readArray(value.array(), names);
-    if (value.isObject()) return readObject(value.object(), names);
-    return addIndexElement(value, names);
+    if (plain->isObject()) return readObject(plain->object(), names);
+    return addIndexElement(*plain, names);
 }
 
 Outcome notThere(const std::string& element) {

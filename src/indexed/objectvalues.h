@@ -1,6 +1,7 @@
 // Walking the values of the objects that have some: sets, series, arrays, and their enumerators.
 #pragma once
 
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -36,16 +37,21 @@ template <class Take>
 Outcome walkValues(const ValueSource& source, const Take& take) {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     double last = none;
-    for (;;) {
+    for (std::int32_t left = std::numeric_limits<std::int32_t>::max(); left > 0; --left) {
         Variant value;
         const Status fetched = source.enumerator->Next(1, &value, nullptr);
         if (fetched.failed()) return failureOf(fetched);
         if (!fetched.isOk()) return {};
-        const double number = value.is(Kind::Double) ? value.real() : none;
+        const bool isMember = source.isSeries && value.is(Kind::Double);
+        const double number = isMember ? value.real() : none;
         if (Outcome taken = take(std::move(value)); !taken.isOk()) return taken;
-        if (source.isSeries && number == last) return {status::invalidArgument, "Step of series is too small."};
+        // What is no number stays so with every step.
+        if (isMember && (number == last || number != number)) {
+            return {status::invalidArgument, "Step of series is too small."};
+        }
         last = number;
     }
+    return status::outOfMemory;
 }
 
 }  // namespace tarq

@@ -11,6 +11,7 @@
 #include "indexed/elementreader.h"
 #include "indexed/indexset.h"
 #include "indexed/objectvalues.h"
+#include "indexed/plainvalue.h"
 #include "indexed/spreadsheetrange.h"
 #include "interfaces/itarqarray.h"
 #include "interfaces/itarqseries.h"
@@ -25,6 +26,12 @@ Outcome appendConverted(Variant value, Kind target, std::vector<Variant>& values
     return convertElement(std::move(value), target, values, message) ? Outcome() : refused(std::move(message));
 }
 
+/// Room for `count` more values, so that many short arrays don't move the list each time.
+void reserveMore(std::vector<Variant>& values, std::size_t count) {
+    const std::size_t needed = values.size() + count;
+    if (needed > values.capacity()) values.reserve(std::max(needed, 2 * values.capacity()));
+}
+
 /// One element of an array; numbers that are wanted as doubles need no conversion.
 Outcome appendElement(const ElementReader& reader, std::size_t position, Kind target, std::vector<Variant>& values) {
     if (target == Kind::Double && reader.isNumeric()) {
@@ -35,7 +42,7 @@ Outcome appendElement(const ElementReader& reader, std::size_t position, Kind ta
 }
 
 Outcome appendAllElements(const ElementReader& reader, std::size_t count, Kind target, std::vector<Variant>& values) {
-    values.reserve(values.size() + count);
+    reserveMore(values, count);
     for (std::size_t position = 0; position < count; ++position) {
         if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
     }
@@ -146,7 +153,7 @@ Outcome expandRange(const SpreadsheetRange& range, std::span<const std::size_t> 
 // ---- Arrays of this component
 
 Outcome appendArrayCells(std::span<const Variant> cells, Kind target, std::vector<Variant>& values) {
-    values.reserve(values.size() + cells.size());
+    reserveMore(values, cells.size());
     for (const Variant& cell : cells) {
         if (Outcome appended = appendConverted(cell, target, values); !appended.isOk()) return appended;
     }
@@ -205,7 +212,7 @@ Outcome checkArray(ITARQArray& array, std::span<const std::size_t> shape, Kind t
 void reserveForSeries(const Ref<IUnknown>& object, std::vector<Variant>& values) {
     const Ref<ITARQSeries> series = object.query<ITARQSeries>();
     std::int32_t count = 0;
-    if (series && series->get_Count(&count).isOk()) values.reserve(static_cast<std::size_t>(count));
+    if (series && series->get_Count(&count).isOk() && count > 0) values.reserve(static_cast<std::size_t>(count));
 }
 
 }  // namespace
@@ -239,20 +246,21 @@ Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>&
 
 Outcome flattenValueList(const ValueList& list, std::vector<Variant>& values) {
     for (const Variant& entry : list.walk()) {
-        if (entry.isArray()) {
-            if (!entry.isByReference()) return refused("Unsupported argument type.");
-            if (Outcome read = appendArrayValues(entry.array(), Kind::Empty, values); !read.isOk()) return read;
+        const PlainValue plain(entry);
+        if (plain->isArray()) {
+            if (!plain->isByReference()) return refused("Unsupported argument type.");
+            if (Outcome read = appendArrayValues(plain->array(), Kind::Empty, values); !read.isOk()) return read;
             continue;
         }
-        Variant value = entry.copyDereferenced();
-        if (value.isObject()) {
+        if (plain->isObject()) {
             std::vector<Variant> collected;
-            Outcome read = collectObjectValues(value.object(), Kind::Empty, collected);
+            Outcome read = collectObjectValues(plain->object(), Kind::Empty, collected);
             if (!read.isOk()) return read;
             std::ranges::move(collected, std::back_inserter(values));
             continue;
         }
-        if (value.isArray() || !value.normalizeValue()) return refused("Unsupported argument type.");
+        Variant value = *plain;
+        if (!value.normalizeValue()) return refused("Unsupported argument type.");
         values.push_back(std::move(value));
     }
     return {};
