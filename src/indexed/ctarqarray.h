@@ -25,7 +25,7 @@ public:
     Status SetValues(const ValueList& ListOfValues) override;
     Status TransposeMatrix() override;
 
-    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;  // NOLINT(bugprone-reserved-identifier)
     Status get_Value(const Variant& Index1, const Variant& Index2, const Variant& Index3, const Variant& Index4,
                      const Variant& Index5, Variant* value) override;
     Status put_Value(const Variant& Index1, const Variant& Index2, const Variant& Index3, const Variant& Index4,

@@ -14,7 +14,7 @@ class CTARQArrayEnum final : public CTARQEnumBase<CTARQArrayEnum, ITARQArrayEnum
 public:
     Status Next(std::uint32_t count, Variant* values, std::uint32_t* fetched) override;
 
-    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;  // NOLINT(bugprone-reserved-identifier)
     Status Init(IUnknown* TARQArray, const Variant& Index1, const Variant& Index2, const Variant& Index3,
                 const Variant& Index4, const Variant& Index5) override;
     Status MoveFirst() override { return Reset(); }

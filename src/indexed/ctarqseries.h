@@ -13,7 +13,7 @@ namespace tarq {
 class CTARQSeries final : public CountedObject<CTARQSeries, ITARQSeries> {
 public:
     Status Init(double Start, double End, const Variant& Step) override;
-    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;  // NOLINT(bugprone-reserved-identifier)
     Status get_Series(double Start, double End, const Variant& Step, Ref<IUnknown>* value) override;
     Status get_Count(std::int32_t* value) override;
 

@@ -21,7 +21,7 @@ public:
     Status InsertBefore(std::int32_t Index, const ValueList& ListOfElements) override;
     Status Multiplication(const Variant& Value) override;
     Status Del(const ValueList& varpar) override;
-    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;  // NOLINT(bugprone-reserved-identifier)
     Status get_Set(const ValueList& varpar, Ref<IUnknown>* value) override;
     Status get_Count(std::int32_t* value) override;
     Status get_DotProduct(const Variant& Vector, double* value) override;

@@ -20,7 +20,7 @@ public:
     Status Init(IUnknown* TARQSet, const Variant& Start, const Variant& End, const Variant& Step) override;
     Status MoveFirst() override;
     Status MoveNext() override;
-    Status get__NewEnum(Ref<IUnknown>* value) override;
+    Status get__NewEnum(Ref<IUnknown>* value) override;  // NOLINT(bugprone-reserved-identifier)
     Status get_CurrentItem(Variant* value) override;
     Status get_CurrentIndex(std::int32_t* value) override;
     Status get_IsLast(std::int32_t* value) override;

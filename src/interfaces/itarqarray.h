@@ -53,7 +53,7 @@ public:
     virtual Status TransposeMatrix() = 0;
 
     /// A new enumerator (ITARQArrayEnum, IEnumVARIANT) over all cells.
-    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;
+    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;  // NOLINT(bugprone-reserved-identifier)
 
     /// The selected cells. A put repeats a single value for all of them.
     virtual Status get_Value(const Variant& Index1, const Variant& Index2, const Variant& Index3, const Variant& Index4,

@@ -23,7 +23,7 @@ public:
     TARQ_API static const InterfaceTable& memberTable();
 
     /// The enumerator itself (IEnumVARIANT), started anew.
-    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;
+    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;  // NOLINT(bugprone-reserved-identifier)
 
     /// Starts to walk the cells of `TARQArray` that the indices select. The selection is fixed now.
     virtual Status Init(IUnknown* TARQArray, const Variant& Index1 = Variant::missing(),

@@ -26,7 +26,7 @@ public:
     virtual Status Init(double Start, double End, const Variant& Step = Variant::missing()) = 0;
 
     /// A new enumerator (ITARQSeriesEnum, IEnumVARIANT) over the members.
-    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;
+    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;  // NOLINT(bugprone-reserved-identifier)
 
     /// Sets the sequence as Init does and hands back the series itself.
     virtual Status get_Series(double Start, double End, const Variant& Step, Ref<IUnknown>* value) = 0;

@@ -47,7 +47,7 @@ public:
     virtual Status Del(const ValueList& varpar) = 0;
 
     /// An enumerator (IEnumVARIANT) over the elements as they are now.
-    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;
+    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;  // NOLINT(bugprone-reserved-identifier)
 
     /// Replaces the elements by the values of the list and hands back the set itself.
     virtual Status get_Set(const ValueList& varpar, Ref<IUnknown>* value) = 0;

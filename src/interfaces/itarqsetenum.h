@@ -34,7 +34,7 @@ public:
     virtual Status MoveNext() = 0;
 
     /// The enumerator itself (IEnumVARIANT), started anew.
-    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;
+    virtual Status get__NewEnum(Ref<IUnknown>* value) = 0;  // NOLINT(bugprone-reserved-identifier)
 
     /// The current item; fails as Item of the set does when there is none.
     virtual Status get_CurrentItem(Variant* value) = 0;

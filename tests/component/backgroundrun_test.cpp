@@ -183,6 +183,8 @@ TEST_F(BackgroundRunTest, StoppedSearchKeepsItsBestSolution) {
 TEST_F(BackgroundRunTest, ModelThatIsDroppedLivesUntilItsRunEnds) {
     buildSmall();
     play("long");
+    // Runs of other tests may just be letting go of their models.
+    ASSERT_TRUE(comes([] { return module::liveObjects() == 2; })) << "this model and its sink";
     const std::int64_t before = module::liveObjects();
     std::promise<std::int64_t> alive;
     inEvent = [&] { alive.set_value(module::liveObjects()); };
@@ -193,9 +195,12 @@ TEST_F(BackgroundRunTest, ModelThatIsDroppedLivesUntilItsRunEnds) {
     model = nullptr;
     only = nullptr;
     auto atEnd = alive.get_future();
-    ASSERT_EQ(atEnd.wait_for(longest), std::future_status::ready);
-    EXPECT_EQ(atEnd.get(), before);
-    ASSERT_TRUE(comes([&] { return module::liveObjects() == before - 2; })) << "the model and its sink";
+    const bool ended = atEnd.wait_for(longest) == std::future_status::ready;
+    EXPECT_TRUE(ended);
+    if (ended) {
+        EXPECT_EQ(atEnd.get(), before);
+    }
+    EXPECT_TRUE(comes([&] { return module::liveObjects() == before - 2; })) << "the model and its sink";
     model = createObject<ITARQModel>("TARQModel");
 }
 
