@@ -17,11 +17,11 @@
 namespace tarq::python {
 namespace {
 
-/// A nested list of whatever depth ends here rather than on the stack's last page.
+/// Nested lists of whatever depth end here rather than on the stack's last page.
 class RecursionGuard {
 public:
     RecursionGuard() {
-        if (Py_EnterRecursiveCall(" while converting a list") != 0) throw py::error_already_set();
+        if (Py_EnterRecursiveCall(" while converting lists") != 0) throw py::error_already_set();
     }
     RecursionGuard(const RecursionGuard&) = delete;
     RecursionGuard& operator=(const RecursionGuard&) = delete;
@@ -157,6 +157,7 @@ void fill(PyObject* list, std::size_t depth, SafeArray& target, std::size_t& pos
 }
 
 py::list nestedLists(const SafeArray& array, std::size_t dimension, std::size_t& position) {
+    const RecursionGuard guard;
     py::list list;
     const std::span<const Dimension> dimensions = array.dimensions();
     for (std::uint32_t i = 0; i < dimensions[dimension].length; ++i) {

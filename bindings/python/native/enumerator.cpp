@@ -34,7 +34,8 @@ PyObject* nextElement(PyObject* self) {
         const Status status = walkOf(self).elements->Next(1, &element, &fetched);
         setLastStatus(status);
         if (status.failed()) throwFailure(status, walkOf(self).source);
-        if (fetched == 0) return nullptr;  // without an exception: the end
+        // Only the status tells whether there was one: the count of a series is one too high.
+        if (!status.isOk()) return nullptr;  // without an exception: the end
         return toPython(std::move(element)).release().ptr();
     });
 }

@@ -132,11 +132,12 @@ py::object makeStandInType() {
     return standInType();
 }
 
+bool isStandIn(py::handle value) {
+    return PyObject_TypeCheck(value.ptr(), reinterpret_cast<PyTypeObject*>(standInType().ptr())) != 0;
+}
+
 Ref<IUnknown> standInOf(py::handle value) {
-    auto* const type = reinterpret_cast<PyTypeObject*>(standInType().ptr());
-    if (PyObject_TypeCheck(value.ptr(), type) == 0) {
-        return Ref<IUnknown>(std::make_unique<HeldObject>(value).release());
-    }
+    if (!isStandIn(value)) return Ref<IUnknown>(std::make_unique<HeldObject>(value).release());
     auto* const known = reinterpret_cast<Dispatch*>(value.ptr());
     if (known->standIn != nullptr && known->standIn->addIfAlive()) return Ref<IUnknown>::adopt(known->standIn);
     known->standIn = std::make_unique<StandIn>(value).release();

@@ -67,6 +67,8 @@ Variant toVariant(py::handle value, NoneMeaning none) {
     if (PyList_Check(object) || PyTuple_Check(object)) return Variant(sequenceToArray(value));
     if (PyFloat_Check(object)) return Variant(PyFloat_AsDouble(object));
     if (value.is(missingArgument())) return Variant::missing();
+    // Whatever else such a class offers, its objects are there to be called.
+    if (isStandIn(value)) return Variant(standInOf(value));
     if (isFromNumPy(value)) return numPyToVariant(value);
     if (isOtherSequence(value)) return Variant(sequenceToArray(value));
     return Variant(standInOf(value));
