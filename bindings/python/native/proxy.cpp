@@ -254,6 +254,15 @@ void addMembers(InterfaceType& type) {
     }
 }
 
+/// What the package itself adds to an interface. It never hides a member, under whatever spelling.
+void addHelpers(InterfaceType& type) {
+    const py::object name = py::str(type.table->name().data(), type.table->name().size());
+    for (const py::handle helper : py::module_::import("tarq._helpers").attr("helpers_of")(name)) {
+        const py::object helperName = helper.attr("__name__");
+        if (type.descriptor(textOf(helperName.ptr())) == nullptr) py::setattr(type.type, helperName, helper);
+    }
+}
+
 }  // namespace
 
 PyObject* InterfaceType::descriptor(std::string_view name) const {
@@ -292,6 +301,7 @@ const InterfaceType& interfaceType(const InterfaceTable& table) {
     findSpecialMembers(*type);
     type->type = makeType(*type, std::string(type->entry == nullptr ? table.name() : type->entry->name));
     addMembers(*type);
+    addHelpers(*type);
     known = std::move(type);
     return *known;
 }
