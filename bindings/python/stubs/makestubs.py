@@ -5,7 +5,7 @@ import sys
 import textwrap
 
 import tarq
-from tarq import _signatures, _tarq
+from tarq import _helpers, _signatures, _tarq
 
 HEAD = '''\
 """{summary}
@@ -15,6 +15,8 @@ Made from the member tables of the component.
 
 from enum import Enum, IntEnum
 from typing import Any, Callable, Iterator, Literal, Mapping, Sequence
+
+from . import spreadsheet as spreadsheet
 
 __version__: str
 
@@ -102,15 +104,29 @@ def indexed_class(class_name, call, put):
         lines += indented([f"def __call__{_signatures.signature(call, True)}: ..."])
     if put is not None:
         lines += indented([put_signature(put, "__setitem__")])
+    if is_assignable(put):
+        # A property of which the setter takes another type than the getter gives has no other form that checkers know.
+        value = _signatures.input_annotation(_signatures.new_value(put))
+        lines += indented([
+            f"def __get__(self, instance: object, owner: Any = None) -> {class_name}: ...",
+            f"def __set__(self, instance: object, value: {value}) -> None: ...",
+        ])
     return lines + [""]
+
+
+def is_assignable(put):
+    """Whether a property with arguments can be put without them."""
+    return put is not None and all(parameter["optional"] for parameter in _signatures.inputs(put))
 
 
 def property_lines(name, call, put, class_name):
     """A property; `class_name` is the class of one with arguments."""
     plain = _signatures.result_annotation(call) if call else _signatures.input_annotation(_signatures.new_value(put))
     text = docstring(_signatures.documentation(call, put))
+    if class_name and is_assignable(put):
+        return [f"{name}: {class_name}", text]
     lines = ["@property", f"def {name}(self) -> {class_name or plain}:", *indented([text, "..."])]
-    if put is not None and all(parameter["optional"] for parameter in _signatures.inputs(put)):
+    if is_assignable(put):
         value = _signatures.input_annotation(_signatures.new_value(put))
         lines += [f"@{name}.setter", f"def {name}(self, value: {value}) -> None: ..."]
     return lines
@@ -133,6 +149,18 @@ def special_methods(members):
     return lines
 
 
+def helper_lines(interface):
+    """What the package adds to the members."""
+    taken = {member["name"].lower() for member in interface["members"]}
+    lines = []
+    for helper in _helpers.helpers_of(interface["name"]):
+        if helper.__name__.lower() not in taken:
+            text = docstring(inspect.getdoc(helper) or "")
+            signature = inspect.signature(helper, eval_str=True)
+            lines += [f"def {helper.__name__}{signature}:", *indented([text, "..."])]
+    return lines
+
+
 def class_lines(described):
     interface = described["interface"]
     members = interface["members"]
@@ -150,6 +178,7 @@ def class_lines(described):
         if class_name:
             helpers += indexed_class(class_name, call, put)
         body += property_lines(name, call, put, class_name)
+    body += helper_lines(interface)
     return [*helpers, f"class {described['name']}(Object):", *indented(body), ""]
 
 

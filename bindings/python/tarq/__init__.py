@@ -33,5 +33,7 @@ del function
 
 __all__ = [name for name in globals() if not name.startswith("_") and name != "atexit"]
 
+from . import spreadsheet  # noqa: E402  it wants the names above
+
 # No sink is called once the interpreter begins to shut down.
 atexit.register(_tarq.close)
