@@ -1,6 +1,20 @@
 """A client that a type checker reads against the package's stubs."""
 
+from typing import Any
+
+import numpy
 import tarq
+from tarq.spreadsheet import Range, write
+
+
+def fill(sheet: Any, table: tarq.TARQArray) -> Range:
+    """Takes a worksheet's values and puts them beside it."""
+    table.Init(2, ["a", "b"])
+    table.Value = Range(sheet, "A1:B2")
+    areas: int = Range(sheet).Areas.Count
+    total: float = float(numpy.asarray(table).sum())
+    return write(sheet, "D1", [areas, total, *table.to_frame().columns])
+
 
 model = tarq.TARQModel()
 model.ModelName = "workshop"

@@ -43,6 +43,8 @@ def test_enumerations_are_int_enums():
         ("model.AddCol('a', 1, tarq.Binary)", "incompatible type"),
         ("model.NumberOfCols = 3", "read-only"),
         ("text: str = model.ColLB['x']", "Incompatible types"),
+        ("model.to_frame()", 'has no attribute "to_frame"'),
+        ("Range(1, 2)", "incompatible type"),
     ],
 )
 def test_the_stubs_check_a_client(tmp_path, wrong, message):
@@ -66,5 +68,6 @@ def test_every_listed_member_is_in_the_stubs():
     assert pathlib.Path(tarq.__file__).with_name("py.typed").exists()
     for name in dir(tarq.TARQModel()):
         assert name.startswith("__") or f"def {name}(" in stub, name
+    assert "def to_frame(self: Any) -> Any:" in stub and "def __array__(self: Any, dtype: Any = None" in stub
     for name in tarq.__all__:
         assert f"def {name}(" in stub or f"class {name}" in stub or f"{name}: " in stub, name
