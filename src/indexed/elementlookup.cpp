@@ -28,7 +28,7 @@ private:
         std::memcpy(bytes_.data(), &number, size_);
     }
 
-    std::array<char, sizeof(double)> bytes_;
+    std::array<char, sizeof(double)> bytes_{};
     std::size_t size_ = 0;
 };
 
