@@ -30,7 +30,8 @@ Status CTARQArrayEnum::Next(std::uint32_t count, Variant* values, std::uint32_t*
     Status read;
     const Status ended = guarded(classid::TARQArrayEnum, [&]() -> Outcome {
         for (; done < count && walk_.position() < walk_.count(); ++done) {
-            read = parent_->get_ValueByFullIndexName(walk_.name(walk_.position()), &values[done]);
+            const Ref<ITARQArray> parent = parent_;  // which may call a client that starts this over another array
+            read = parent->get_ValueByFullIndexName(walk_.name(walk_.position()), &values[done]);
             if (read.failed()) break;
             walk_.advance();
         }

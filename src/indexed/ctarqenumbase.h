@@ -46,13 +46,14 @@ protected:
     /// Selects from the parent's dimensions, which are read through its public members, and starts before the first
     /// item.
     Outcome select(Ref<ParentInterface> parent, const IndexArguments& indices, std::string prefix) {
-        parent_ = std::move(parent);
         walk_ = SelectionWalk();
         std::vector<Indexset> base;
-        if (const Status read = readDimensions(base); !read.isOk()) return read;
+        if (const Status read = readDimensions(*parent, base); !read.isOk()) return read;
         Selection selection;
         if (Outcome selected = selectIndexsets(indices, base, selection); !selected.isOk()) return selected;
+        // Together, because reading the indices may have called a client that started this enumerator over others.
         walk_ = SelectionWalk(std::move(prefix), std::move(base), std::move(selection));
+        parent_ = std::move(parent);
         initialized_ = true;
         return {};
     }
@@ -62,16 +63,16 @@ protected:
     bool initialized_ = false;
 
 private:
-    Status readDimensions(std::vector<Indexset>& base) const {
+    static Status readDimensions(ParentInterface& parent, std::vector<Indexset>& base) {
         std::int32_t dimensions = 0;
-        if (const Status read = parent_->get_NumberOfIndexsets(&dimensions); !read.isOk()) return read;
+        if (const Status read = parent.get_NumberOfIndexsets(&dimensions); !read.isOk()) return read;
         for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {
             std::int32_t size = 0;
-            if (const Status read = parent_->get_SizeOfIndexset(dimension, &size); !read.isOk()) return read;
+            if (const Status read = parent.get_SizeOfIndexset(dimension, &size); !read.isOk()) return read;
             Indexset& names = base.emplace_back();
             for (std::int32_t element = 1; element <= size; ++element) {
                 std::string name;
-                const Status read = parent_->get_IndexsetElement(dimension, element, &name);
+                const Status read = parent.get_IndexsetElement(dimension, element, &name);
                 if (!read.isOk()) return read;
                 names.append(std::move(name));
             }

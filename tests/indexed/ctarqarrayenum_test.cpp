@@ -106,5 +106,19 @@ TEST_F(ArrayEnumTest, WithoutInitEachMemberSaysSo) {
     EXPECT_EQ(shown(values), "2");
 }
 
+TEST_F(ArrayEnumTest, AClientMayStartItOverWhileItNamesElements) {
+    const Ref<ITARQArrayEnum> enumerator = selected(1);
+    const Ref<ITARQArray> other = newArray(listOf(1));
+    const Ref<IUnknown> walked[] = {array.query<IUnknown>(), other.query<IUnknown>()};
+    const Variant missing = Variant::missing();
+    const Ref<ITARQSeriesEnum> elements = ClientValues::create([&, called = false](Variant& value) mutable {
+        EXPECT_THAT(enumerator->Init(walked[1].get(), missing, missing, missing, missing, missing), succeeds());
+        value = Variant(2);
+        return !std::exchange(called, true);
+    });
+    ASSERT_THAT(enumerator->Init(walked[0].get(), valueOf(elements), missing, missing, missing, missing), succeeds());
+    EXPECT_EQ(shown(enumerator.query<IEnumVARIANT>()), "4 5 6");
+}
+
 }  // namespace
 }  // namespace tarq
