@@ -46,7 +46,8 @@ Outcome CTARQArray::select(const IndexArguments& arguments, Selection& selection
     if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
     // Reading the arguments may call the client, which may change this array.
     const Dimensions base = store_.dimensions();
-    return selectIndexsets(arguments, *base, selection);
+    if (Outcome selected = selectIndexsets(arguments, *base, selection); !selected.isOk()) return selected;
+    return store_.dimensions() == base ? Outcome() : changedMeanwhile();
 }
 
 Outcome CTARQArray::selectByNumber(const IndexArguments& arguments, Selection& selection) const {

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] const Indexset& namesOf(std::int32_t dimension) const {
         return (*store_.dimensions())[static_cast<std::size_t>(dimension) - 1];
     }
+    /// Fails also where reading the arguments called a client that gave the array other dimensions.
     Outcome select(const IndexArguments& arguments, Selection& selection) const;
     Outcome selectByNumber(const IndexArguments& arguments, Selection& selection) const;
     Outcome put(const Selection& selection, const Variant& value);

@@ -230,5 +230,27 @@ TEST_F(ArrayTest, AnArrayIsNotStoredInItself) {
               status::nullPointer);
 }
 
+TEST(Array, AClientThatChangesTheArrayWhileItNamesElementsIsRefused) {
+    const Ref<ITARQArray> array = make<CTARQArray, ITARQArray>();
+    for (const auto& change : std::vector<std::function<Status()>>{
+             [&] { return array->Clear(); }, [&] { return array->Init(listOf(1)); },
+             [&] { return array->Init(listOf(9, 9, 9)); }, [&] { return array->put_IndexsetElement(1, 3, "n"); }}) {
+        for (const bool isPut : {false, true}) {
+            ASSERT_THAT(array->Init(listOf(3)), succeeds());
+            const Ref<ITARQSeriesEnum> elements = ClientValues::create([&, next = 2](Variant& value) mutable {
+                if (next == 2) {
+                    EXPECT_THAT(change(), succeeds());
+                }
+                value = Variant(next++);
+                return next < 5;
+            });
+            Variant value;
+            EXPECT_THAT(isPut ? putAt(array, 5, elements) : readInto(value, array, elements),
+                        raisesAs(classid::TARQArray, status::wrongState,
+                                 "TARQArray has been changed while values were read for it."));
+        }
+    }
+}
+
 }  // namespace
 }  // namespace tarq
