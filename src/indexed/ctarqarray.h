@@ -57,7 +57,7 @@ private:
     Outcome select(const IndexArguments& arguments, Selection& selection) const;
     Outcome selectByNumber(const IndexArguments& arguments, Selection& selection) const;
     Outcome put(const Selection& selection, const Variant& value);
-    Outcome addValues(const std::vector<Variant>& values);
+    Outcome addValues(std::span<const Variant> values);
     /// A client that was called for values may have given the array other dimensions.
     [[nodiscard]] static Outcome changedMeanwhile();
 

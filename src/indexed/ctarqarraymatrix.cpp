@@ -44,9 +44,9 @@ struct Operand {
 };
 
 Outcome readShape(const Variant& argument, Operand& operand) {
-    std::vector<Indexset> indexsets;
-    Outcome read = shapeOfArgument(argument, indexsets);
-    operand.sizes = sizesOf(indexsets);
+    ArgumentShape shape;
+    Outcome read = shapeOfArgument(argument, shape);
+    operand.sizes = std::move(shape.sizes);
     return read;
 }
 
@@ -73,21 +73,22 @@ Status CTARQArray::MultiplyScalar(double Value) {
 
 Status CTARQArray::AddMatrix(const Variant& Matrix) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        std::vector<Indexset> indexsets;
-        if (Outcome read = shapeOfArgument(Matrix, indexsets); !read.isOk()) return read;
+        ArgumentShape shape;
+        if (Outcome read = shapeOfArgument(Matrix, shape); !read.isOk()) return read;
         const std::vector<std::size_t> sizes = store_.sizes();
-        if (sizesOf(indexsets) != sizes) return refused("Matrices do not have the same dimensions");
+        if (shape.sizes != sizes) return refused("Matrices do not have the same dimensions");
         const Dimensions before = store_.dimensions();
         std::vector<Variant> values;
-        const auto count = static_cast<std::size_t>(store_.count());
+        // Combinations may share a cell, which then is counted once.
+        const std::size_t count = store_.count() == 0 ? 0 : combinationCount(sizes);
         if (Outcome read = expandValues(Matrix, sizes, count, Kind::Double, values); !read.isOk()) return read;
         if (store_.dimensions() != before) return changedMeanwhile();
-        return addValues(values);
+        return addValues(std::span(values).first(count));
     });
 }
 
-Outcome CTARQArray::addValues(const std::vector<Variant>& values) {
-    for (std::size_t i = 0; i < static_cast<std::size_t>(store_.count()); ++i) {
+Outcome CTARQArray::addValues(std::span<const Variant> values) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
         Variant* const cell = store_.cellOfCombination(i);
         const double summand = values[i].real();
         if (cell == nullptr || !combineCell(*cell, [&](double value) { return value + summand; })) {
@@ -141,14 +142,16 @@ Status CTARQArray::TransposeMatrix() {
 Status CTARQArray::CloneFrom(const Variant& Array) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
         store_.clear();
-        std::vector<Indexset> indexsets;
-        if (Outcome read = shapeOfArgument(Array, indexsets); !read.isOk()) return read;
-        const std::vector<std::size_t> sizes = sizesOf(indexsets);
+        ArgumentShape shape;
+        if (Outcome read = shapeOfArgument(Array, shape); !read.isOk()) return read;
+        const std::vector<std::size_t>& sizes = shape.sizes;
         if (sizes.empty()) return {};
+        std::vector<Indexset> indexsets;
+        if (Outcome read = readNames(shape, indexsets); !read.isOk()) return read;
         if (Outcome ready = store_.initialize(std::move(indexsets)); !ready.isOk()) return ready;
         const Dimensions target = store_.dimensions();
         std::vector<Variant> values;
-        const auto count = static_cast<std::size_t>(store_.count());
+        const std::size_t count = combinationCount(sizes);
         if (Outcome read = expandValues(Array, sizes, count, Kind::Empty, values); !read.isOk()) return read;
         if (store_.dimensions() != target) return changedMeanwhile();
         values.resize(count);

@@ -27,38 +27,39 @@ struct Shaped {
     Outcome outcome{};
 };
 
-Shaped shapeOfArray(const Ref<IUnknown>& object, std::vector<Indexset>& indexsets) {
-    const Ref<ITARQArray> array = object.query<ITARQArray>();
-    if (!array) return {};
+void addNumbered(ArgumentShape& shape, std::int64_t first, std::size_t count) {
+    shape.sizes.push_back(count);
+    shape.firstNumbers.push_back(first);
+}
+
+Shaped shapeOfArray(const Ref<IUnknown>& object, ArgumentShape& shape) {
+    shape.array = object.query<ITARQArray>();
+    if (!shape.array) return {};
     std::int32_t dimensions = 0;
-    if (const Status read = array->get_NumberOfIndexsets(&dimensions); read.failed()) return {true, failureOf(read)};
+    if (const Status read = shape.array->get_NumberOfIndexsets(&dimensions); read.failed()) {
+        return {true, failureOf(read)};
+    }
     for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {
         std::int32_t size = 0;
-        if (const Status read = array->get_SizeOfIndexset(dimension, &size); read.failed()) {
+        if (const Status read = shape.array->get_SizeOfIndexset(dimension, &size); read.failed()) {
             return {true, failureOf(read)};
         }
-        Indexset& names = indexsets.emplace_back();
-        for (std::int32_t element = 1; element <= size; ++element) {
-            std::string name;
-            const Status read = array->get_IndexsetElement(dimension, element, &name);
-            if (read.failed()) return {true, failureOf(read)};
-            names.append(std::move(name));
-        }
+        shape.sizes.push_back(static_cast<std::size_t>(std::max(size, 0)));
     }
     return {true, {}};
 }
 
 template <class Interface>
-Shaped shapeOfVector(const Ref<IUnknown>& object, std::vector<Indexset>& indexsets) {
+Shaped shapeOfVector(const Ref<IUnknown>& object, ArgumentShape& shape) {
     const Ref<Interface> vector = object.query<Interface>();
     if (!vector) return {};
     std::int32_t count = 0;
     if (const Status read = vector->get_Count(&count); read.failed()) return {true, failureOf(read)};
-    indexsets.push_back(Indexset::numbered(count));
+    addNumbered(shape, 1, static_cast<std::size_t>(std::max(count, 0)));
     return {true, {}};
 }
 
-Shaped shapeOfRange(const Ref<IUnknown>& object, std::vector<Indexset>& indexsets) {
+Shaped shapeOfRange(const Ref<IUnknown>& object, ArgumentShape& shape) {
     const SpreadsheetRange range(object.get());
     if (!range) return {};
     std::int32_t row = 0;
@@ -69,8 +70,8 @@ Shaped shapeOfRange(const Ref<IUnknown>& object, std::vector<Indexset>& indexset
     if (Outcome read = range.rowCount(rows); !read.isOk()) return {true, read};
     if (Outcome read = range.firstColumn(column); !read.isOk()) return {true, read};
     if (Outcome read = range.columnCount(columns); !read.isOk()) return {true, read};
-    indexsets.push_back(numbersFrom(row, static_cast<std::size_t>(std::max(rows, 0))));
-    indexsets.push_back(numbersFrom(column, static_cast<std::size_t>(std::max(columns, 0))));
+    addNumbered(shape, row, static_cast<std::size_t>(std::max(rows, 0)));
+    addNumbered(shape, column, static_cast<std::size_t>(std::max(columns, 0)));
     return {true, {}};
 }
 
@@ -78,28 +79,40 @@ constexpr std::array shapes{&shapeOfArray, &shapeOfVector<ITARQSet>, &shapeOfVec
 
 }  // namespace
 
-Outcome shapeOfArgument(const Variant& argument, std::vector<Indexset>& indexsets) {
+Outcome shapeOfArgument(const Variant& argument, ArgumentShape& shape) {
     if (argument.isArray()) {
         for (const Dimension& dimension : argument.array().dimensions()) {
-            indexsets.push_back(numbersFrom(dimension.lowerBound, dimension.length));
+            addNumbered(shape, dimension.lowerBound, dimension.length);
         }
         return {};
     }
     const Variant plain = argument.copyDereferenced();
-    if (plain.isArray()) return shapeOfArgument(plain, indexsets);
+    if (plain.isArray()) return shapeOfArgument(plain, shape);
     if (!plain.isObject()) return {};
     const Ref<IUnknown> object(plain.object());
     for (const auto& shapeOf : shapes) {
-        Shaped shaped = shapeOf(object, indexsets);
+        Shaped shaped = shapeOf(object, shape);
         if (shaped.offered) return shaped.outcome;
     }
     return {status::invalidArgument, "Bad Object. Only TARQArray, TARQSet and TARQSeries allowed."};
 }
 
-std::vector<std::size_t> sizesOf(const std::vector<Indexset>& indexsets) {
-    std::vector<std::size_t> sizes;
-    for (const Indexset& names : indexsets) sizes.push_back(names.size());
-    return sizes;
+Outcome readNames(const ArgumentShape& shape, std::vector<Indexset>& indexsets) {
+    for (std::size_t i = 0; i < shape.sizes.size(); ++i) {
+        if (!shape.array) {
+            indexsets.push_back(numbersFrom(shape.firstNumbers[i], shape.sizes[i]));
+            continue;
+        }
+        Indexset& names = indexsets.emplace_back();
+        for (std::size_t element = 1; element <= shape.sizes[i]; ++element) {
+            std::string name;
+            const Status read = shape.array->get_IndexsetElement(static_cast<std::int32_t>(i) + 1,
+                                                                 static_cast<std::int32_t>(element), &name);
+            if (read.failed()) return failureOf(read);
+            names.append(std::move(name));
+        }
+    }
+    return {};
 }
 
 }  // namespace tarq
