@@ -47,6 +47,10 @@ Outcome readCells(ArrayStore& store, const Selection& selection, Variant& value)
     if (selection.count() == 1) {
         return forEachSelected(store, selection, [&](const Variant& cell, std::size_t) { value = cell; });
     }
+    if (store.count() == 0 && selection.count() > 0) {
+        // There may be far more combinations than fit an array.
+        return forEachSelected(store, selection, [](const Variant&, std::size_t) {});
+    }
     SafeArray array;
     if (Outcome made = makeArray(selection, array); !made.isOk()) return made;
     const std::span<Variant> elements = array.elements<Variant>();

@@ -51,11 +51,30 @@ std::vector<std::size_t> ArrayStore::sizes() const {
     return sizes;
 }
 
-void ArrayStore::clear() noexcept { *this = ArrayStore(); }
+Dimensions ArrayStore::noDimensions() {
+    static const Dimensions none = std::make_shared<std::vector<Indexset>>();
+    return none;
+}
+
+/// The dimensions to be changed: in place, unless somebody holds on to them.
+std::vector<Indexset>& ArrayStore::ownDimensions() {
+    if (dimensions_.use_count() > 1) dimensions_ = std::make_shared<std::vector<Indexset>>(*dimensions_);
+    return *std::const_pointer_cast<std::vector<Indexset>>(dimensions_);
+}
+
+void ArrayStore::clear() noexcept {
+    static const Dimensions none = noDimensions();
+    dimensions_ = none;
+    cells_ = {};
+    byName_ = false;
+    named_.clear();
+    names_.clear();
+    isIndexed_ = false;
+}
 
 Outcome ArrayStore::initialize(std::vector<Indexset> indexsets) {
     clear();
-    dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(indexsets));
+    dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(indexsets));
     const std::size_t combinations = combinationCount(sizes());
     if (combinations > mostCells) {
         clear();
@@ -73,13 +92,15 @@ Outcome ArrayStore::initialize(std::vector<Indexset> indexsets) {
 
 void ArrayStore::initializeWithoutCells(std::vector<Indexset> indexsets) {
     clear();
-    dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(indexsets));
+    dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(indexsets));
     byName_ = true;
 }
 
 /// Makes names of combinations findable; false where two combinations have the same.
 bool ArrayStore::indexNames() {
     names_.clear();
+    isIndexed_ = false;
+    if (std::ranges::any_of(*dimensions_, &Indexset::hasDuplicates)) return false;
     isIndexed_ = pointedDimensions(*dimensions_) > 1;
     if (!isIndexed_) return true;
     names_.reserve(cells_.size());
@@ -182,21 +203,30 @@ void ArrayStore::keepInBlock() {
 
 void ArrayStore::rename(std::size_t dimension, std::size_t element, std::string name) {
     if ((*dimensions_)[dimension][element] == name) return;
-    std::vector<Indexset> renamed = *dimensions_;
-    const bool isNew = renamed[dimension].find(name) == Indexset::absent;
-    renamed[dimension].rename(element, name);
-    if (byName_ || isIndexed_ || !isNew || pointedDimensions(renamed) > 1) {
-        // Cells can meet, also on the way to their new names, so each takes the way on its own.
-        if (!byName_) keepByName();
-        renameByName(dimension, element, name);
-        dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(renamed));
-        keepInBlock();
+    if (!canMeet(dimension, name)) {
+        ownDimensions()[dimension].rename(element, std::move(name));
         return;
     }
-    dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(renamed));
+    // Each cell takes the way to its new name on its own.
+    if (!byName_) keepByName();
+    renameByName(dimension, element, name);
+    ownDimensions()[dimension].rename(element, std::move(name));
+    keepInBlock();
+}
+
+/// Whether cells can have the same full name, also on the way, when an element of the dimension gets this name.
+bool ArrayStore::canMeet(std::size_t dimension, std::string_view name) const {
+    const std::vector<Indexset>& indexsets = *dimensions_;
+    if (byName_ || isIndexed_ || indexsets[dimension].find(name) != Indexset::absent) return true;
+    if (name.find('.') == std::string_view::npos) return false;
+    for (std::size_t i = 0; i < indexsets.size(); ++i) {
+        if (i != dimension && indexsets[i].hasPoint()) return true;
+    }
+    return false;
 }
 
 void ArrayStore::renameByName(std::size_t dimension, std::size_t element, const std::string& name) {
+    if (named_.empty()) return;  // a dimension may have no elements, or more combinations than can be walked
     std::vector<Indexset> after = *dimensions_;
     after[dimension].rename(element, name);
     const std::vector<std::size_t> extents = sizes();
@@ -225,11 +255,11 @@ void ArrayStore::transpose() {
             }
         }
         cells_ = std::move(cells);
-        dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(after));
+        dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(after));
         return;
     }
     CellMap named;
-    for (std::size_t row = 0; row < rows; ++row) {
+    for (std::size_t row = 0; row < rows && !named_.empty(); ++row) {
         for (std::size_t column = 0; column < columns; ++column) {
             const std::size_t there[] = {row, column};
             const std::size_t here[] = {column, row};
@@ -238,7 +268,7 @@ void ArrayStore::transpose() {
         }
     }
     named_ = std::move(named);
-    dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(after));
+    dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(after));
     keepInBlock();
 }
 

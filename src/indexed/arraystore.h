@@ -23,7 +23,7 @@
 
 namespace tarq {
 
-/// The dimensions of an array. They never change once made, so that a walk can hold on to them.
+/// The dimensions of an array. They don't change while somebody else than the store holds on to them, such as a walk.
 using Dimensions = std::shared_ptr<const std::vector<Indexset>>;
 
 class ArrayStore {
@@ -64,6 +64,9 @@ public:
 private:
     using CellMap = std::map<std::string, Variant, std::less<>>;
 
+    [[nodiscard]] static Dimensions noDimensions();
+    [[nodiscard]] std::vector<Indexset>& ownDimensions();
+    [[nodiscard]] bool canMeet(std::size_t dimension, std::string_view name) const;
     [[nodiscard]] std::string nameOf(std::size_t combination) const;
     [[nodiscard]] std::vector<std::size_t> positionsOf(std::size_t combination) const;
     [[nodiscard]] bool indexNames();
@@ -72,7 +75,7 @@ private:
     void keepInBlock();
     void renameByName(std::size_t dimension, std::size_t element, const std::string& name);
 
-    Dimensions dimensions_ = std::make_shared<const std::vector<Indexset>>();
+    Dimensions dimensions_ = noDimensions();  ///< made as changeable ones, see ownDimensions
     std::vector<Variant> cells_;
     bool byName_ = false;
     CellMap named_;

@@ -1,5 +1,6 @@
 #include "indexed/ctarqarray.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -7,6 +8,7 @@
 #include "frame/memberguard.h"
 #include "indexed/arrayaccess.h"
 #include "indexed/ctarqarrayenum.h"
+#include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
 
 namespace tarq {
@@ -82,7 +84,12 @@ Outcome CTARQArray::changedMeanwhile() {
 Outcome CTARQArray::put(const Selection& selection, const Variant& value) {
     const Dimensions selectedFrom = store_.dimensions();
     std::vector<Variant> values;
-    Outcome expanded = expandValues(value, selection.sizes(), selection.count(), Kind::Empty, values);
+    // Without any cell nothing is stored, so a single value needs no copies, of which there may be far too many.
+    const PlainValue plain(value);
+    const bool isRepeated = !plain->isArray() && !plain->isObject();
+    const std::size_t count =
+        isRepeated && store_.count() == 0 ? std::min<std::size_t>(selection.count(), 1) : selection.count();
+    Outcome expanded = expandValues(value, selection.sizes(), count, Kind::Empty, values);
     if (!expanded.isOk()) return expanded;
     if (store_.dimensions() != selectedFrom) return changedMeanwhile();
     return writeCells(store_, selection, values);

@@ -37,24 +37,33 @@ void Indexset::reserve(std::size_t count) {
 }
 
 void Indexset::append(std::string name) {
-    const auto position = static_cast<std::int32_t>(names_.size());
     pointed_ += isPointed(name) ? 1U : 0U;
     names_.push_back(std::move(name));
-    index_.insert(names_.back(), position,
-                  [this](std::int32_t other) -> const std::string& { return names_[static_cast<std::size_t>(other)]; });
+    index(names_.size() - 1);
+}
+
+void Indexset::index(std::size_t position) {
+    const auto nameOf = [this](std::int32_t other) -> const std::string& {
+        return names_[static_cast<std::size_t>(other)];
+    };
+    duplicates_ += index_.insert(names_[position], static_cast<std::int32_t>(position), nameOf) ? 0U : 1U;
 }
 
 void Indexset::rename(std::size_t position, std::string name) {
-    // Another element of the old name, or one behind this of the new name, may now be the first of its name.
+    const bool isUnique = duplicates_ == 0 && find(name) == absent;
     pointed_ -= isPointed(names_[position]) ? 1U : 0U;
     pointed_ += isPointed(name) ? 1U : 0U;
+    if (isUnique) {
+        index_.erase(names_[position], static_cast<std::int32_t>(position));
+        names_[position] = std::move(name);
+        index(position);
+        return;
+    }
+    // Another element of the old name, or one behind this of the new name, may now be the first of its name.
     names_[position] = std::move(name);
     index_.clear();
-    for (std::size_t i = 0; i < names_.size(); ++i) {
-        index_.insert(names_[i], static_cast<std::int32_t>(i), [this](std::int32_t other) -> const std::string& {
-            return names_[static_cast<std::size_t>(other)];
-        });
-    }
+    duplicates_ = 0;
+    for (std::size_t i = 0; i < names_.size(); ++i) index(i);
 }
 
 Indexset Indexset::numbered(std::int32_t count) {

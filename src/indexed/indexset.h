@@ -28,6 +28,8 @@ public:
     [[nodiscard]] const std::vector<std::string>& names() const noexcept { return names_; }
     /// Whether a name has a point inside, which is also what stands between the names of a cell.
     [[nodiscard]] bool hasPoint() const noexcept { return pointed_ > 0; }
+    /// Whether several elements have the same name.
+    [[nodiscard]] bool hasDuplicates() const noexcept { return duplicates_ > 0; }
     /// First position of a name, or `absent`.
     [[nodiscard]] std::int32_t find(std::string_view name) const;
 
@@ -41,9 +43,12 @@ public:
     static Indexset numbered(std::int32_t count);
 
 private:
+    void index(std::size_t position);
+
     std::vector<std::string> names_;
     NameIndex index_;
-    std::size_t pointed_ = 0;  ///< number of names with a point
+    std::size_t pointed_ = 0;     ///< number of names with a point
+    std::size_t duplicates_ = 0;  ///< number of elements behind the first one of their name
 };
 
 /// The text under which a value is an element: a text as it is, a number as it reads. Reals have to be whole and to fit

@@ -177,13 +177,14 @@ Outcome checkArrayShape(ITARQArray& array, std::span<const std::size_t> shape) {
 /// Reads the leading block cell by cell, which fails where a cell of it isn't there or can't be converted.
 Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
     constexpr std::size_t mostIndices = 5;
-    if (combinationCount(shape) == 0) return {};
+    // No member reaches one cell of an array of more dimensions; its values are read all the same.
+    if (combinationCount(shape) == 0 || shape.size() > mostIndices) return {};
     std::array<Variant, mostIndices> indices;
     indices.fill(Variant::missing());
     std::vector<std::size_t> positions(shape.size(), 0);
     std::vector<Variant> block;
     do {
-        for (std::size_t i = 0; i < std::min(shape.size(), mostIndices); ++i) {
+        for (std::size_t i = 0; i < shape.size(); ++i) {
             indices[i] = Variant(static_cast<std::int32_t>(positions[i]) + 1);
         }
         Variant value;

@@ -144,5 +144,63 @@ TEST(ArrayRename, RandomRenamesGiveTheMapOfNames) {
     }
 }
 
+TEST(ArrayRename, ArraysWithoutCellsTakeNamesToo) {
+    const Ref<ITARQArray> empty = make<CTARQArray, ITARQArray>();
+    ASSERT_THAT(empty->CloneFrom(Variant(counted({{0, 0}, {0, 2}}))), succeeds());
+    EXPECT_THAT(empty->put_IndexsetElement(2, 1, "1"), succeeds());
+    EXPECT_EQ(cells(empty), "0x2:");
+    EXPECT_THAT(empty->TransposeMatrix(), succeeds());
+    EXPECT_EQ(cells(empty), "2x0:");
+
+    // More combinations than anybody could walk.
+    const Ref<ITARQArray> vast = make<CTARQArray, ITARQArray>();
+    EXPECT_TRUE(vast->Init(listOf(100'000, 100'000, "x")).failed());
+    EXPECT_THAT(vast->put_IndexsetElement(2, 1, "n"), succeeds());
+    EXPECT_THAT(vast->TransposeMatrix(), succeeds());
+    const auto nowhere = raisesAs(classid::TARQArray, status::invalidArgument, "Index '.n.1' does not exist.");
+    Variant value;
+    EXPECT_THAT(readInto(value, vast), nowhere);
+    EXPECT_THAT(putAt(vast, 5), nowhere);
+    EXPECT_THAT(putAt(vast, true),
+                raisesAs(classid::TARQArray, status::invalidArgument, "Parameter for value is of wrong type."));
+}
+
+class SharedCellTest : public testing::Test {
+protected:
+    /// The elements a, a, c with the values 1, 1, 3.
+    Ref<ITARQArray> array = newArray(listOf(newSet(listOf("a", "b", "c"))));
+    void SetUp() override {
+        ASSERT_THAT(array->put_IndexsetElement(1, 2, "a"), succeeds());
+        ASSERT_THAT(array->SetValues(listOf(7, 1, 3)), succeeds());
+    }
+};
+
+TEST_F(SharedCellTest, ACloneSharesItTheSameWay) {
+    const Ref<ITARQArray> clone = make<CTARQArray, ITARQArray>();
+    ASSERT_THAT(clone->CloneFrom(valueOf(array)), succeeds());
+    EXPECT_EQ(cells(clone), "3: 1 1 3");
+    std::int32_t count = 0;
+    EXPECT_THAT(clone->get_Count(&count), succeeds());
+    EXPECT_EQ(count, 2);
+    EXPECT_THAT(putAt(clone, 5, "a"), succeeds());
+    EXPECT_EQ(cells(clone), "3: 5 5 3");
+}
+
+TEST_F(SharedCellTest, EverySummandIsAddedToIt) {
+    ASSERT_THAT(array->AddMatrix(Variant(counted({{0, 3}}))), succeeds());
+    EXPECT_EQ(cells(array), "3: 4 4 6");
+}
+
+TEST(ArrayRename, SixDimensionsAreClonedAsFiveAre) {
+    const Ref<ITARQArray> six = newArray(listOf(2, 1, 1, 1, 1, 2));
+    ASSERT_THAT(six->SetValues(listOf(1, 2, 3, 4)), succeeds());
+    const Ref<ITARQArray> clone = make<CTARQArray, ITARQArray>();
+    EXPECT_THAT(clone->CloneFrom(valueOf(six)), succeeds());
+    EXPECT_EQ(cells(clone), "2x1x1x1x1x2: 1 2 3 4");
+    ASSERT_THAT(six->put_IndexsetElement(1, 2, "1"), succeeds());
+    EXPECT_THAT(clone->CloneFrom(valueOf(six)), succeeds());
+    EXPECT_EQ(cells(clone), "2x1x1x1x1x2: 1 2 1 2");
+}
+
 }  // namespace
 }  // namespace tarq
