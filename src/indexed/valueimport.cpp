@@ -228,7 +228,8 @@ Outcome appendArrayValues(const SafeArray& array, Kind target, std::vector<Varia
 Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>& values) {
     values.clear();
     const Ref<IUnknown> held(object);
-    if (const Ref<IArrayCells> cells = held.query<IArrayCells>(); cells && !cells->rowMajorCells().empty()) {
+    const Ref<IArrayCells> cells = held.query<ITARQArray>().query<IArrayCells>();
+    if (cells && !cells->rowMajorCells().empty()) {
         return appendArrayCells(cells->rowMajorCells(), target, values);
     }
     ValueSource source;

@@ -154,9 +154,12 @@ TEST(ValueImport, ASeriesWithoutEndIsRefused) {
     std::vector<Variant> values;
     EXPECT_THAT(collectObjectValues(stuck.query<IUnknown>().get(), Kind::Empty, values),
                 failsWith(status::invalidArgument, "Step of series is too small."));
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    // The sanitizers end the process where memory runs out.
     const Ref<ITARQSeries> huge = make<CTARQSeries, ITARQSeries>();
     ASSERT_THAT(huge->Init(0, 1e18, Variant(1.0)), succeeds());
     EXPECT_EQ(newArray(listOf(1))->SetValues(listOf(huge)), status::outOfMemory);
+#endif
 }
 
 }  // namespace

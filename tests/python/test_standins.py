@@ -10,6 +10,16 @@ import tarq
 
 METHOD, GET, PUT = 1, 2, 4
 RANGE = "{00020846-0000-0000-C000-000000000046}"
+CALLED_DIRECTLY = [
+    "{00020404-0000-0000-C000-000000000046}",  # IEnumVARIANT
+    "{77EA8057-44AB-4FCC-9FE4-60B4BC79373E}",  # ITARQSet
+    "{7758AB12-984D-4F44-9155-4A7B1AB04604}",  # ITARQSetEnum
+    "{C69D863D-A459-467E-82DE-1A4527638803}",  # ITARQSeries
+    "{1E88BCB6-EE7E-4C0C-B367-D595F04675AA}",  # ITARQSeriesEnum
+    "{74D0E56B-43B2-42C3-BD55-896A79F95E5A}",  # ITARQArray
+    "{3FF09D21-8458-4728-B017-1126AED846A5}",  # ITARQArrayEnum
+    "{FF331FE1-5C77-4FFD-9202-559521D6EBEA}",  # ITARQModel
+]
 
 
 class Cells(tarq.Dispatch):
@@ -120,3 +130,14 @@ def test_lists_of_interfaces_that_make_no_sense_list_none(caller):
     assert caller.Offers(Odd(), RANGE) == 0
     with pytest.raises(tarq.Error):
         caller.Call(Odd(), 1, GET)
+
+
+def test_a_stand_in_never_passes_for_an_interface_of_the_component():
+    class Pretender(tarq.Dispatch):
+        _interfaces_ = CALLED_DIRECTLY
+        _dispids_ = {0: "Value"}
+        Value = 1
+
+    for call in (tarq.TARQArray().Init, tarq.TARQArray().CloneFrom, tarq.TARQSet().Add, tarq.TARQModel().AddObjSum):
+        with pytest.raises(tarq.Error):
+            call(Pretender())

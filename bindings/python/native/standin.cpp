@@ -1,10 +1,16 @@
 #include "standin.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <string>
 
+#include "component/classtable.h"
+#include "frame/classfactory.h"
+#include "frame/connectionpoint.h"
 #include "frame/guid.h"
+#include "frame/ienumvariant.h"
+#include "frame/supporterrorinfo.h"
 #include "heldobject.h"
 #include "values.h"
 
@@ -25,6 +31,18 @@ py::object& standInType() {
 
 bool isMethod(py::handle value) {
     return PyMethod_Check(value.ptr()) || PyFunction_Check(value.ptr()) || PyCFunction_Check(value.ptr());
+}
+
+/// Interfaces whose functions are called directly: an object that is only called late-bound must not seem to have them,
+/// whatever its class lists.
+bool isCalledDirectly(const Guid& interfaceId) {
+    for (const Guid& id : {IEnumVARIANT::id, IConnectionPoint::id, IConnectionPointContainer::id, IClassFactory::id,
+                           ISupportErrorInfo::id}) {
+        if (interfaceId == id) return true;
+    }
+    return std::ranges::any_of(classTable(), [&](const ClassEntry& entry) {
+        return entry.members != nullptr && entry.members().id() == interfaceId;
+    });
 }
 
 class StandIn final : public HeldObject {
@@ -48,6 +66,7 @@ private:
 
     bool offers(const Guid& interfaceId) const override {
         if (interfaceId == IDispatch::id) return true;
+        if (isCalledDirectly(interfaceId)) return false;
         bool found = false;
         // What isn't a list of texts lists no interface; the failure of that is the component's wrong-class answer.
         (void)callIn([&] {
