@@ -20,3 +20,5 @@
 #include "interfaces/enumerationtables.h"
 #include "interfaces/itarqmodel.h"
 #include "interfaces/itarqmodelevents.h"
+#include "interfaces/itarqres.h"
+#include "interfaces/itarqvar.h"

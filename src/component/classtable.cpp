@@ -7,10 +7,12 @@
 #include "frame/text.h"
 #include "indexed/ctarqarray.h"
 #include "indexed/ctarqarrayenum.h"
+#include "indexed/ctarqres.h"
 #include "indexed/ctarqseries.h"
 #include "indexed/ctarqseriesenum.h"
 #include "indexed/ctarqset.h"
 #include "indexed/ctarqsetenum.h"
+#include "indexed/ctarqvar.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodelevents.h"
 
@@ -24,8 +26,8 @@ constexpr std::array classes{
     ClassEntry{"TARQSeries", classid::TARQSeries, "ITARQSeries", &createInstance<CTARQSeries>,
                &ITARQSeries::memberTable},
     ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray", &createInstance<CTARQArray>, &ITARQArray::memberTable},
-    ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar"},
-    ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes"},
+    ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar", &createInstance<CTARQVar>, &ITARQVar::memberTable},
+    ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes", &createInstance<CTARQRes>, &ITARQRes::memberTable},
     ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet"},
     ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet"},
     ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum", &createInstance<CTARQSeriesEnum>,

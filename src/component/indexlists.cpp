@@ -13,10 +13,12 @@
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
+#include "interfaces/itarqres.h"
 #include "interfaces/itarqseries.h"
 #include "interfaces/itarqseriesenum.h"
 #include "interfaces/itarqset.h"
 #include "interfaces/itarqsetenum.h"
+#include "interfaces/itarqvar.h"
 #include "model/addressing.h"
 
 namespace tarq {
@@ -68,6 +70,17 @@ Outcome readListedValues(const AddressedStore& addressed, const Ref<IUnknown>& o
     });
 }
 
+/// The number in the object's own model; that a stale number is beyond this one's is found out as with any number.
+template <class Interface>
+Outcome readItem(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions, bool& known) {
+    const Ref<Interface> item = object.query<Interface>();
+    known = static_cast<bool>(item);
+    if (!known) return {};
+    std::int32_t number = 0;
+    if (const Status told = item->get_ModelIndex(&number); !told.isOk()) return told;
+    return addressed.append(number, positions);
+}
+
 /// What the two sides differ in. Readers are asked in their order.
 struct SideRules {
     Resolve resolve;
@@ -75,8 +88,8 @@ struct SideRules {
     std::string_view badObject;
 };
 
-constexpr std::array<ObjectReader, 1> columnReaders{&readListedValues};
-constexpr std::array<ObjectReader, 1> rowReaders{&readListedValues};
+constexpr std::array<ObjectReader, 2> columnReaders{&readListedValues, &readItem<ITARQVar>};
+constexpr std::array<ObjectReader, 2> rowReaders{&readListedValues, &readItem<ITARQRes>};
 
 constexpr SideRules columnRules{&resolveColumn, columnReaders, "Bad type of object for col indices."};
 constexpr SideRules rowRules{&resolveRow, rowReaders, "Bad type of object for row indices."};

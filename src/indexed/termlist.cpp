@@ -6,9 +6,11 @@
 
 #include "frame/convertelement.h"
 #include "frame/object.h"
+#include "frame/objecterror.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
+#include "interfaces/itarqvar.h"
 
 namespace tarq {
 namespace {
@@ -41,6 +43,17 @@ void appendNames(std::vector<Variant>& texts, ColumnGroup& columns) {
 /// Appends the columns of an object where it is of the kind that the reader knows, which `known` tells.
 using ColumnObjectReader = Outcome (*)(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known);
 
+Outcome readColumnName(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
+    const Ref<ITARQVar> column = object.query<ITARQVar>();
+    known = static_cast<bool>(column);
+    if (!known) return {};
+    std::string name;
+    clearLastError();  // what is found there after a failure is then the failure's
+    if (const Status told = column->get_Name(&name); !told.isOk()) return failureOf(told);
+    columns.push_back(std::move(name));
+    return {};
+}
+
 /// The values of a set, series or array, or of what walks one, are names.
 Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
     ValueSource source;
@@ -58,7 +71,7 @@ Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, boo
 }
 
 /// Every kind of object that stands for columns, in the order in which they are asked.
-constexpr std::array<ColumnObjectReader, 1> columnObjectReaders{&readValuesAsNames};
+constexpr std::array<ColumnObjectReader, 2> columnObjectReaders{&readColumnName, &readValuesAsNames};
 
 Outcome readColumnObject(const Ref<IUnknown>& object, ColumnGroup& columns) {
     for (const ColumnObjectReader read : columnObjectReaders) {

@@ -11,13 +11,18 @@
 
 namespace tarq {
 
-/// The call failed with this status, and the thread's error tells this description.
-MATCHER_P2(raises, status, description, "") {
+/// The call failed with this status, and the thread's error tells this description as one of the class.
+MATCHER_P3(raisesAs, classId, status, description, "raises '" + std::string(description) + "'") {
     const ObjectError* error = lastError();
     if (error == nullptr) return false;
     *result_listener << "described as '" << error->description << "'";
-    return arg == status && error->status == status && error->description == description &&
-           error->classId == classid::TARQModel;
+    return arg == status && error->status == status && error->description == description && error->classId == classId;
+}
+
+/// The same of a model.
+template <class Description>
+auto raises(Status status, Description description) {
+    return raisesAs(classid::TARQModel, status, description);
 }
 
 class ModelTest : public testing::Test {

@@ -1,0 +1,23 @@
+// CTARQRes: the object behind ITARQRes.
+#pragma once
+
+#include "indexed/itemobject.h"
+#include "interfaces/classids.h"
+#include "interfaces/itarqres.h"
+
+namespace tarq {
+
+// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
+class CTARQRes final : public ItemObject<CTARQRes, ITARQRes, rowSide, classid::TARQRes> {
+public:
+    CTARQRes() : ItemObject(0.0) {}
+
+    Status SetLT(double Bound) override;
+    Status SetEQ(double Bound) override;
+    Status SetGT(double Bound) override;
+    Status Sum(const ValueList& CoeffsAndCols) override;
+    Status get_Dual(double* value) override { return item_.getPrice(value); }
+};
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
+
+}  // namespace tarq
