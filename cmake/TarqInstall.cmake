@@ -9,7 +9,7 @@ set(public_headers
   frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
   frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h
   interfaces/classids.h interfaces/enumerations.h interfaces/enumerationtables.h interfaces/itarqmodel.h
-  interfaces/itarqmodelevents.h)
+  interfaces/itarqmodelevents.h interfaces/itarqres.h interfaces/itarqvar.h)
 set(staged "${CMAKE_BINARY_DIR}/public-headers")
 foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
   if(header MATCHES "/")

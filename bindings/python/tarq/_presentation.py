@@ -10,7 +10,10 @@ DETAILS = (
     ("NumberOfRows", "{} rows", int),
     ("NumberOfNZ", "{} nonzeros", int),
     ("Count", "{} elements", int),
+    ("ModelIndex", "number {}", int),
 )
+# A member that an object has only while another one of its members is true.
+CONDITIONS = {"ModelIndex": "IsAttached"}
 
 
 def members(obj):
@@ -39,6 +42,8 @@ def represent(obj):
         if not hasattr(kind, name):
             continue
         try:
+            if name in CONDITIONS and not getattr(obj, CONDITIONS[name]):
+                continue
             value = getattr(obj, name)
         except Exception:
             continue
@@ -47,5 +52,5 @@ def represent(obj):
         if value_type is str:
             title += " " + words.format(value)
         else:
-            sizes.append((words[:-1] if value == 1 else words).format(value))
+            sizes.append((words.removesuffix("s") if value == 1 else words).format(value))
     return f"<{title}: {', '.join(sizes)}>" if sizes else f"<{title}>"
