@@ -5,29 +5,12 @@
 namespace tarq {
 namespace {
 
-/// Positions from `first` to before `end`.
-struct PositionRange {
-    std::int32_t first = 0;
-    std::int32_t end = 0;
-};
-
+/// Position behind the members that stand together from `first` on.
 template <class FamilyOf>
-PositionRange findMembers(std::int32_t count, const IUnknown* family, FamilyOf familyOf) {
-    if (family == nullptr) return {};
-    PositionRange members;
-    while (members.first < count && familyOf(members.first) != family) ++members.first;
-    members.end = members.first;
-    while (members.end < count && familyOf(members.end) == family) ++members.end;
-    return members;
-}
-
-PositionRange findColumns(const ModelStore& store, const IUnknown* family) {
-    return findMembers(store.columnCount(), family,
-                       [&](std::int32_t position) { return store.column(position).family; });
-}
-
-PositionRange findRows(const ModelStore& store, const IUnknown* family) {
-    return findMembers(store.rowCount(), family, [&](std::int32_t position) { return store.row(position).family; });
+std::int32_t endOfMembers(std::int32_t first, std::int32_t count, const FamilyOf& familyOf) {
+    std::int32_t end = first + 1;
+    while (end < count && familyOf(end) == familyOf(first)) ++end;
+    return end;
 }
 
 }  // namespace
@@ -36,7 +19,7 @@ Outcome addFamilyColumn(ModelStore& store, const std::string& name, IUnknown* fa
     ColumnRecord column;
     column.name = name;
     column.upperBound = store.infinity();
-    column.family = family;
+    column.family = FamilyMark::of(family);
     return store.addColumnRecord(std::move(column));
 }
 
@@ -44,32 +27,36 @@ Outcome addFamilyRow(ModelStore& store, const std::string& name, IUnknown* famil
     RowRecord row;
     row.name = name;
     row.upperBound = store.infinity();
-    row.family = family;
+    row.family = FamilyMark::of(family);
     return store.addRowRecord(std::move(row));
 }
 
-Outcome getFamilyColumnStart(const ModelStore& store, const IUnknown* family, std::int32_t& number) {
-    const PositionRange members = findColumns(store, family);
-    if (members.first == members.end) return {status::wrongState, "TARQVarSet is not part of the model"};
-    number = members.first + 1;
+Outcome getFamilyColumnStart(const ModelStore& store, IUnknown* family, std::int32_t& number) {
+    const std::int32_t first = store.findFamilyColumn(FamilyMark::of(family));
+    if (first < 0) return {status::wrongState, "TARQVarSet is not part of the model"};
+    number = first + 1;
     return {};
 }
 
-Outcome getFamilyRowStart(const ModelStore& store, const IUnknown* family, std::int32_t& number) {
-    const PositionRange members = findRows(store, family);
-    if (members.first == members.end) return Status(1);
-    number = members.first + 1;
+Outcome getFamilyRowStart(const ModelStore& store, IUnknown* family, std::int32_t& number) {
+    const std::int32_t first = store.findFamilyRow(FamilyMark::of(family));
+    if (first < 0) return Status(1);
+    number = first + 1;
     return {};
 }
 
-void clearFamilyColumns(ModelStore& store, const IUnknown* family) {
-    const PositionRange members = findColumns(store, family);
-    store.removeColumns(members.first + 1, members.end);
+void clearFamilyColumns(ModelStore& store, IUnknown* family) {
+    const std::int32_t first = store.findFamilyColumn(FamilyMark::of(family));
+    if (first < 0) return;
+    const auto familyOf = [&](std::int32_t position) { return store.column(position).family; };
+    store.removeColumns(first + 1, endOfMembers(first, store.columnCount(), familyOf));
 }
 
-void clearFamilyRows(ModelStore& store, const IUnknown* family) {
-    const PositionRange members = findRows(store, family);
-    store.removeRows(members.first + 1, members.end);
+void clearFamilyRows(ModelStore& store, IUnknown* family) {
+    const std::int32_t first = store.findFamilyRow(FamilyMark::of(family));
+    if (first < 0) return;
+    const auto familyOf = [&](std::int32_t position) { return store.row(position).family; };
+    store.removeRows(first + 1, endOfMembers(first, store.rowCount(), familyOf));
 }
 
 }  // namespace tarq

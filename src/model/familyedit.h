@@ -1,7 +1,6 @@
 // The operations of the object interface by which families keep their columns and rows; modeledit.h tells their rules.
 //
-// A family adds all its members at once, so they stand next to each other. A family is known by its address only, and a
-// null family has no members.
+// A family adds all its members at once, so they stand next to each other. A null family has no members.
 #pragma once
 
 #include <cstdint>
@@ -17,13 +16,13 @@ namespace tarq {
 [[nodiscard]] Outcome addFamilyColumn(ModelStore& store, const std::string& name, IUnknown* family);
 [[nodiscard]] Outcome addFamilyRow(ModelStore& store, const std::string& name, IUnknown* family);
 
-/// Number of the family's first column. When there is none: 0x80041032. Linear.
-[[nodiscard]] Outcome getFamilyColumnStart(const ModelStore& store, const IUnknown* family, std::int32_t& number);
-/// Number of the family's first row. When there is none: status 1 without a description. Linear.
-[[nodiscard]] Outcome getFamilyRowStart(const ModelStore& store, const IUnknown* family, std::int32_t& number);
+/// Number of the family's first column. When there is none: 0x80041032.
+[[nodiscard]] Outcome getFamilyColumnStart(const ModelStore& store, IUnknown* family, std::int32_t& number);
+/// Number of the family's first row. When there is none: status 1 without a description.
+[[nodiscard]] Outcome getFamilyRowStart(const ModelStore& store, IUnknown* family, std::int32_t& number);
 
 /// Removes the family's columns or rows in one pass; nothing when it has none.
-void clearFamilyColumns(ModelStore& store, const IUnknown* family);
-void clearFamilyRows(ModelStore& store, const IUnknown* family);
+void clearFamilyColumns(ModelStore& store, IUnknown* family);
+void clearFamilyRows(ModelStore& store, IUnknown* family);
 
 }  // namespace tarq

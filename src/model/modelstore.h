@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/object.h"
 #include "frame/status.h"
 #include "interfaces/enumerations.h"
+#include "model/familymark.h"
 #include "model/nonzerotable.h"
 #include "model/recordtable.h"
 
@@ -27,7 +27,7 @@ struct ColumnRecord {
     double reducedCost = 0.0;
     double cost = 0.0;
     TARQColType type = TARQColType::Continuous;
-    IUnknown* family = nullptr;  ///< the family that created the column; not counted
+    FamilyMark family{};  ///< of the family that created the column
 };
 
 struct RowRecord {
@@ -38,7 +38,7 @@ struct RowRecord {
     double ipValue = 0.0;
     double lpValue = 0.0;
     double dual = 0.0;
-    IUnknown* family = nullptr;  ///< the family that created the row; not counted
+    FamilyMark family{};  ///< of the family that created the row
 };
 
 class ModelStore {
@@ -60,6 +60,10 @@ public:
     /// 0-based position of the column or row of this name, -1 when there is none. The empty name is never found.
     [[nodiscard]] std::int32_t findColumn(std::string_view name) const { return columns_.find(name); }
     [[nodiscard]] std::int32_t findRow(std::string_view name) const { return rows_.find(name); }
+
+    /// 0-based position of the first column or row with this mark, -1 when there is none.
+    [[nodiscard]] std::int32_t findFamilyColumn(FamilyMark family) const { return columns_.findFamily(family); }
+    [[nodiscard]] std::int32_t findFamilyRow(FamilyMark family) const { return rows_.findFamily(family); }
 
     /// Makes room for so many records in all, for readers that know the number beforehand.
     void reserveColumns(std::int32_t count) { columns_.reserve(count); }

@@ -1,7 +1,7 @@
 // RecordTable: the columns or the rows of a model, in model order, with an index of their names.
 //
 // Every non-empty name stands once in the index, with the record's current position. Any number of records may have an
-// empty name; those are not in the index. Names are compared byte by byte.
+// empty name; those are not in the index. Names are compared byte by byte. A record's family is fixed when it is added.
 #pragma once
 
 #include <algorithm>
@@ -13,8 +13,9 @@
 #include <utility>
 #include <vector>
 
-#include "frame/status.h"
 #include "frame/nameindex.h"
+#include "frame/status.h"
+#include "model/familystarts.h"
 #include "platform/largepages.h"
 
 namespace tarq {
@@ -44,6 +45,8 @@ public:
     [[nodiscard]] std::int32_t find(std::string_view name) const {
         return name.empty() ? NameIndex::absent : names_.find(name, nameOf());
     }
+    /// Position of the first record with this mark, or `absent`.
+    [[nodiscard]] std::int32_t findFamily(FamilyMark family) const { return families_.find(family); }
     void reserve(std::int32_t count) {
         records_.reserve(toIndex(count));
         preferLargePages(records_.data(), records_.capacity() * sizeof(Record));
@@ -55,6 +58,7 @@ public:
         if (records_.size() == records_.capacity()) records_.reserve(std::max<std::size_t>(16, 2 * records_.size()));
         if (!record.name.empty() && !names_.insert(record.name, count(), nameOf())) return duplicate(record.name);
         records_.push_back(std::move(record));
+        noteFamily();
         return {};
     }
 
@@ -74,6 +78,8 @@ public:
 
     /// Removes the records from number `first` to `last`, both within 1 and the count.
     void remove(std::int32_t first, std::int32_t last) {
+        families_.removing(first - 1, last, count(),
+                           [this](std::int32_t position) { return (*this)[position].family; });
         names_.removePositions(first - 1, last);
         records_.erase(records_.begin() + (first - 1), records_.begin() + last);
     }
@@ -94,6 +100,7 @@ public:
     /// Empties the table and gives its memory back.
     void clear() noexcept {
         names_.clear();
+        families_.clear();
         std::vector<Record>().swap(records_);
     }
 
@@ -102,6 +109,17 @@ private:
     [[nodiscard]] auto nameOf() const {
         return [this](std::int32_t position) -> std::string_view { return (*this)[position].name; };
     }
+    /// Of the record just added, which doesn't stay where there is no memory for it.
+    void noteFamily() {
+        const std::int32_t position = count() - 1;
+        try {
+            families_.added(records_.back().family, position);
+        } catch (...) {
+            if (!records_.back().name.empty()) names_.erase(records_.back().name, position);
+            records_.pop_back();
+            throw;
+        }
+    }
     [[nodiscard]] Outcome duplicate(const std::string& name) const {
         return {texts_->badName, std::string(texts_->duplicate) + name};
     }
@@ -109,6 +127,7 @@ private:
     const NameTexts* texts_;
     std::vector<Record> records_;
     NameIndex names_;
+    FamilyStarts families_;
 };
 
 }  // namespace tarq
