@@ -8,11 +8,15 @@
 #include "indexed/ctarqarray.h"
 #include "indexed/ctarqarrayenum.h"
 #include "indexed/ctarqres.h"
+#include "indexed/ctarqresset.h"
+#include "indexed/ctarqressetenum.h"
 #include "indexed/ctarqseries.h"
 #include "indexed/ctarqseriesenum.h"
 #include "indexed/ctarqset.h"
 #include "indexed/ctarqsetenum.h"
 #include "indexed/ctarqvar.h"
+#include "indexed/ctarqvarset.h"
+#include "indexed/ctarqvarsetenum.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodelevents.h"
 
@@ -28,16 +32,20 @@ constexpr std::array classes{
     ClassEntry{"TARQArray", classid::TARQArray, "ITARQArray", &createInstance<CTARQArray>, &ITARQArray::memberTable},
     ClassEntry{"TARQVar", classid::TARQVar, "ITARQVar", &createInstance<CTARQVar>, &ITARQVar::memberTable},
     ClassEntry{"TARQRes", classid::TARQRes, "ITARQRes", &createInstance<CTARQRes>, &ITARQRes::memberTable},
-    ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet"},
-    ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet"},
+    ClassEntry{"TARQVarSet", classid::TARQVarSet, "ITARQVarSet", &createInstance<CTARQVarSet>,
+               &ITARQVarSet::memberTable},
+    ClassEntry{"TARQResSet", classid::TARQResSet, "ITARQResSet", &createInstance<CTARQResSet>,
+               &ITARQResSet::memberTable},
     ClassEntry{"TARQSeriesEnum", classid::TARQSeriesEnum, "ITARQSeriesEnum", &createInstance<CTARQSeriesEnum>,
                &ITARQSeriesEnum::memberTable},
     ClassEntry{"TARQSetEnum", classid::TARQSetEnum, "ITARQSetEnum", &createInstance<CTARQSetEnum>,
                &ITARQSetEnum::memberTable},
     ClassEntry{"TARQArrayEnum", classid::TARQArrayEnum, "ITARQArrayEnum", &createInstance<CTARQArrayEnum>,
                &ITARQArrayEnum::memberTable},
-    ClassEntry{"TARQVarSetEnum", classid::TARQVarSetEnum, "ITARQVarSetEnum"},
-    ClassEntry{"TARQResSetEnum", classid::TARQResSetEnum, "ITARQResSetEnum"},
+    ClassEntry{"TARQVarSetEnum", classid::TARQVarSetEnum, "ITARQVarSetEnum", &createInstance<CTARQVarSetEnum>,
+               &ITARQVarSetEnum::memberTable},
+    ClassEntry{"TARQResSetEnum", classid::TARQResSetEnum, "ITARQResSetEnum", &createInstance<CTARQResSetEnum>,
+               &ITARQResSetEnum::memberTable},
     ClassEntry{"tarqprop1", classid::tarqprop1, ""},
 };
 

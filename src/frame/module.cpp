@@ -8,6 +8,7 @@ namespace {
 // The only shared state of the frame.
 std::atomic<std::int64_t> objects{0};
 std::atomic<std::int64_t> locks{0};
+std::atomic<std::uint64_t> numbers{0};
 
 constexpr auto relaxed = std::memory_order_relaxed;
 constexpr auto acquireRelease = std::memory_order_acq_rel;
@@ -22,5 +23,8 @@ void unlock() noexcept { locks.fetch_sub(1, acquireRelease); }
 
 std::int64_t liveObjects() noexcept { return objects.load(std::memory_order_acquire); }
 bool canUnload() noexcept { return liveObjects() == 0 && locks.load(std::memory_order_acquire) == 0; }
+
+
+std::uint64_t uniqueNumber() noexcept { return numbers.fetch_add(1, relaxed) + 1; }
 
 }  // namespace tarq::module

@@ -19,4 +19,7 @@ TARQ_API void unlock() noexcept;
 /// True when neither an object nor a lock holds the module.
 [[nodiscard]] TARQ_API bool canUnload() noexcept;
 
+/// A number that the process hasn't seen before and won't see again, from 1. Callable from any thread.
+[[nodiscard]] TARQ_API std::uint64_t uniqueNumber() noexcept;
+
 }  // namespace tarq::module

@@ -26,21 +26,9 @@ Status CTARQArrayEnum::Init(IUnknown* TARQArray, const Variant& Index1, const Va
 Status CTARQArrayEnum::Next(std::uint32_t count, Variant* values, std::uint32_t* fetched) {
     if (values == nullptr && count > 0) return status::nullPointer;
     if (!initialized_) return guarded(classid::TARQArrayEnum, notReady);
-    std::uint32_t done = 0;
-    Status read;
-    const Status ended = guarded(classid::TARQArrayEnum, [&]() -> Outcome {
-        for (; done < count && walk_.position() < walk_.count(); ++done) {
-            const Ref<ITARQArray> parent = parent_;  // which may call a client that starts this over another array
-            read = parent->get_ValueByFullIndexName(walk_.name(walk_.position()), &values[done]);
-            if (read.failed()) break;
-            walk_.advance();
-        }
-        return {};
+    return fetchItems(count, values, fetched, [](ITARQArray& array, const std::string& name, Variant& value) {
+        return array.get_ValueByFullIndexName(name, &value);
     });
-    if (!ended.isOk()) return ended;
-    if (read.failed()) return read;
-    if (fetched != nullptr) *fetched = done;
-    return done == count ? status::ok : fewerLeft;
 }
 
 Status CTARQArrayEnum::get__NewEnum(Ref<IUnknown>* value) {

@@ -58,6 +58,28 @@ protected:
         return {};
     }
 
+    /// What Next does once it is clear that it can: hands out the next items, each got by `fetch`, which is given the
+    /// parent, the item's name and where to put it. A fetch that fails ends the call.
+    template <class Fetch>
+    Status fetchItems(std::uint32_t count, Variant* values, std::uint32_t* fetched, const Fetch& fetch) {
+        std::uint32_t done = 0;
+        Status read;
+        const Status ended = guarded(classId, [&]() -> Outcome {
+            for (; done < count && walk_.position() < walk_.count(); ++done) {
+                const Ref<ParentInterface> parent =
+                    parent_;  // which may call a client that starts this over another one
+                read = fetch(*parent, walk_.name(walk_.position()), values[done]);
+                if (read.failed()) break;
+                walk_.advance();
+            }
+            return {};
+        });
+        if (!ended.isOk()) return ended;
+        if (read.failed()) return read;
+        if (fetched != nullptr) *fetched = done;
+        return done == count ? status::ok : IEnumVARIANT::fewerLeft;
+    }
+
     SelectionWalk walk_;
     Ref<ParentInterface> parent_;
     bool initialized_ = false;
