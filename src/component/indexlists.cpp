@@ -14,12 +14,17 @@
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
 #include "interfaces/itarqres.h"
+#include "interfaces/itarqresset.h"
+#include "interfaces/itarqressetenum.h"
 #include "interfaces/itarqseries.h"
 #include "interfaces/itarqseriesenum.h"
 #include "interfaces/itarqset.h"
 #include "interfaces/itarqsetenum.h"
 #include "interfaces/itarqvar.h"
+#include "interfaces/itarqvarset.h"
+#include "interfaces/itarqvarsetenum.h"
 #include "model/addressing.h"
+#include "model/familyedit.h"
 
 namespace tarq {
 namespace {
@@ -81,6 +86,42 @@ Outcome readItem(const AddressedStore& addressed, const Ref<IUnknown>& object, P
     return addressed.append(number, positions);
 }
 
+using FamilyStart = Outcome (*)(const ModelStore& store, IUnknown* family, std::int32_t& number);
+
+/// As many positions as the family has members, from its first one on.
+template <class Interface, FamilyStart start>
+Outcome readFamily(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions, bool& known) {
+    const Ref<Interface> family = object.query<Interface>();
+    known = static_cast<bool>(family);
+    if (!known) return {};
+    std::int32_t number = 0;
+    if (Outcome found = start(addressed.store, family.get(), number); !found.isOk()) return found;
+    std::int32_t count = 0;
+    if (const Status told = family->get_Count(&count); !told.isOk()) return told;
+    for (; count > 0; --count) {
+        if (Outcome appended = addressed.append(number, positions); !appended.isOk()) return appended;
+        ++number;
+    }
+    return {};
+}
+
+/// The names that a family's enumerator walks.
+template <class Interface>
+Outcome readFamilyEnum(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions,
+                       bool& known) {
+    const Ref<Interface> enumerator = object.query<Interface>();
+    known = static_cast<bool>(enumerator);
+    if (!known) return {};
+    std::int32_t count = 0;
+    if (const Status told = enumerator->get_Count(&count); !told.isOk()) return told;
+    for (std::int32_t item = 0; item < count; ++item) {
+        std::string name;
+        if (const Status told = enumerator->get_ItemName(item + 1, &name); !told.isOk()) return told;
+        if (Outcome appended = addressed.append(Variant(std::move(name)), positions); !appended.isOk()) return appended;
+    }
+    return {};
+}
+
 /// What the two sides differ in. Readers are asked in their order.
 struct SideRules {
     Resolve resolve;
@@ -88,8 +129,12 @@ struct SideRules {
     std::string_view badObject;
 };
 
-constexpr std::array<ObjectReader, 2> columnReaders{&readListedValues, &readItem<ITARQVar>};
-constexpr std::array<ObjectReader, 2> rowReaders{&readListedValues, &readItem<ITARQRes>};
+constexpr std::array<ObjectReader, 4> columnReaders{&readListedValues, &readItem<ITARQVar>,
+                                                    &readFamily<ITARQVarSet, &getFamilyColumnStart>,
+                                                    &readFamilyEnum<ITARQVarSetEnum>};
+constexpr std::array<ObjectReader, 4> rowReaders{&readListedValues, &readItem<ITARQRes>,
+                                                 &readFamily<ITARQResSet, &getFamilyRowStart>,
+                                                 &readFamilyEnum<ITARQResSetEnum>};
 
 constexpr SideRules columnRules{&resolveColumn, columnReaders, "Bad type of object for col indices."};
 constexpr SideRules rowRules{&resolveRow, rowReaders, "Bad type of object for row indices."};

@@ -11,6 +11,8 @@
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
 #include "interfaces/itarqvar.h"
+#include "interfaces/itarqvarset.h"
+#include "interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 namespace {
@@ -54,6 +56,24 @@ Outcome readColumnName(const Ref<IUnknown>& object, ColumnGroup& columns, bool& 
     return {};
 }
 
+/// The names of all that a family, or an enumerator over one, has.
+template <class Interface, Status (Interface::*nameOf)(std::int32_t number, std::string* name)>
+Outcome readMemberNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
+    const Ref<Interface> members = object.query<Interface>();
+    known = static_cast<bool>(members);
+    if (!known) return {};
+    std::int32_t count = 0;
+    clearLastError();
+    if (const Status told = members->get_Count(&count); !told.isOk()) return failureOf(told);
+    for (std::int32_t member = 0; member < count; ++member) {
+        std::string name;
+        const Status told = (members.get()->*nameOf)(member + 1, &name);
+        if (!told.isOk()) return failureOf(told);
+        columns.push_back(std::move(name));
+    }
+    return {};
+}
+
 /// The values of a set, series or array, or of what walks one, are names.
 Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
     ValueSource source;
@@ -71,7 +91,9 @@ Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, boo
 }
 
 /// Every kind of object that stands for columns, in the order in which they are asked.
-constexpr std::array<ColumnObjectReader, 2> columnObjectReaders{&readColumnName, &readValuesAsNames};
+constexpr std::array<ColumnObjectReader, 4> columnObjectReaders{
+    &readColumnName, &readMemberNames<ITARQVarSet, &ITARQVarSet::get_VarName>,
+    &readMemberNames<ITARQVarSetEnum, &ITARQVarSetEnum::get_ItemName>, &readValuesAsNames};
 
 Outcome readColumnObject(const Ref<IUnknown>& object, ColumnGroup& columns) {
     for (const ColumnObjectReader read : columnObjectReaders) {
