@@ -1,20 +1,44 @@
 #include "frame/nameindex.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
-#include <iterator>
+#include <new>
+#include <utility>
 
 #include "platform/entropy.h"
 
 namespace tarq {
 namespace {
 
-// Fuller than the library's own choice: an entry is compared by its hash first, which makes long searches cheap.
-constexpr float largestLoad = 0.8F;
+constexpr unsigned hashBits = 32;
+constexpr unsigned firstSlotBits = 4;
+
+/// As many names as a table of so many slots takes. A search compares hashes that stand side by side, which is cheap
+/// enough for a table as full as that.
+constexpr std::size_t countLimit(std::size_t slotCount) { return slotCount / 5 * 4; }
 
 }  // namespace
 
-NameIndex::NameIndex() : secret_(entropyWord()), multiplier_(entropyWord() | 1U) { entries_.max_load_factor(largestLoad); }
+NameIndex::NameIndex() : secret_(entropyWord()), multiplier_(entropyWord() | 1U) {}
+
+NameIndex::NameIndex(NameIndex&& other) noexcept
+    : slots_(std::exchange(other.slots_, {})),
+      count_(std::exchange(other.count_, 0)),
+      countLimit_(std::exchange(other.countLimit_, 0)),
+      shift_(other.shift_),
+      secret_(other.secret_),
+      multiplier_(other.multiplier_) {}
+
+NameIndex& NameIndex::operator=(NameIndex other) noexcept {
+    std::swap(slots_, other.slots_);
+    std::swap(count_, other.count_);
+    std::swap(countLimit_, other.countLimit_);
+    std::swap(shift_, other.shift_);
+    std::swap(secret_, other.secret_);
+    std::swap(multiplier_, other.multiplier_);
+    return *this;
+}
 
 // Multiply and fold, eight bytes at a time.
 std::uint32_t NameIndex::hashOf(std::string_view name) const {
@@ -31,21 +55,70 @@ std::uint32_t NameIndex::hashOf(std::string_view name) const {
     return static_cast<std::uint32_t>(hash >> 32U);
 }
 
-void NameIndex::removePositions(std::int32_t first, std::int32_t end) {
-    // An erased entry draws others into its place, also from the far end of the table, so nothing is renumbered before
-    // the last one is gone.
-    for (auto entry = entries_.begin(); entry != entries_.end();) {
-        const bool erased = entry->position >= first && entry->position < end;
-        entry = erased ? entries_.erase(entry) : std::next(entry);
+void NameIndex::erase(std::string_view name, std::int32_t position) {
+    if (slots_.empty()) return;
+    const std::uint32_t hash = hashOf(name);
+    std::size_t gap = placeOf(hash);
+    for (; slots_[gap].hash != hash || slots_[gap].position != position; gap = nextPlace(gap)) {
+        if (slots_[gap].position == absent) return;
     }
-    for (const Entry& entry : entries_) {
+    --count_;
+    // What stands behind the gap moves into it where its search would otherwise end there.
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t at = nextPlace(gap); slots_[at].position != absent; at = nextPlace(at)) {
+        const std::size_t searched = (at - placeOf(slots_[at].hash)) & mask;
+        if (searched < ((at - gap) & mask)) continue;
+        slots_[gap] = slots_[at];
+        gap = at;
+    }
+    slots_[gap] = {};
+}
+
+void NameIndex::removePositions(std::int32_t first, std::int32_t end) {
+    // Each entry is taken up and put down again, at its slot or before it. Beginning behind a free slot, no search
+    // passes a slot that is yet to be taken up.
+    const auto isFree = [](const Slot& slot) { return slot.position == absent; };
+    const auto start = static_cast<std::size_t>(std::ranges::find_if(slots_, isFree) - slots_.begin());
+    for (std::size_t step = 1; step < slots_.size(); ++step) {
+        Slot entry = std::exchange(slots_[(start + step) & (slots_.size() - 1)], {});
+        if (isFree(entry)) continue;
+        if (entry.position >= first && entry.position < end) {
+            --count_;
+            continue;
+        }
         if (entry.position >= end) entry.position -= end - first;
+        putDown(entry);
     }
 }
 
+void NameIndex::reserve(std::size_t count) {
+    if (count <= countLimit_) return;
+    unsigned slotBits = std::max(firstSlotBits, static_cast<unsigned>(std::bit_width(count)));
+    if (countLimit(std::size_t{1} << slotBits) < count) ++slotBits;
+    resize(slotBits);
+}
+
 void NameIndex::clear() noexcept {
-    entries_ = Entries();
-    entries_.max_load_factor(largestLoad);
+    slots_ = Slots();
+    count_ = countLimit_ = 0;
+}
+
+void NameIndex::putDown(const Slot& entry) {
+    std::size_t place = placeOf(entry.hash);
+    while (slots_[place].position != absent) place = nextPlace(place);
+    slots_[place] = entry;
+}
+
+void NameIndex::grow() { resize(slots_.empty() ? firstSlotBits : hashBits - shift_ + 1); }
+
+void NameIndex::resize(unsigned slotBits) {
+    if (slotBits > hashBits) throw std::bad_alloc();
+    const Slots old = std::exchange(slots_, Slots(std::size_t{1} << slotBits));
+    shift_ = hashBits - slotBits;
+    countLimit_ = countLimit(slots_.size());
+    for (const Slot& slot : old) {
+        if (slot.position != absent) putDown(slot);
+    }
 }
 
 }  // namespace tarq

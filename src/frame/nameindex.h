@@ -4,13 +4,15 @@
 // function from a position to the name that stands there. Names are compared byte by byte. The hash depends on a secret
 // drawn for each index, so that no model can be made whose names all fall on one place. When memory runs out an
 // operation throws std::bad_alloc and leaves the index as it was.
+//
+// A table of our own: with a million names each search waits for memory, and only one that tells the place of a name
+// beforehand lets a reader fetch the places of the next names while it works on the present one.
 #pragma once
-
-#include <tsl/robin_set.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "platform/largepages.h"
 
@@ -21,67 +23,77 @@ public:
     static constexpr std::int32_t absent = -1;
 
     NameIndex();
+    NameIndex(const NameIndex&) = default;
+    NameIndex(NameIndex&& other) noexcept;
+    NameIndex& operator=(NameIndex other) noexcept;
+    ~NameIndex() = default;
 
     /// Position of a name, or `absent`.
     template <class NameOf>
     [[nodiscard]] std::int32_t find(std::string_view name, const NameOf& nameOf) const {
-        const auto found = entries_.find(Wanted<NameOf>{hashOf(name), name, nameOf});
-        return found == entries_.end() ? absent : found->position;
+        return slots_.empty() ? absent : slots_[slotOf(hashOf(name), name, nameOf)].position;
+    }
+
+    /// Fetches what `find` and `insert` will look at, for callers that have other work to do before they ask.
+    void prefetch([[maybe_unused]] std::string_view name) const {
+#if defined(__GNUC__)
+        if (!slots_.empty()) __builtin_prefetch(&slots_[placeOf(hashOf(name))]);
+#endif
     }
 
     /// True when the name was free and is now at `position`.
     template <class NameOf>
     bool insert(std::string_view name, std::int32_t position, const NameOf& nameOf) {
-        const Wanted<NameOf> wanted{hashOf(name), name, nameOf};
-        if (entries_.find(wanted) != entries_.end()) return false;
-        entries_.insert(Entry{wanted.hash, position});
+        if (count_ == countLimit_) grow();
+        const std::uint32_t hash = hashOf(name);
+        Slot& slot = slots_[slotOf(hash, name, nameOf)];
+        if (slot.position != absent) return false;
+        slot = {hash, position};
+        ++count_;
         return true;
     }
 
-    /// Takes out the name that stands at `position`.
-    void erase(std::string_view name, std::int32_t position) { entries_.erase(Entry{hashOf(name), position}); }
+    /// Takes out the name that stands at `position`, if it is there.
+    void erase(std::string_view name, std::int32_t position);
 
     /// Takes out the positions from `first` to before `end` and moves those behind them up. Linear, whatever the range.
     void removePositions(std::int32_t first, std::int32_t end);
 
-    void reserve(std::size_t count) { entries_.reserve(count); }
+    /// Makes room for so many names in all.
+    void reserve(std::size_t count);
     /// Empties the index and gives its memory back.
     void clear() noexcept;
 
 private:
-    struct Entry {
-        std::uint32_t hash;
-        mutable std::int32_t position;  ///< has no part in the hash
+    struct Slot {
+        std::uint32_t hash = 0;
+        std::int32_t position = absent;
     };
-    template <class NameOf>
-    struct Wanted {
-        std::uint32_t hash;
-        std::string_view name;
-        const NameOf& nameOf;
-    };
-    struct Hash {
-        template <class Key>
-        std::size_t operator()(const Key& key) const {
-            return key.hash;
-        }
-    };
-    struct Equal {
-        using is_transparent = void;
-        bool operator()(const Entry& left, const Entry& right) const { return left.position == right.position; }
-        template <class NameOf>
-        bool operator()(const Entry& entry, const Wanted<NameOf>& wanted) const {
-            return entry.hash == wanted.hash && wanted.nameOf(entry.position) == wanted.name;
-        }
-        template <class NameOf>
-        bool operator()(const Wanted<NameOf>& wanted, const Entry& entry) const {
-            return (*this)(entry, wanted);
-        }
-    };
-    using Entries = tsl::robin_set<Entry, Hash, Equal, LargePageAllocator<Entry>>;
+    using Slots = std::vector<Slot, LargePageAllocator<Slot>>;
 
     [[nodiscard]] std::uint32_t hashOf(std::string_view name) const;
+    /// Where the search for a hash begins. The order of the places is that of the hashes, so that a larger table is
+    /// filled from one end to the other.
+    [[nodiscard]] std::size_t placeOf(std::uint32_t hash) const { return hash >> shift_; }
+    [[nodiscard]] std::size_t nextPlace(std::size_t place) const { return (place + 1) & (slots_.size() - 1); }
+    /// The slot that holds the name, else the free one where it belongs.
+    template <class NameOf>
+    [[nodiscard]] std::size_t slotOf(std::uint32_t hash, std::string_view name, const NameOf& nameOf) const {
+        std::size_t place = placeOf(hash);
+        for (; slots_[place].position != absent; place = nextPlace(place)) {
+            if (slots_[place].hash == hash && nameOf(slots_[place].position) == name) break;
+        }
+        return place;
+    }
+    /// Puts an entry that isn't there into the first free slot of its own.
+    void putDown(const Slot& entry);
+    void grow();
+    void resize(unsigned slotBits);
 
-    Entries entries_;
+    Slots slots_;  ///< none, or a power of two; always some of them free
+    std::size_t count_ = 0;
+    std::size_t countLimit_ = 0;
+    unsigned shift_ = 0;
     std::uint64_t secret_;
     std::uint64_t multiplier_;  ///< odd
 };
