@@ -64,6 +64,9 @@ public:
     /// 0-based position of the first column or row with this mark, -1 when there is none.
     [[nodiscard]] std::int32_t findFamilyColumn(FamilyMark family) const { return columns_.findFamily(family); }
     [[nodiscard]] std::int32_t findFamilyRow(FamilyMark family) const { return rows_.findFamily(family); }
+    /// Fetches what finding and adding a name will look at: for readers that know the names that come next.
+    void prefetchColumn(std::string_view name) const { columns_.prefetch(name); }
+    void prefetchRow(std::string_view name) const { rows_.prefetch(name); }
 
     /// Makes room for so many records in all, for readers that know the number beforehand.
     void reserveColumns(std::int32_t count) { columns_.reserve(count); }

@@ -47,6 +47,8 @@ public:
     }
     /// Position of the first record with this mark, or `absent`.
     [[nodiscard]] std::int32_t findFamily(FamilyMark family) const { return families_.find(family); }
+    /// Fetches what `find` and `add` of this name will look at.
+    void prefetch(std::string_view name) const { names_.prefetch(name); }
     void reserve(std::int32_t count) {
         records_.reserve(toIndex(count));
         preferLargePages(records_.data(), records_.capacity() * sizeof(Record));

@@ -60,4 +60,10 @@ bool DataLineScanner::readRestOfLine(std::size_t borrowed, std::string_view& nam
     return true;
 }
 
+std::string_view DataLineScanner::nameAhead() {
+    const std::string_view line = trimBlanks(nextLineAhead());
+    const std::string_view end = line.substr(line.size() - std::min(line.size(), longestName));
+    return end.substr(end.rfind(' ') + 1);
+}
+
 }  // namespace tarq

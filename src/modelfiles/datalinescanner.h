@@ -33,6 +33,10 @@ public:
     /// are.
     [[nodiscard]] bool readRestOfLine(std::size_t borrowed, std::string_view& name);
 
+    /// The name that a line some way behind the current one seems to end with, and with each call one line more. Only
+    /// a hint at what comes.
+    [[nodiscard]] std::string_view nameAhead();
+
 private:
     std::string_view takeToken();
 

@@ -143,6 +143,7 @@ private:
     void takeTerm(const Term& term) {
         if (termCount_ == terms_.size()) storeTerms();
         columns_.prefetch(term.variable);
+        if (inObjective_) store_.prefetchColumn(term.variable.text());
         terms_[termCount_++] = term;
     }
 

@@ -6,6 +6,9 @@
 namespace tarq {
 namespace {
 
+/// As long as memory takes to answer, about so many lines are read.
+constexpr int linesAhead = 8;
+
 // Most files have neither tabs nor carriage returns: finding none costs a fraction of rewriting every byte.
 bool holds(const std::string& text, char character) {
     return std::memchr(text.data(), character, text.size()) != nullptr;
@@ -46,7 +49,12 @@ std::size_t ModelText::currentLineNumber() const {
 
 void ModelText::dropText() {
     std::string().swap(text_);
-    lineStart_ = lineEnd_ = nextStart_ = 0;
+    lineStart_ = lineEnd_ = nextStart_ = aheadStart_ = 0;
+}
+
+void ModelText::restartAhead() {
+    aheadStart_ = nextStart_;
+    for (int line = 0; line < linesAhead; ++line) takeLineAhead();
 }
 
 }  // namespace tarq

@@ -52,16 +52,32 @@ protected:
         nextStart_ = lineEnd_ + 1;
         return true;
     }
-    void setNextLine(std::size_t start) { nextStart_ = start; }
+    /// A line some way behind the current one, without its line feed, and with each call one more; empty at the end of
+    /// the text. Only a hint at what comes: lines that don't count are among them.
+    [[nodiscard]] std::string_view nextLineAhead() {
+        if (aheadStart_ <= nextStart_) restartAhead();
+        return takeLineAhead();
+    }
     [[nodiscard]] std::size_t nextLineStart() const { return nextStart_; }
     [[nodiscard]] std::size_t lineEnd() const { return lineEnd_; }
     [[nodiscard]] std::string_view text() const { return text_; }
 
 private:
+    std::string_view takeLineAhead() {
+        if (aheadStart_ >= text_.size()) return {};
+        const char* const first = text_.data() + aheadStart_;
+        const auto* const feed = static_cast<const char*>(std::memchr(first, '\n', text_.size() - aheadStart_));
+        const auto length = static_cast<std::size_t>(feed - first);
+        aheadStart_ += length + 1;
+        return {first, length};
+    }
+    void restartAhead();
+
     std::string text_;
     std::size_t lineStart_ = 0;
     std::size_t lineEnd_ = 0;
     std::size_t nextStart_ = 0;
+    std::size_t aheadStart_ = 0;  ///< of the line that nextLineAhead gives next
 };
 
 }  // namespace tarq

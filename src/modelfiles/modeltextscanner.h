@@ -17,6 +17,7 @@ enum class FieldNumber { Read, Empty, NotNumeric };
 class ModelTextScanner : public ModelText {
 public:
     using ModelText::ModelText;
+    using ModelText::nextLineAhead;
 
     /// True when any line but the first begins with `word`. The cursor plays no part and doesn't move. Linear.
     [[nodiscard]] bool hasLaterLineWith(std::string_view word) const;
@@ -30,22 +31,18 @@ public:
         return false;
     }
 
-    /// Goes back to the line that starts at `lineStart`.
-    void returnTo(std::size_t lineStart) {
-        setNextLine(lineStart);
-        (void)nextFixedLine();
-    }
     /// The number of lines behind the current one that begin with a blank, up to the first that doesn't.
     [[nodiscard]] std::size_t countIndentedLines() const;
 
     /// A line begins with a blank where it isn't empty and its first character is one.
     [[nodiscard]] bool startsWithBlank() const { return line().starts_with(' '); }
-    /// The bytes at a place of the current line with the blanks around them; fewer than its width where the line ends.
-    [[nodiscard]] std::string_view rawField(FixedFieldPlace place) const {
-        const std::string_view current = line();
-        if (current.size() <= place.start()) return {};
-        return current.substr(place.start(), place.width);
+    /// The bytes at a place of a line with the blanks around them; fewer than its width where the line ends.
+    [[nodiscard]] static std::string_view rawField(std::string_view line, FixedFieldPlace place) {
+        if (line.size() <= place.start()) return {};
+        return line.substr(place.start(), place.width);
     }
+    /// The same of the current line.
+    [[nodiscard]] std::string_view rawField(FixedFieldPlace place) const { return rawField(line(), place); }
     /// Field `number` of the line, blanks at both ends trimmed.
     [[nodiscard]] std::string_view fixedField(std::size_t number) const {
         return trimBlanks(rawField(fixedFieldPlaces[number]));

@@ -68,13 +68,6 @@ struct Pair {
     bool absent = false;
 };
 
-/// A nonzero whose row is yet to be looked up.
-struct PendingNonzero {
-    FixedName rowName;
-    double value;
-    std::size_t lineStart;
-};
-
 /// So many columns tell how many there will be.
 constexpr std::int32_t sampleLength = 1000;
 
@@ -111,14 +104,15 @@ private:
     Failure readRow();
     Failure readColumnLine();
     Failure readMarker();
-    Failure enterColumn(FixedName name);
-    Failure storePending();
+    void enterColumn(FixedName name);
     Failure readColumnPair(FixedName columnName, PairFields fields, Pair& pair);
     Failure readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply);
     Failure readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair);
     Failure readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const;
     Failure readBound();
 
+    void fetchRowsAhead(std::string_view lineAhead) const;
+    void fetchColumnAhead(std::string_view lineAhead);
     bool nextLineOfSection() { return scanner_.nextFixedLine() && scanner_.startsWithBlank(); }
     FixedName fixedName(std::size_t field) const { return FixedName(scanner_.rawField(fixedFieldPlaces[field])); }
     bool sectionIs(std::string_view keyword) const { return equalsInUpperCase(scanner_.fixedField(0), keyword); }
@@ -131,10 +125,8 @@ private:
     bool integerBlock_ = false;
     FixedName columnName_;  ///< of the line before; columns mostly stand together
     std::int32_t columnPosition_ = MpsTarget::absent;
+    FixedName columnNameAhead_;
     std::size_t columnsStart_ = 0;
-    /// The nonzeros of the current column whose rows are on their way from memory; stored before anything else changes.
-    std::array<PendingNonzero, 32> pending_{};
-    std::size_t pendingCount_ = 0;
     double boundValue_ = 0.0;  ///< what a bound without a number takes: the last one read
 };
 
@@ -167,6 +159,8 @@ Failure MpsReader::readRows() {
     if (!sectionIs("ROWS")) return "ROWS indicator expected.";
     target_.reserveRows(scanner_.countIndentedLines());
     while (nextLineOfSection()) {
+        const FixedName ahead(ModelTextScanner::rawField(scanner_.nextLineAhead(), fixedFieldPlaces[2]));
+        target_.prefetchNewRow(ahead);
         if (const Failure failure = readRow(); !failure.empty()) return failure;
     }
     return none;
@@ -193,13 +187,27 @@ Failure MpsReader::readColumns() {
     if (!sectionIs("COLUMNS")) return "COLUMNS indicator expected.";
     columnsStart_ = scanner_.lineStart();
     while (nextLineOfSection()) {
-        if (const Failure failure = readColumnLine(); !failure.empty()) {
-            // A row that an earlier line names in vain comes first.
-            const Failure earlier = storePending();
-            return earlier.empty() ? failure : earlier;
-        }
+        const std::string_view ahead = scanner_.nextLineAhead();
+        fetchColumnAhead(ahead);
+        fetchRowsAhead(ahead);
+        if (const Failure failure = readColumnLine(); !failure.empty()) return failure;
     }
-    return storePending();
+    return none;
+}
+
+void MpsReader::fetchColumnAhead(std::string_view lineAhead) {
+    const FixedName name(ModelTextScanner::rawField(lineAhead, fixedFieldPlaces[2]));
+    if (name == columnNameAhead_) return;
+    columnNameAhead_ = name;
+    target_.store().prefetchColumn(name.text());
+}
+
+void MpsReader::fetchRowsAhead(std::string_view lineAhead) const {
+    for (const PairFields fields : {firstPair, secondPair}) {
+        const std::string_view field = ModelTextScanner::rawField(lineAhead, fixedFieldPlaces[fields.name]);
+        if (field.empty()) return;
+        target_.prefetchRow(FixedName(field));
+    }
 }
 
 Failure MpsReader::readColumnLine() {
@@ -232,24 +240,18 @@ Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair&
     if (const Failure failure = readPair(fields, coefficientMessages, pair); !failure.empty()) return failure;
     if (pair.absent) return none;
     // The column comes first: a line whose row is unknown leaves a new column behind.
-    if (columnPosition_ == MpsTarget::absent || columnName != columnName_) {
-        if (const Failure failure = enterColumn(columnName); !failure.empty()) return failure;
-    }
+    if (columnPosition_ == MpsTarget::absent || columnName != columnName_) enterColumn(columnName);
     if (pair.rowName == objectiveRowName_) {
-        if (const Failure failure = storePending(); !failure.empty()) return failure;
         target_.store().column(columnPosition_).cost = pair.value;
         return none;
     }
-    if (pendingCount_ == pending_.size()) {
-        if (const Failure failure = storePending(); !failure.empty()) return failure;
-    }
-    target_.prefetchRow(pair.rowName);
-    pending_[pendingCount_++] = {pair.rowName, pair.value, scanner_.lineStart()};
+    const std::int32_t row = target_.findRow(pair.rowName);
+    if (row == MpsTarget::absent) return unknownRow;
+    target_.setNonzero(columnPosition_, row, pair.value);
     return none;
 }
 
-Failure MpsReader::enterColumn(FixedName name) {
-    if (const Failure failure = storePending(); !failure.empty()) return failure;
+void MpsReader::enterColumn(FixedName name) {
     columnName_ = name;
     const bool sampleIsFull = target_.store().columnCount() == sampleLength;
     columnPosition_ = target_.findOrAddColumn(name, integerBlock_);
@@ -260,21 +262,6 @@ Failure MpsReader::enterColumn(FixedName name) {
         target_.reserveColumns(
             static_cast<std::size_t>(sampleLength * (static_cast<double>(rest) / static_cast<double>(read))));
     }
-    return none;
-}
-
-Failure MpsReader::storePending() {
-    const std::size_t count = std::exchange(pendingCount_, 0);
-    for (std::size_t index = 0; index < count; ++index) {
-        const PendingNonzero& nonzero = pending_[index];
-        const std::int32_t row = target_.findRow(nonzero.rowName);
-        if (row == MpsTarget::absent) {
-            scanner_.returnTo(nonzero.lineStart);
-            return unknownRow;
-        }
-        target_.setNonzero(columnPosition_, row, nonzero.value);
-    }
-    return none;
 }
 
 Failure MpsReader::readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const {
@@ -305,6 +292,7 @@ Failure MpsReader::readRowValues(std::string_view vectorParameter, const NumberM
     bool vectorSeen = false;
     while (nextLineOfSection()) {
         if (!std::exchange(vectorSeen, true)) model_.setParameter(vectorParameter, scanner_.fixedField(2));
+        fetchRowsAhead(scanner_.nextLineAhead());
         Pair pair;
         for (const PairFields fields : {firstPair, secondPair}) {
             if (const Failure failure = readRowValuePair(fields, messages, apply, pair); !failure.empty()) {

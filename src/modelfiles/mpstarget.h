@@ -53,7 +53,12 @@ public:
     void addRow(FixedName name, MpsRowType type);
     /// The positions of names, or `absent`.
     [[nodiscard]] std::int32_t findRow(FixedName name) const { return rows_.find(name); }
+    /// Fetches what findRow, and what addRow, will look at.
     void prefetchRow(FixedName name) const { rows_.prefetch(name); }
+    void prefetchNewRow(FixedName name) const {
+        rows_.prefetch(name);
+        store_.prefetchRow(name.text());
+    }
     /// For a section that mostly names the columns in their order.
     [[nodiscard]] std::int32_t findNextColumn(FixedName name) {
         return finder_.find(name.text(), [&] { return store_.findColumn(name.text()); });

@@ -64,6 +64,7 @@ private:
 
     std::string readColumns() {
         for (; store_.columnCount() < columns_ && scanner_.nextDataLine();) {
+            store_.prefetchColumn(scanner_.nameAhead());
             if (std::string message = readColumn(); !message.empty()) return message;
         }
         if (store_.columnCount() == columns_) return {};
@@ -91,6 +92,7 @@ private:
 
     std::string readRows() {
         for (; store_.rowCount() < rows_ && scanner_.nextDataLine();) {
+            store_.prefetchRow(scanner_.nameAhead());
             if (std::string message = readRow(); !message.empty()) return message;
         }
         if (store_.rowCount() == rows_) return {};
