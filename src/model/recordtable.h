@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -50,14 +51,13 @@ public:
     /// Fetches what `find` and `add` of this name will look at.
     void prefetch(std::string_view name) const { names_.prefetch(name); }
     void reserve(std::int32_t count) {
-        records_.reserve(toIndex(count));
-        preferLargePages(records_.data(), records_.capacity() * sizeof(Record));
+        reserveRecords(toIndex(count));
         names_.reserve(toIndex(count));
     }
 
     Outcome add(Record&& record) {
         // Room first: once the name is in the index, the record must follow.
-        if (records_.size() == records_.capacity()) records_.reserve(std::max<std::size_t>(16, 2 * records_.size()));
+        if (records_.size() == records_.capacity()) reserveRecords(std::max<std::size_t>(16, 2 * records_.size()));
         if (!record.name.empty() && !names_.insert(record.name, count(), nameOf())) return duplicate(record.name);
         records_.push_back(std::move(record));
         noteFamily();
@@ -108,6 +108,15 @@ public:
 
 private:
     [[nodiscard]] static std::size_t toIndex(std::int32_t position) { return static_cast<std::size_t>(position); }
+    /// The records that move there are the first to fill the new room.
+    void reserveRecords(std::size_t count) {
+        if (count <= records_.capacity()) return;
+        std::vector<Record> larger;
+        larger.reserve(count);
+        preferLargePages(larger.data(), count * sizeof(Record));
+        larger.insert(larger.end(), std::make_move_iterator(records_.begin()), std::make_move_iterator(records_.end()));
+        records_.swap(larger);
+    }
     [[nodiscard]] auto nameOf() const {
         return [this](std::int32_t position) -> std::string_view { return (*this)[position].name; };
     }

@@ -52,29 +52,24 @@ bool FreeTokenScanner::nextToken() {
 }
 
 std::size_t FreeTokenScanner::lengthOfTokenAt(std::size_t start) const {
-    const std::string_view rest = text().substr(start, commentStop_ - start);
-    const char first = rest[0];
-    const char second = rest.size() > 1 ? rest[1] : ' ';
+    const char* const begin = text().data() + start;
+    const char* const stop = text().data() + commentStop_;
+    const char first = *begin;
+    const char second = begin + 1 != stop ? begin[1] : ' ';
     if (first == '+' || first == '-' || first == ')') return 1;
     if (first == '=') return second == '<' || second == '>' ? 2 : 1;
     if (first == '<' || first == '>') return second == '=' ? 2 : 1;
     if (isDigit(first) || (first == '.' && isDigit(second))) {
-        std::size_t points = 0;
-        std::size_t length = 0;
-        while (length < rest.size() && points < 2 && (isDigit(rest[length]) || rest[length] == '.')) {
-            if (rest[length] == '.') ++points;
-            ++length;
+        const char* end = std::find_if_not(begin, stop, isDigit);
+        for (int points = 0; points < 2 && end != stop && *end == '.'; ++points) {
+            ++end;
+            if (points == 0) end = std::find_if_not(end, stop, isDigit);
         }
-        return length;
+        return static_cast<std::size_t>(end - begin);
     }
-    const auto end =
-        std::ranges::find_if(rest, [](char character) { return endsWord[static_cast<unsigned char>(character)]; });
-    return static_cast<std::size_t>(end - rest.begin());
-}
-
-bool FreeTokenScanner::isRelation() const {
-    const std::string_view current = token();
-    return !current.empty() && (current[0] == '<' || current[0] == '>' || current[0] == '=');
+    const char* const end =
+        std::find_if(begin, stop, [](char character) { return endsWord[static_cast<unsigned char>(character)]; });
+    return static_cast<std::size_t>(end - begin);
 }
 
 bool FreeTokenScanner::peekIsCloseParen() {
@@ -91,7 +86,7 @@ bool FreeTokenScanner::peekIsCloseParen() {
     return false;
 }
 
-bool FreeTokenScanner::isSubjectToHere() {
+bool FreeTokenScanner::takeSubjectTo() {
     constexpr std::array<std::string_view, 4> keywords{"ST", "S.T.", "SUCH THAT", "SUBJECT TO"};
     const std::string_view rest = text().substr(tokenStart_);
     for (const std::string_view keyword : keywords) {

@@ -19,7 +19,10 @@ public:
     /// The current token; empty at the end of the text.
     [[nodiscard]] std::string_view token() const { return text().substr(tokenStart_, tokenLength_); }
     [[nodiscard]] std::size_t tokenStart() const { return tokenStart_; }
-    [[nodiscard]] bool isRelation() const;
+    [[nodiscard]] bool isRelation() const {
+        const char first = tokenLength_ > 0 ? text()[tokenStart_] : ' ';
+        return first == '<' || first == '>' || first == '=';
+    }
     /// How far behind the start of the current token the next `character` stands, or the end of the text. Linear.
     [[nodiscard]] std::size_t distanceTo(char character) const {
         return std::min(text().find(character, tokenStart_), textLength()) - tokenStart_;
@@ -30,13 +33,16 @@ public:
     [[nodiscard]] bool peekIsCloseParen();
     /// Whether the text from the current token on is one of the spellings of "subject to", with a blank or a line feed
     /// behind it. The current token is then all of it.
-    [[nodiscard]] bool isSubjectToHere();
+    [[nodiscard]] bool isSubjectToHere() {
+        return tokenLength_ > 0 && upperCased(text()[tokenStart_]) == 'S' && takeSubjectTo();
+    }
     /// The text from the current token to the end of the data in its line, the character behind that included; at most
     /// 32 characters.
     [[nodiscard]] std::string_view titleText() const;
 
 private:
     [[nodiscard]] bool nextFreeLine();
+    [[nodiscard]] bool takeSubjectTo();
     [[nodiscard]] std::size_t lengthOfTokenAt(std::size_t start) const;
 
     std::size_t commentStop_ = 0;  ///< where the data of the line ends

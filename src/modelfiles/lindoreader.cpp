@@ -12,6 +12,7 @@
 #include "modelfiles/columnstatements.h"
 #include "modelfiles/fixednametable.h"
 #include "modelfiles/freetokenscanner.h"
+#include "platform/largepages.h"
 
 namespace tarq {
 namespace {
@@ -97,6 +98,7 @@ private:
         }
         storeTerms();
         inObjective_ = false;
+        placeInRow_.resize(static_cast<std::size_t>(store_.columnCount()));
         (void)scanner_.nextToken();
         return {};
     }
@@ -121,7 +123,8 @@ private:
         const std::string_view name = scanner_.token();
         if (name.size() > longestName) return "Variable names may not be longer than 8 characters.";
         if (name.front() >= '0' && name.front() <= '9') return Message(messages.digitFirst);
-        if (std::ranges::any_of(name, isOperator)) {
+        // No other token begins with an operator, and no word has one inside.
+        if (isOperator(name.front())) {
             if (messages.isObjective && isSign(name)) return "No constans allowed in objective function.";
             return std::string("Illegal character in variable name '").append(name).append("'.");
         }
@@ -135,7 +138,8 @@ private:
     [[nodiscard]] FixedName variableHere() const {
         const std::string_view token = scanner_.token();
         std::array<char, longestName> capitals{};
-        for (std::size_t i = 0; i < token.size(); ++i) capitals[i] = upperCased(token[i]);
+        token.copy(capitals.data(), token.size());
+        for (char& character : capitals) character = upperCased(character);
         return FixedName(std::string_view(capitals.data(), token.size()));
     }
 
@@ -151,7 +155,10 @@ private:
     void storeTerms() {
         const std::size_t count = std::exchange(termCount_, 0);
         std::array<std::int32_t, termsKept> positions;
-        for (std::size_t i = 0; i < count; ++i) positions[i] = findOrAddColumn(terms_[i].variable);
+        for (std::size_t i = 0; i < count; ++i) {
+            positions[i] = findOrAddColumn(terms_[i].variable);
+            if (!inObjective_) prefetchPlace(positions[i]);
+        }
         for (std::size_t i = 0; i < count; ++i) {
             if (inObjective_) {
                 store_.column(positions[i]).cost += terms_[i].coefficient;
@@ -177,10 +184,11 @@ private:
     void reserveColumns() {
         const auto read = static_cast<double>(scanner_.tokenStart() - objectiveStart_);
         const auto rest = static_cast<double>(scanner_.distanceTo(')'));
-        const auto count = static_cast<std::int32_t>(std::min(sampleLength * (1.0 + rest / read), largestGuess));
-        store_.reserveColumns(count);
+        const double count = std::min(sampleLength * (1.0 + rest / read), largestGuess);
         columns_.reserve(static_cast<std::size_t>(count));
-        placeInRow_.reserve(static_cast<std::size_t>(count));
+        // The first columns may be longer than most. What is reserved in vain is never filled.
+        constexpr double margin = 1.05;
+        store_.reserveColumns(static_cast<std::int32_t>(margin * count));
     }
 
     Message readRestrictions() {
@@ -216,6 +224,13 @@ private:
             if (!scanner_.nextToken()) return Message(restrictionMessages.incomplete);
         }
         return readRightHandSide();
+    }
+
+    void prefetchPlace([[maybe_unused]] std::int32_t position) const {
+#if defined(__GNUC__)
+        const auto index = static_cast<std::size_t>(position);
+        if (index < placeInRow_.size()) __builtin_prefetch(&placeInRow_[index]);
+#endif
     }
 
     void addToRow(std::int32_t position, double coefficient) {
@@ -332,9 +347,10 @@ private:
     static constexpr std::size_t termsKept = 32;
     std::array<Term, termsKept> terms_{};
     std::size_t termCount_ = 0;
-    ColumnFinder finder_{store_};            ///< of the statements
-    std::vector<RowEntry> row_;              ///< of the restriction that is read
-    std::vector<std::uint32_t> placeInRow_;  ///< by column, where it stood in the latest row that had it
+    ColumnFinder finder_{store_};  ///< of the statements
+    std::vector<RowEntry> row_;    ///< of the restriction that is read
+    std::vector<std::uint32_t, LargePageAllocator<std::uint32_t>>
+        placeInRow_;  ///< by column, where it stood in the latest row that had it
 };
 
 }  // namespace
