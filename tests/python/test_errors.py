@@ -34,7 +34,7 @@ def test_a_failing_status_raises_with_all_it_tells(call, kind, status, descripti
         assert error.description == description
 
 
-@pytest.mark.parametrize("name, words", [("TARQVarSet", "doesn't offer"), ("Nothing", "no class")])
+@pytest.mark.parametrize("name, words", [("tarqprop1", "doesn't offer"), ("Nothing", "no class")])
 def test_classes_that_are_not_there_say_so(name, words):
     with pytest.raises(tarq.Error, match=words) as caught:
         tarq.create(name)

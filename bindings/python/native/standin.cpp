@@ -12,6 +12,7 @@
 #include "frame/ienumvariant.h"
 #include "frame/supporterrorinfo.h"
 #include "heldobject.h"
+#include "interfaces/ifamilyidentity.h"
 #include "values.h"
 
 namespace tarq::python {
@@ -37,7 +38,7 @@ bool isMethod(py::handle value) {
 /// whatever its class lists.
 bool isCalledDirectly(const Guid& interfaceId) {
     for (const Guid& id : {IEnumVARIANT::id, IConnectionPoint::id, IConnectionPointContainer::id, IClassFactory::id,
-                           ISupportErrorInfo::id}) {
+                           ISupportErrorInfo::id, IFamilyIdentity::id}) {
         if (interfaceId == id) return true;
     }
     return std::ranges::any_of(classTable(), [&](const ClassEntry& entry) {
