@@ -65,7 +65,11 @@ Outcome readCells(ArrayStore& store, const Selection& selection, Variant& value)
     return {};
 }
 
-Outcome writeCells(ArrayStore& store, const Selection& selection, std::span<Variant> values) {
+Outcome writeCells(ArrayStore& store, const Selection& selection, std::vector<Variant>& values) {
+    if (isWhole(store, selection)) {
+        store.replaceBlock(values);
+        return {};
+    }
     return forEachSelected(store, selection,
                            [&](Variant& cell, std::size_t number) { cell = std::move(values[number]); });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "frame/status.h"
 #include "frame/variant.h"
@@ -14,9 +15,9 @@ namespace tarq {
 /// "Index '.a.b' does not exist.", invalidArgument, where a combination has no cell.
 Outcome readCells(ArrayStore& store, const Selection& selection, Variant& value);
 
-/// Stores the values, one for each selected cell in their order; values beyond them are left. Fails as readCells, with
-/// what was stored until then.
-Outcome writeCells(ArrayStore& store, const Selection& selection, std::span<Variant> values);
+/// Stores the values, one for each selected cell in their order, and takes them; there may be more. Fails as readCells,
+/// with what was stored until then.
+Outcome writeCells(ArrayStore& store, const Selection& selection, std::vector<Variant>& values);
 
 /// Stores the values in the cells in their order, from the first one on; cells without a value stay as they are. Fails
 /// as readCells, and without storing anything where there are more values than combinations of elements.

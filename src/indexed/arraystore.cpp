@@ -125,6 +125,16 @@ std::string ArrayStore::nameOf(std::size_t combination) const {
     return fullIndexName({}, *dimensions_, positionsOf(combination));
 }
 
+void ArrayStore::replaceBlock(std::vector<Variant>& values) {
+    values.resize(cells_.size());
+    // A list with much room to spare would keep it for as long as the array lives.
+    if (values.capacity() <= values.size() + values.size() / 8) {
+        cells_.swap(values);
+    } else {
+        std::ranges::move(values, cells_.begin());
+    }
+}
+
 Variant* ArrayStore::cell(std::span<const std::size_t> positions) {
     const std::vector<Indexset>& indexsets = *dimensions_;
     if (byName_) return cellNamed(fullIndexName({}, indexsets, positions));

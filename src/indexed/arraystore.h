@@ -52,6 +52,8 @@ public:
     /// All cells in the order of the combinations; empty where they are kept by name.
     [[nodiscard]] std::span<Variant> block() noexcept { return cells_; }
     [[nodiscard]] std::span<const Variant> block() const noexcept { return cells_; }
+    /// Replaces all cells of the block, which isn't empty, by the first of at least as many values.
+    void replaceBlock(std::vector<Variant>& values);
     /// Hands every cell to `use`.
     template <class Use>
     void forEachCell(const Use& use);

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iterator>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -41,8 +43,26 @@ Outcome appendElement(const ElementReader& reader, std::size_t position, Kind ta
     return appendConverted(reader.value(position), target, values);
 }
 
+/// What normalizeValue makes of a double.
+Variant normalized(double number) {
+    constexpr double least = std::numeric_limits<std::int32_t>::min();
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    if (number >= least && number <= most) {
+        const auto whole = static_cast<std::int32_t>(number);
+        if (static_cast<double>(whole) == number) return Variant(whole);
+    }
+    return Variant(number);
+}
+
 Outcome appendAllElements(const ElementReader& reader, std::size_t count, Kind target, std::vector<Variant>& values) {
     reserveMore(values, count);
+    if (reader.isNumeric() && (target == Kind::Double || target == Kind::Empty)) {
+        for (std::size_t position = 0; position < count; ++position) {
+            const double number = reader.number(position);
+            values.push_back(target == Kind::Double ? Variant(number) : normalized(number));
+        }
+        return {};
+    }
     for (std::size_t position = 0; position < count; ++position) {
         if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
     }
