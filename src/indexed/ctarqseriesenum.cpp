@@ -20,8 +20,8 @@ Status CTARQSeriesEnum::Init(double Start, double End, double Step) {
 }
 
 Status CTARQSeriesEnum::Next(std::uint32_t count, Variant* values, std::uint32_t* fetched) {
-    if (values == nullptr) return status::nullPointer;
     if (!initialized_) return notInitialized();
+    if (values == nullptr && count > 0) return status::nullPointer;
     std::uint32_t taken = 0;
     for (; taken < count && walk_.inRange(); ++taken) {
         values[taken] = Variant(walk_.current);
