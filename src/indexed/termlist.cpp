@@ -4,7 +4,6 @@
 #include <span>
 #include <utility>
 
-#include "frame/convertelement.h"
 #include "frame/object.h"
 #include "frame/objecterror.h"
 #include "indexed/objectvalues.h"
@@ -81,13 +80,9 @@ Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, boo
     known = source.offered;
     if (!opened.isOk() || !known) return opened;
     std::vector<Variant> texts;
-    std::string message;
-    Outcome walked = walkValues(source, [&](Variant value) -> Outcome {
-        if (convertElement(std::move(value), Kind::Text, texts, message)) return {};
-        return {status::invalidArgument, message};
-    });
-    if (walked.isOk()) appendNames(texts, columns);
-    return walked;
+    Outcome read = collectObjectValues(object.get(), Kind::Text, texts);
+    if (read.isOk()) appendNames(texts, columns);
+    return read;
 }
 
 /// Every kind of object that stands for columns, in the order in which they are asked.
