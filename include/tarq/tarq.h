@@ -1,5 +1,5 @@
-// All that a C++ client of the component needs: the interfaces, the dynamic values, references, createObject and events,
-// and what a late-bound one calls members and reads tables by.
+// All that a C++ client of the component needs: the interfaces, the dynamic values, references, createObject and
+// events, and what a late-bound one calls members and reads tables by.
 #pragma once
 
 #include "component/classtable.h"
