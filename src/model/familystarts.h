@@ -1,10 +1,10 @@
 // FamilyStarts: where the members of each family begin, so that finding a family needs no walk over the model.
 #pragma once
 
-#include <tsl/robin_map.h>
-
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <unordered_map>
 
 #include "model/familymark.h"
 
@@ -45,7 +45,7 @@ private:
         }
     };
 
-    tsl::robin_map<std::uint64_t, std::int32_t, Hash> starts_;
+    std::unordered_map<std::uint64_t, std::int32_t, Hash> starts_;
     FamilyMark last_;  ///< of the last record added that has one
 };
 
@@ -56,7 +56,7 @@ void FamilyStarts::removing(std::int32_t first, std::int32_t end, std::int32_t c
     const std::int32_t removed = end - first;
     bool begins = false;
     for (auto entry = starts_.begin(); entry != starts_.end(); ++entry) {
-        std::int32_t& start = entry.value();
+        std::int32_t& start = entry->second;
         if (start >= end) {
             start -= removed;
         } else if (start >= first) {
@@ -70,7 +70,7 @@ void FamilyStarts::removing(std::int32_t first, std::int32_t end, std::int32_t c
         const FamilyMark mark = markOf(position);
         if (mark == nullptr) continue;
         const auto found = starts_.find(mark.value());
-        if (found != starts_.end() && found->second == absent) found.value() = position - removed;
+        if (found != starts_.end() && found->second == absent) found->second = position - removed;
     }
     for (auto entry = starts_.begin(); entry != starts_.end();) {
         entry = entry->second == absent ? starts_.erase(entry) : std::next(entry);
