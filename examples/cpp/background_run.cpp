@@ -7,7 +7,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 #include <future>
 #include <random>
 #include <string>
@@ -79,22 +78,21 @@ void showLoad(ITARQModel& model) {
     std::printf("best load: %d parcels, value %.0f\n", loaded, value);
 }
 
+void run(int seconds) {
+    const Ref<ITARQModel> model = newModel();
+    build(*model);
+    std::promise<void> end;
+    std::uint32_t cookie = 0;
+    check(adviseFinished(
+        *model, [&] { end.set_value(); }, &cookie));  // called on the thread of the run
+    check(model->OptimizeAsync());
+    watch(*model, end.get_future(), seconds);
+    check(unadviseFinished(*model, cookie));
+    showLoad(*model);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    try {
-        const Ref<ITARQModel> model = newModel();
-        build(*model);
-        std::promise<void> end;
-        std::uint32_t cookie = 0;
-        check(adviseFinished(
-            *model, [&] { end.set_value(); }, &cookie));  // called on the thread of the run
-        check(model->OptimizeAsync());
-        watch(*model, end.get_future(), argc > 1 ? std::atoi(argv[1]) : 10);
-        check(unadviseFinished(*model, cookie));
-        showLoad(*model);
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "%s\n", failure.what());
-        return 1;
-    }
+    return exitCode([&] { run(argc > 1 ? std::atoi(argv[1]) : 10); });
 }

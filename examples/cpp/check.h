@@ -3,13 +3,15 @@
 
 #include <tarq/tarq.h>
 
+#include <cstdio>
+#include <exception>
 #include <stdexcept>
 #include <string>
 
 /// Throws what the component has to say when a call has failed. A success with a message, such as a run that ended at a
-/// limit, is returned.
-inline tarq::Status check(tarq::Status status) {
-    if (!status.failed()) return status;
+/// limit, is none.
+inline void check(tarq::Status status) {
+    if (!status.failed()) return;
     const tarq::ObjectError* error = tarq::lastError();
     throw std::runtime_error(error != nullptr ? error->description : std::string(tarq::status::meaning(status)));
 }
@@ -26,4 +28,16 @@ Value valueOf(const Get& get) {
     Value value{};
     check(get(&value));
     return value;
+}
+
+/// Runs a program and gives the exit code of main; a failure is told on standard error.
+template <class Program>
+int exitCode(const Program& program) {
+    try {
+        program();
+        return 0;
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
 }

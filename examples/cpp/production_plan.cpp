@@ -4,7 +4,6 @@
 // more unit of it would be worth.
 #include <array>
 #include <cstdio>
-#include <exception>
 
 #include "check.h"
 
@@ -66,19 +65,16 @@ void show(ITARQModel& model) {
     }
 }
 
+void plan() {
+    const Ref<ITARQModel> model = newModel();
+    build(*model);
+    check(model->Optimize());
+    const auto status =
+        valueOf<TARQSolutionStatusTyp>([&](TARQSolutionStatusTyp* value) { return model->get_SolutionStatus(value); });
+    if (status != TARQSolutionStatusTyp::LPOptimalSolution) throw std::runtime_error("there is no plan");
+    show(*model);
+}
+
 }  // namespace
 
-int main() {
-    try {
-        const Ref<ITARQModel> model = newModel();
-        build(*model);
-        check(model->Optimize());
-        const auto status = valueOf<TARQSolutionStatusTyp>(
-            [&](TARQSolutionStatusTyp* value) { return model->get_SolutionStatus(value); });
-        if (status != TARQSolutionStatusTyp::LPOptimalSolution) throw std::runtime_error("there is no plan");
-        show(*model);
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "%s\n", failure.what());
-        return 1;
-    }
-}
+int main() { return exitCode(plan); }

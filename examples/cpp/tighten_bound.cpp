@@ -3,7 +3,6 @@
 // usage: tighten_bound FILE COLUMN BOUND, such as tighten_bound refinery_blend.mps SELLP 10
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 #include <string>
 
 #include "check.h"
@@ -43,10 +42,5 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: %s FILE COLUMN BOUND\n", argv[0]);
         return 1;
     }
-    try {
-        compare(argv[1], Variant(argv[2]), std::atof(argv[3]));
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "%s\n", failure.what());
-        return 1;
-    }
+    return exitCode([&] { compare(argv[1], Variant(argv[2]), std::atof(argv[3])); });
 }

@@ -1,0 +1,45 @@
+// Who does which job, so that all are done in the fewest hours: an assignment of people to jobs.
+//
+// The rows of people and those of jobs are families; Sum over a slice of the columns makes each row. The linear model
+// suffices: its corners are whole.
+#include "algebra.h"
+
+using namespace tarq;
+
+namespace {
+
+const Names jobs{"roof", "walls", "floor", "wiring", "pipes", "paint"};
+const Names people{"Ada", "Ben", "Cem", "Dora", "Emil", "Fee"};
+const Table hours{{13, 21, 20, 12, 8, 26},  {22, 26, 25, 16, 10, 23}, {36, 20, 17, 28, 24, 14},
+                  {28, 33, 22, 25, 18, 31}, {15, 18, 27, 14, 9, 19},  {24, 19, 12, 23, 20, 11}};
+
+Columns build(ITARQModel& model) {
+    Columns does(model, "does", {people, jobs});
+    does.put(&ITARQVarSet::put_Cost, hours);
+    does.put(&ITARQVarSet::put_UB, 1);
+    const Rows works(model, "works", {people});
+    const Rows done(model, "done", {jobs});
+    for (const std::string& person : people) check(works.row(person)->Sum(terms(does.slice(person))));
+    for (const std::string& job : jobs) check(done.row(job)->Sum(terms(does.slice(all, job))));
+    check(works->SetEQ(Variant(1)));
+    check(done->SetEQ(Variant(1)));
+    return does;
+}
+
+void assign() {
+    const Ref<ITARQModel> model = newModel();
+    const Columns does = build(*model);
+    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    for (const std::string& person : people) {
+        for (const std::string& job : jobs) {
+            if (does.get(&ITARQVarSet::get_LPSol, person, job) < 0.5) continue;
+            std::printf("  %-5s %-7s %3g hours\n", person.c_str(), job.c_str(),
+                        does.get(&ITARQVarSet::get_Cost, person, job));
+        }
+    }
+    std::printf("%g hours in all\n", valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+}
+
+}  // namespace
+
+int main() { return exitCode(assign); }

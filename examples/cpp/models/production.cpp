@@ -1,0 +1,91 @@
+// What to make and what to store over half a year, so that every month's demand is met at the least cost.
+//
+// Columns and rows are families over products and months. What is in store at the end of one month is there at the
+// start of the next: the balance of a month has the store of the month before it, a shifted index that one call enters.
+#include "algebra.h"
+
+using namespace tarq;
+
+namespace {
+
+const Names months{"Jan", "Feb", "Mar", "Apr", "May", "Jun"};
+const Names afterFirst(months.begin() + 1, months.end());
+const Names beforeLast(months.begin(), months.end() - 1);
+const Names products{"bicycle", "trailer"};
+const Table demand{{180, 220, 410, 650, 720, 480}, {40, 60, 120, 200, 190, 110}};
+const Table cost{{240, 240, 250, 255, 255, 250}, {130, 130, 130, 138, 138, 135}};  // euros to make one
+const Numbers storing{4, 2.5};                                                     // euros a piece and month
+const Numbers hoursEach{2.5, 1.5};
+const Numbers hours{1150, 1100, 1250, 1250, 1200, 1250};  // at the normal wage
+constexpr double overtimeHours = 260;                     // a month
+constexpr double wage = 12;                               // what an hour of overtime costs more
+const Numbers atFirst{60, 25};                            // in store
+constexpr double room = 420;                              // pieces of both that fit in
+
+struct Plan {
+    Columns make;
+    Columns store;
+    Columns overtime;
+};
+
+// In store before, and made, less in store afterwards is what was sold.
+void balanceStore(ITARQModel& model, const Plan& plan) {
+    const Rows balance(model, "balance", {products, months});
+    check(balance->SetEQ(toVariant(demand)));
+    check(model.SetNZStair(balance, plan.make, Variant(1)));
+    check(model.SetNZStair(balance, plan.store, Variant(-1)));
+    check(model.SetNZStair(balance.slice(all, afterFirst), plan.store.slice(all, beforeLast), Variant(1)));
+    for (std::size_t i = 0; i < products.size(); ++i) {
+        check(balance->SetEQ(Variant(demand[i][0] - atFirst[i]), Variant(products[i]), Variant(months[0])));
+    }
+}
+
+Plan build(ITARQModel& model) {
+    Plan plan{Columns(model, "make", {products, months}), Columns(model, "store", {products, months}),
+              Columns(model, "overtime", {months})};
+    plan.make.put(&ITARQVarSet::put_Cost, cost);
+    plan.overtime.put(&ITARQVarSet::put_UB, overtimeHours);
+    plan.overtime.put(&ITARQVarSet::put_Cost, wage);
+    balanceStore(model, plan);
+
+    const Rows work(model, "hours", {months});
+    check(work->SetLT(toVariant(hours)));
+    check(model.SetNZStair(work, plan.overtime, Variant(-1)));
+    const Rows stored(model, "room", {months});
+    check(stored->SetLT(Variant(room)));
+    for (std::size_t i = 0; i < products.size(); ++i) {
+        plan.store.put(&ITARQVarSet::put_Cost, storing[i], products[i]);
+        check(model.SetNZStair(work, plan.make.slice(products[i]), Variant(hoursEach[i])));
+        check(model.SetNZStair(stored, plan.store.slice(products[i]), Variant(1)));
+    }
+    return plan;
+}
+
+template <class... Index>
+void showMonths(const char* first, const char* second, const Columns& columns, const Index&... index) {
+    std::printf("%-9s%-7s", first, second);
+    for (const std::string& month : months) {
+        std::printf("%9.1f", columns.get(&ITARQVarSet::get_LPSol, index..., month));
+    }
+    std::printf("\n");
+}
+
+void produce() {
+    const Ref<ITARQModel> model = newModel();
+    const Plan plan = build(*model);
+    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    std::printf("%16s", "");
+    for (const std::string& month : months) std::printf("%9s", month.c_str());
+    std::printf("\n");
+    for (const std::string& product : products) {
+        showMonths(product.c_str(), "make", plan.make, product);
+        showMonths(product.c_str(), "store", plan.store, product);
+    }
+    showMonths("overtime", "", plan.overtime);
+    std::printf("half a year costs %.2f euros\n",
+                valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+}
+
+}  // namespace
+
+int main() { return exitCode(produce); }

@@ -1,0 +1,55 @@
+// What to ship from which plant to which city, so that every city gets what it wants at the least cost.
+//
+// Columns are a family over plants and cities. The rows of plants hold back what is too much, those of cities ask for
+// what they want; their shadow prices say what one pallet more would cost.
+#include "algebra.h"
+
+using namespace tarq;
+
+namespace {
+
+// Euros a pallet; pallets that a plant has and that a city wants.
+const Names plants{"Ulm", "Trier", "Halle"};
+const Names cities{"Bremen", "Erfurt", "Kassel", "Leipzig"};
+const Table costs{{18, 11, 12, 14}, {14, 13, 9, 17}, {12, 5, 8, 2}};
+const Numbers supplies{310, 260, 280};
+const Numbers demands{220, 190, 150, 240};
+
+struct Transport {
+    Columns ship;
+    Rows demand;
+};
+
+Transport build(ITARQModel& model) {
+    Transport transport{Columns(model, "ship", {plants, cities}), Rows(model, "demand", {cities})};
+    transport.ship.put(&ITARQVarSet::put_Cost, costs);
+    check(transport.demand->SetGT(toVariant(demands)));
+    for (const std::string& city : cities) {
+        check(transport.demand.row(city)->Sum(terms(transport.ship.slice(all, city))));
+    }
+    const Rows supply(model, "supply", {plants});
+    check(supply->SetLT(toVariant(supplies)));
+    for (const std::string& plant : plants) check(supply.row(plant)->Sum(terms(transport.ship.slice(plant))));
+    return transport;
+}
+
+void transport() {
+    const Ref<ITARQModel> model = newModel();
+    const Transport built = build(*model);
+    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    std::printf("%-18s", "");
+    for (const std::string& city : cities) std::printf("%10s", city.c_str());
+    for (const std::string& plant : plants) {
+        std::printf("\n%-18s", plant.c_str());
+        for (const std::string& city : cities)
+            std::printf("%10g", built.ship.get(&ITARQVarSet::get_LPSol, plant, city));
+    }
+    std::printf("\n%-18s", "one pallet more");
+    for (const std::string& city : cities) std::printf("%10g", built.demand.get(&ITARQResSet::get_Dual, city));
+    std::printf("\nshipping costs %.2f euros\n",
+                valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+}
+
+}  // namespace
+
+int main() { return exitCode(transport); }

@@ -1,0 +1,118 @@
+// Which power stations run at which hours of a day, so that the load is covered at the least cost.
+//
+// A station that runs makes at least so much and at most so much; starting it costs, and in the hour of its start it is
+// not above `ramp`. Stations that run keep a reserve. Families over stations and hours hold the columns; a start is
+// what runs now and did not run an hour before, entered with a shifted index.
+#include "algebra.h"
+
+using namespace tarq;
+
+namespace {
+
+const Names hours{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"};
+const Names afterFirst(hours.begin() + 1, hours.end());
+const Names beforeLast(hours.begin(), hours.end() - 1);
+const Numbers loads{340, 310, 300, 330, 420, 560, 680, 730, 700, 620, 520, 410};  // megawatts
+constexpr double reserveShare = 0.08;                                             // of the load
+
+struct Station {
+    const char* name;
+    double least;     // megawatts
+    double most;      // megawatts
+    double cost;      // euros a megawatt hour
+    double running;   // euros an hour
+    double starting;  // euros a start
+    double ramp;      // megawatts in the hour of a start
+    bool runsBefore;
+};
+constexpr std::array stations{
+    Station{"lignite", 150, 320, 28, 900, 12000, 200, true}, Station{"coal", 90, 250, 36, 650, 6000, 150, true},
+    Station{"gas", 40, 180, 58, 300, 1800, 120, false}, Station{"turbine", 10, 90, 96, 80, 250, 90, false}};
+
+Names namesOfStations() {
+    Names names;
+    for (const Station& station : stations) names.emplace_back(station.name);
+    return names;
+}
+const Names names = namesOfStations();
+
+struct Day {
+    Columns power;
+    Columns runs;
+    Columns starts;
+};
+
+void coverLoad(ITARQModel& model, const Day& day) {
+    const Rows load(model, "load", {hours});
+    check(load->SetEQ(toVariant(loads)));
+    Numbers reserves;
+    for (const double megawatts : loads) reserves.push_back((1 + reserveShare) * megawatts);
+    const Rows reserve(model, "reserve", {hours});
+    check(reserve->SetGT(toVariant(reserves)));
+    for (const Station& station : stations) {
+        check(model.SetNZStair(load, day.power.slice(station.name), Variant(1)));
+        check(model.SetNZStair(reserve, day.runs.slice(station.name), Variant(station.most)));
+    }
+}
+
+// power - least * runs >= 0 and power - most * runs + (most - ramp) * starts <= 0
+void limitPower(ITARQModel& model, const Day& day) {
+    const Rows least(model, "least", {names, hours});
+    check(least->SetGT(Variant(0)));
+    const Rows most(model, "most", {names, hours});
+    check(most->SetLT(Variant(0)));
+    check(model.SetNZStair(least, day.power, Variant(1)));
+    check(model.SetNZStair(most, day.power, Variant(1)));
+    for (const Station& station : stations) {
+        const char* const name = station.name;
+        check(model.SetNZStair(least.slice(name), day.runs.slice(name), Variant(-station.least)));
+        check(model.SetNZStair(most.slice(name), day.runs.slice(name), Variant(-station.most)));
+        check(model.SetNZStair(most.slice(name), day.starts.slice(name), Variant(station.most - station.ramp)));
+    }
+}
+
+// starts - runs + runs an hour before >= 0
+void countStarts(ITARQModel& model, const Day& day) {
+    const Rows begin(model, "begin", {names, hours});
+    check(begin->SetGT(Variant(0)));
+    check(model.SetNZStair(begin, day.starts, Variant(1)));
+    check(model.SetNZStair(begin, day.runs, Variant(-1)));
+    check(model.SetNZStair(begin.slice(all, afterFirst), day.runs.slice(all, beforeLast), Variant(1)));
+    for (const Station& station : stations) {
+        begin.put(&ITARQResSet::put_LB, station.runsBefore ? -1 : 0, station.name, hours.front());
+    }
+}
+
+Day build(ITARQModel& model) {
+    check(model.put_Parameter("xglgap", Variant(0)));
+    Day day{Columns(model, "power", {names, hours}), Columns(model, "runs", {names, hours}),
+            Columns(model, "starts", {names, hours})};
+    day.runs.put(&ITARQVarSet::put_Type, static_cast<double>(TARQColType::Binary));
+    day.starts.put(&ITARQVarSet::put_UB, 1);
+    for (const Station& station : stations) {
+        day.power.put(&ITARQVarSet::put_Cost, station.cost, station.name);
+        day.runs.put(&ITARQVarSet::put_Cost, station.running, station.name);
+        day.starts.put(&ITARQVarSet::put_Cost, station.starting, station.name);
+    }
+    coverLoad(model, day);
+    limitPower(model, day);
+    countStarts(model, day);
+    return day;
+}
+
+void commit() {
+    const Ref<ITARQModel> model = newModel();
+    const Day day = build(*model);
+    solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+    for (const std::string& name : names) {
+        std::printf("%-8s", name.c_str());
+        for (const std::string& hour : hours) std::printf("%7.1f", day.power.get(&ITARQVarSet::get_IPSol, name, hour));
+        std::printf("\n");
+    }
+    std::printf("the day costs %.2f euros\n",
+                valueOf<double>([&](double* value) { return model->get_IPObjFunctValue(value); }));
+}
+
+}  // namespace
+
+int main() { return exitCode(commit); }
