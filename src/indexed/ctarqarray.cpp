@@ -56,7 +56,7 @@ Outcome CTARQArray::selectByNumber(const IndexArguments& arguments, Selection& s
     const std::vector<Indexset>& base = *store_.dimensions();
     std::array<std::int32_t, indexArgumentCount> numbers{};
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i]->isMissing()) continue;
+        if (isMissingIndex(*arguments[i])) continue;
         if (i >= base.size()) return refused("More indexparameters passed, than TARQArray has dimensions.");
         Variant number = arguments[i]->is(Kind::Long) ? *arguments[i] : arguments[i]->copyDereferenced();
         if (!number.toInteger()) return refused(argumentText(i) + " could not be converted to integer value.");

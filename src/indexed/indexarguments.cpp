@@ -105,10 +105,10 @@ void Selection::append(SelectedDimension dimension) {
 
 Outcome selectIndexsets(const IndexArguments& arguments, std::span<const Indexset> base, Selection& selection) {
     std::size_t last = arguments.size();
-    while (last > 0 && arguments[last - 1]->isMissing()) --last;
+    while (last > 0 && isMissingIndex(*arguments[last - 1])) --last;
     if (last > base.size()) return refused("Too many indexsets used as parameter.");
     for (std::size_t dimension = 0; dimension < base.size(); ++dimension) {
-        if (dimension >= last || arguments[dimension]->isMissing()) {
+        if (dimension >= last || isMissingIndex(*arguments[dimension])) {
             selection.append(SelectedDimension(base[dimension].size()));
             continue;
         }

@@ -21,6 +21,11 @@ namespace tarq {
 /// The optional index arguments of a member, in their order.
 inline constexpr std::size_t indexArgumentCount = 5;
 using IndexArguments = std::array<const Variant*, indexArgumentCount>;
+/// Whether an index argument is omitted, which a client may also do by reference to a missing value.
+[[nodiscard]] inline bool isMissingIndex(const Variant& argument) noexcept {
+    const Variant* const referenced = argument.referenced<Variant>();
+    return (referenced != nullptr ? *referenced : argument).isMissing();
+}
 
 /// Appends one dimension for each entry: a number n is the names "1" to "n", an array by reference or an object gives
 /// its values as names. What stands before an entry that fails stays in `indexsets`.

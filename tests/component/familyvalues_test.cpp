@@ -19,6 +19,7 @@ TYPED_TEST(FamilyValuesTest, SlicesReadAsAScalarWhereAllIsEqualElseAsAnArray) {
     ASSERT_THAT(this->putUpper(5), succeeds());
     EXPECT_EQ(this->upper(), "5");
     ASSERT_THAT(this->putUpper(7, 1, 1), succeeds());
+    Variant missing = Variant::missing();
     struct Case {
         std::array<Variant, 5> indices;
         const char* shown;
@@ -34,6 +35,7 @@ TYPED_TEST(FamilyValuesTest, SlicesReadAsAScalarWhereAllIsEqualElseAsAnArray) {
         {indices(Variant::missing(), objectOf<WalkedSeries>(WalkedValues{{Variant(2.0), Variant(1.0)}})),
          "2x2: 5 7 5 5"},
         {indices(numbers({})), "0x3:"},
+        {indices(Variant::byReference(missing), 1, Variant::byReference(missing)), "2x1: 7 5"},
     };
     for (const Case& each : cases) {
         Variant value;

@@ -70,6 +70,9 @@ TEST_F(ArrayTest, PositionsReachWhatNumbersAsNamesCanNot) {
     Variant value;
     ASSERT_THAT(at(indices(2), value), succeeds());
     EXPECT_EQ(shownCells(value), "1x3: 4 5 6");
+    Variant missing = Variant::missing();
+    ASSERT_THAT(at(indices(Variant::byReference(missing), 1, Variant::byReference(missing)), value), succeeds());
+    EXPECT_EQ(shownCells(value), "2x1: 1 4");
     ASSERT_THAT(at(indices(1.6, "3"), value), succeeds());
     EXPECT_EQ(shownCells(value), "6");
     const std::array<Variant, 5> last = indices(2, 3);
