@@ -14,11 +14,11 @@ namespace {
 template <class Value>
 using Element = std::conditional_t<std::is_enum_v<Value>, std::int32_t, Value>;
 
-/// One scalar where all values are equal, else an array of the sizes.
+/// One scalar where all values are equal, else an array of the sizes. A single value is one also where it is no number.
 template <class Value>
 Outcome bulkResult(std::span<const std::size_t> sizes, const std::vector<Value>& values, Variant& result) {
     const auto isFirst = [&](Value value) { return value == values.front(); };
-    if (!values.empty() && std::ranges::all_of(values, isFirst)) {
+    if (!values.empty() && std::all_of(values.begin() + 1, values.end(), isFirst)) {
         result = Variant(values.front());
         return {};
     }

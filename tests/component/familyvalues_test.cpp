@@ -1,6 +1,7 @@
 // Families: reading and writing slices of members, term sums, and the bounds of rows.
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <map>
 #include <random>
 
@@ -43,6 +44,17 @@ TYPED_TEST(FamilyValuesTest, SlicesReadAsAScalarWhereAllIsEqualElseAsAnArray) {
         EXPECT_THAT(this->family->get_UB(i[0], i[1], i[2], i[3], i[4], &value), succeeds());
         EXPECT_EQ(shown(value), each.shown);
     }
+}
+
+TYPED_TEST(FamilyValuesTest, WhatIsNoNumberIsAScalarOnItsOwn) {
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    ASSERT_THAT(this->putUpper(none, 1), succeeds());
+    Variant value;
+    ASSERT_THAT(this->readInto(value, &TypeParam::Family::get_UB, 1, 1), succeeds());
+    ASSERT_TRUE(value.is(Kind::Double));
+    EXPECT_TRUE(std::isnan(value.real()));
+    ASSERT_THAT(this->readInto(value, &TypeParam::Family::get_UB, 1), succeeds());
+    EXPECT_TRUE(value.isArray());
 }
 
 TYPED_TEST(FamilyValuesTest, SlicesTakeOneValueOrOneForEachMember) {
