@@ -5,6 +5,7 @@
 
 #include "frame/safearray.h"
 #include "indexed/family.h"
+#include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
 
 namespace tarq {
@@ -65,7 +66,7 @@ Outcome Family::read(MemberGet<Value> get, const IndexArguments& indices, Varian
     if (Outcome selected = select(indices, members); !selected.isOk()) return selected;
     std::vector<Element<Value>> values;
     // More than there are members are selected where Init failed, and then one of the first isn't there.
-    values.reserve(std::min(members.selection.count(), memberCount_));
+    values.reserve(std::min(members.selection.count(), addedCount_));
     Outcome read = members.selection.walk([&](std::span<const std::size_t> positions) -> Outcome {
         Value field{};
         const Variant name(fullIndexName(members.prefix, *members.dimensions, positions));
@@ -84,23 +85,26 @@ Outcome Family::write(MemberChange change, Kind target, const IndexArguments& in
     SelectedMembers members;
     if (Outcome selected = select(indices, members); !selected.isOk()) return selected;
     const Selection& selection = members.selection;
-    std::int32_t start = 0;
-    // Without members, as after an Init that failed, there may be any number of combinations but nothing to write.
-    if (memberCount_ == 0) {
-        Outcome found = findStart(*members.model, start);
-        return found.isOk() ? numberInModel(start, 0, start) : found;
-    }
     std::vector<Variant> values;
-    Outcome expanded = expandValues(value, selection.sizes(), selection.count(), target, values);
+    // Without members, as after an Init that failed, nothing is written, so a single value needs no copies, of which
+    // there may be far too many.
+    const PlainValue plain(value);
+    const bool isRepeated = !plain->isArray() && !plain->isObject();
+    const std::size_t count =
+        isRepeated && addedCount_ == 0 ? std::min<std::size_t>(selection.count(), 1) : selection.count();
+    Outcome expanded = expandValues(value, selection.sizes(), count, target, values);
     if (!expanded.isOk()) return expanded;
     // An object that was read may have called this family.
     if (dimensions_ != members.dimensions) return changedMeanwhile();
+    std::int32_t start = 0;
     if (Outcome found = findStart(*members.model, start); !found.isOk()) return found;
     std::size_t turn = 0;
     return selection.walk([&](std::span<const std::size_t> positions) -> Outcome {
         std::int32_t number = 0;
         Outcome there = numberInModel(start, ordinalOf(*members.dimensions, positions), number);
         if (!there.isOk()) return there;
+        // The model may call the family too, when it is a client's.
+        if (turn == values.size()) return changedMeanwhile();
         return change(*members.model, number - 1, values[turn++]);
     });
 }

@@ -116,6 +116,9 @@ TYPED_TEST(FamilyStateTest, RefusedInitLeavesWhatItGotTo) {
             Variant value;
             EXPECT_EQ(other->get_UB(i[0], i[1], i[2], i[3], i[4], &value), status::invalidArgument);
             EXPECT_EQ(other->put_UB(i[0], i[1], i[2], i[3], i[4], Variant(1)), TypeParam::gone);
+            EXPECT_THAT(
+                other->put_UB(i[0], i[1], i[2], i[3], i[4], Variant("many")),
+                raisedBy(TypeParam::familyId, status::invalidArgument, "Parameter for value is of wrong type."));
             EXPECT_THAT(other->Clear(), succeeds());
         }
         this->expectUninitialized(other);
@@ -258,6 +261,8 @@ TYPED_TEST(FamilyStateTest, FamilyTooLargeForAnyModelAddsNothing) {
     const auto other = this->newFamily();
     EXPECT_EQ(other->Init(this->model.get(), "y", listOf(70000, 70000)), status::outOfMemory);
     EXPECT_EQ(this->count(), 8);
+    const std::array<Variant, 5> i = indices();
+    EXPECT_EQ(other->put_UB(i[0], i[1], i[2], i[3], i[4], Variant(1)), TypeParam::gone);
     EXPECT_THAT(other->Clear(), succeeds());
     this->expectUninitialized(other);
 }
