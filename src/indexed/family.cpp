@@ -73,12 +73,16 @@ Outcome Family::init(IUnknown* model, const std::string& name, const ValueList& 
     return read.isOk() ? addMembers() : read;
 }
 
+void Family::countMembers() {
+    const std::size_t count = combinationCount(sizesOf(*dimensions_));
+    requireRoom(count);
+    memberCount_ = count;
+}
+
 Outcome Family::addMembers() {
     const auto dimensions = dimensions_;
     const Ref<ITARQModel> model = model_;
-    const std::size_t count = combinationCount(sizesOf(*dimensions));
-    requireRoom(count);
-    memberCount_ = count;
+    countMembers();
     return walkMembers(*dimensions, name_, [&](std::size_t /*ordinal*/, const std::string& member) -> Outcome {
         if (const Status added = (model.get()->*side_.add)(&member, self_); !added.isOk()) return added;
         if (dimensions_ != dimensions) return changedMeanwhile();
@@ -102,7 +106,9 @@ Outcome Family::clear() {
 Outcome Family::rename(const std::string& name) {
     if (utf16Length(name) > longestName) return {status::invalidArgument, "Name too long."};
     name_ = name;
-    if (memberCount_ == 0) return {};
+    if (!isInitialized()) return {};
+    // After an Init that failed, the dimensions that it got to make the names.
+    if (memberCount_ == 0) countMembers();
     const auto dimensions = dimensions_;
     const Ref<ITARQModel> model = model_;
     std::int32_t start = 0;

@@ -77,6 +77,7 @@ private:
     [[nodiscard]] bool isInitialized() const noexcept { return !dimensions_->empty(); }
     [[nodiscard]] Outcome changedMeanwhile() const;
     [[nodiscard]] Outcome requireDimension(std::int32_t dimension) const;
+    void countMembers();
     Outcome addMembers();
     Outcome select(const IndexArguments& indices, SelectedMembers& members) const;
 
@@ -87,7 +88,7 @@ private:
     Ref<ITARQModel> model_;
     /// Never null; replaced and not changed.
     std::shared_ptr<const std::vector<Indexset>> dimensions_ = std::make_shared<const std::vector<Indexset>>();
-    std::size_t memberCount_ = 0;  ///< what the dimensions make, once all of them were read
+    std::size_t memberCount_ = 0;  ///< what the dimensions make, once all of them were read or the family is renamed
     std::size_t addedCount_ = 0;   ///< how many of them the model took
 };
 

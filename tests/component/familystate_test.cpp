@@ -108,9 +108,11 @@ TYPED_TEST(FamilyStateTest, RefusedInitLeavesWhatItGotTo) {
         EXPECT_EQ(number, 0);
         EXPECT_THAT(other->get_NumberOfIndexsets(&number), succeeds());
         EXPECT_EQ(number, each.dimensions);
-        EXPECT_THAT(other->put_Name("z"), succeeds());
+        // With a dimension it counts as initialized, and its members get names though they aren't in the model.
+        EXPECT_EQ(other->put_Name("z"), each.dimensions > 0 ? TypeParam::gone : status::ok);
+        EXPECT_THAT(other->get_Count(&number), succeeds());
+        EXPECT_EQ(number, each.dimensions * 2);
         if (each.dimensions > 0) {
-            // It counts as initialized, without members in the model.
             EXPECT_EQ(other->Init(aModel.get(), "y", listOf(1)), status::wrongState);
             const std::array<Variant, 5> i = indices();
             Variant value;
@@ -263,6 +265,7 @@ TYPED_TEST(FamilyStateTest, FamilyTooLargeForAnyModelAddsNothing) {
     EXPECT_EQ(this->count(), 8);
     const std::array<Variant, 5> i = indices();
     EXPECT_EQ(other->put_UB(i[0], i[1], i[2], i[3], i[4], Variant(1)), TypeParam::gone);
+    EXPECT_EQ(other->put_Name("z"), status::outOfMemory);
     EXPECT_THAT(other->Clear(), succeeds());
     this->expectUninitialized(other);
 }
