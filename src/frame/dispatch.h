@@ -33,7 +33,8 @@ inline constexpr std::int32_t enumerator = -4;  ///< hands out an enumerator
 
 /// Arguments of a late-bound call. The ones by position come first, in the order of the parameters, then the ones by
 /// name, and in a put the new value last. What a call hands back through an argument it writes through a by-reference
-/// Variant. An argument left out at the end, or passed as the missing value, is missing.
+/// Variant, if the status is 0, or 1 of a method without a result. An argument left out at the end, or passed as the
+/// missing value, is missing.
 struct InvokeArguments {
     std::span<const Variant> values;
     std::span<const std::int32_t> names;  ///< parameter numbers, from 0, of the arguments by name

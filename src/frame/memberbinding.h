@@ -19,6 +19,7 @@
 #include <variant>
 #include <vector>
 
+#include "frame/ienumvariant.h"
 #include "frame/membertable.h"
 #include "frame/status.h"
 #include "frame/valuelist.h"
@@ -291,6 +292,10 @@ private:
         if (!loaded) return status::argumentType;
         const Status ended = (object.*function)(std::get<Index>(slots).pass()...);
         if (ended.isOk()) (std::get<Index>(slots).giveBack(arguments, Index, Index == resultIndex), ...);
+        // An enumerator at its end tells how many elements there were all the same.
+        if (ended == IEnumVARIANT::fewerLeft && resultIndex == arity) {
+            (std::get<Index>(slots).giveBack(arguments, Index, false), ...);
+        }
         return ended;
     }
     template <class Argument>

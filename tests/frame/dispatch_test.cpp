@@ -121,6 +121,18 @@ TEST_F(DispatchTest, OutputsComeBackThroughReferences) {
                 succeeds());
     EXPECT_EQ(ones.integer(), 2) << "what the member doesn't write stays";
 
+    panel->splitEnds = IEnumVARIANT::fewerLeft;
+    EXPECT_EQ(call("Split", invoke::method, {Variant(63), Variant::byReference(tens), Variant::byReference(ones)}),
+              IEnumVARIANT::fewerLeft);
+    EXPECT_EQ(tens, 6) << "the end of a walk tells how far it came";
+    EXPECT_EQ(ones.integer(), 3);
+    for (const Status other : {status::noLpSolution, status::wrongState}) {
+        panel->splitEnds = other;
+        EXPECT_EQ(call("Split", invoke::method, {Variant(42), Variant::byReference(tens), Variant::byReference(ones)}),
+                  other);
+        EXPECT_EQ(tens, 6) << "nothing is handed back";
+    }
+
     std::string wrong = "here";
     EXPECT_EQ(call("Split", invoke::method, {Variant(42), Variant::byReference(tens), Variant::byReference(wrong)}),
               status::argumentType);

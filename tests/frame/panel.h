@@ -99,7 +99,7 @@ public:
     Status Split(std::int32_t number, std::int32_t* tens, std::int32_t* ones) override {
         *tens = number / 10;
         if (number % 10 != 0) *ones = number % 10;
-        return status::ok;
+        return splitEnds;
     }
     Status Keep(IUnknown* object) override {
         kept = Ref<IUnknown>(object);
@@ -121,6 +121,7 @@ public:
     int turns() override { return 3; }
 
     std::string item;
+    Status splitEnds;
     Shade shade = Shade::Light;
     Ref<IUnknown> kept;
 

@@ -58,3 +58,12 @@ def test_repr_tells_name_and_number(model):
     row = model.Res["r"]
     model.DelRow("r")
     assert repr(row) == "<tarq.TARQRes: number 1>"
+
+
+def test_a_familys_enumerator_counts_what_it_fetches(model):
+    rows = tarq.TARQResSet()
+    rows.Init(model, "rows", 1)
+    enumerator = rows.Enum()
+    item, fetched = enumerator.VB_Next()
+    assert item.Name == "rows.1" and fetched == 1
+    assert enumerator.VB_Next() == (None, 0) and tarq.last_status() == 1

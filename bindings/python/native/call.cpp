@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "failures.h"
+#include "frame/ienumvariant.h"
 #include "frame/safearray.h"
 #include "values.h"
 
@@ -197,7 +198,8 @@ py::object callMember(const Proxy& proxy, const MemberInfo& member, const Python
     }
     ArgumentList list(proxy, member, arguments);
     const Status ended = call.run(list.get());
-    if (!ended.isOk()) return py::none();
+    const bool isAtEnd = ended == IEnumVARIANT::fewerLeft && member.result == ValueType::None;
+    if (!ended.isOk() && !(isAtEnd && list.hasOutputs())) return py::none();
     if (!list.hasOutputs()) return toPython(std::move(call.result), member.resultEnumeration);
     py::list outputs;
     if (member.result != ValueType::None) outputs.append(toPython(std::move(call.result), member.resultEnumeration));
