@@ -23,9 +23,6 @@
 
 namespace tarq {
 
-/// The dimensions of an array. They don't change while somebody else than the store holds on to them, such as a walk.
-using Dimensions = std::shared_ptr<const std::vector<Indexset>>;
-
 class ArrayStore {
 public:
     /// Of at least one dimension. Never null.

@@ -7,13 +7,14 @@
 #include "frame/countedobject.h"
 #include "indexed/arraycells.h"
 #include "indexed/arraystore.h"
+#include "indexed/idimensions.h"
 #include "indexed/indexarguments.h"
 #include "interfaces/classids.h"
 #include "interfaces/itarqarray.h"
 
 namespace tarq {
 
-class CTARQArray final : public CountedObject<CTARQArray, ITARQArray, IArrayCells> {
+class CTARQArray final : public CountedObject<CTARQArray, ITARQArray, IArrayCells, IDimensions> {
 public:
     Status AddMatrix(const Variant& Matrix) override;
     Status AddScalar(double Value) override;
@@ -44,6 +45,7 @@ public:
     Status get_Count(std::int32_t* value) override;
 
     std::span<const Variant> rowMajorCells() override { return store_.block(); }
+    Dimensions sharedDimensions() const override { return store_.dimensions(); }
 
 private:
     [[nodiscard]] Outcome requireInitialized() const;

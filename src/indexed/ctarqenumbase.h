@@ -1,7 +1,7 @@
 // CTARQEnumBase: what the enumerators over a selection of named things have in common.
 #pragma once
 
-#include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,6 +10,7 @@
 #include "frame/countedobject.h"
 #include "frame/ienumvariant.h"
 #include "frame/memberguard.h"
+#include "indexed/idimensions.h"
 #include "indexed/selectionwalk.h"
 
 namespace tarq {
@@ -43,14 +44,13 @@ protected:
         return initialized_ ? Outcome() : Outcome(status::notInitialized, "Enumerator has not been initialized.");
     }
 
-    /// Selects from the parent's dimensions, which are read through its public members, and starts before the first
-    /// item.
+    /// Selects from the parent's dimensions and starts before the first item.
     Outcome select(Ref<ParentInterface> parent, const IndexArguments& indices, std::string prefix) {
         walk_ = SelectionWalk();
-        std::vector<Indexset> base;
-        if (const Status read = readDimensions(*parent, base); !read.isOk()) return read;
+        Dimensions base;
+        if (const Status read = readDimensions(parent, base); !read.isOk()) return read;
         Selection selection;
-        if (Outcome selected = selectIndexsets(indices, base, selection); !selected.isOk()) return selected;
+        if (Outcome selected = selectIndexsets(indices, *base, selection); !selected.isOk()) return selected;
         // Together, because reading the indices may have called a client that started this enumerator over others.
         walk_ = SelectionWalk(std::move(prefix), std::move(base), std::move(selection));
         parent_ = std::move(parent);
@@ -66,8 +66,8 @@ protected:
         Status read;
         const Status ended = guarded(classId, [&]() -> Outcome {
             for (; done < count && walk_.position() < walk_.count(); ++done) {
-                const Ref<ParentInterface> parent =
-                    parent_;  // which may call a client that starts this over another one
+                // The parent may call a client that starts this over another one.
+                const Ref<ParentInterface> parent = parent_;
                 read = fetch(*parent, walk_.name(walk_.position()), values[done]);
                 if (read.failed()) break;
                 walk_.advance();
@@ -85,7 +85,19 @@ protected:
     bool initialized_ = false;
 
 private:
-    static Status readDimensions(ParentInterface& parent, std::vector<Indexset>& base) {
+    /// A walk over a slice must not cost what the names of the whole parent do, so these are shared if possible, and
+    /// otherwise read.
+    static Status readDimensions(const Ref<ParentInterface>& parent, Dimensions& base) {
+        if (const auto known = parent.template query<IDimensions>()) {
+            base = known->sharedDimensions();
+            return status::ok;
+        }
+        const auto names = std::make_shared<std::vector<Indexset>>();
+        base = names;
+        return readNames(*parent, *names);
+    }
+
+    static Status readNames(ParentInterface& parent, std::vector<Indexset>& base) {
         std::int32_t dimensions = 0;
         if (const Status read = parent.get_NumberOfIndexsets(&dimensions); !read.isOk()) return read;
         for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {

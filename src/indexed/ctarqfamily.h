@@ -7,15 +7,17 @@
 #include "frame/countedobject.h"
 #include "frame/memberguard.h"
 #include "indexed/family.h"
+#include "indexed/idimensions.h"
 #include "interfaces/ifamilyidentity.h"
 
 namespace tarq {
 
 /// Base of the class `Derived`, with the interface `Interface` and the enumerator `Enumerator`.
 template <class Derived, class Interface, class Enumerator, class EnumInterface, const FamilySide& side>
-class CTARQFamily : public CountedObject<Derived, Interface, IFamilyIdentity> {
+class CTARQFamily : public CountedObject<Derived, Interface, IFamilyIdentity, IDimensions> {
 public:
     std::uint64_t familyNumber() const override { return family_.number(); }
+    Dimensions sharedDimensions() const override { return family_.sharedDimensions(); }
 
     Status get__NewEnum(Ref<IUnknown>* value) override {  // NOLINT(bugprone-reserved-identifier)
         const Variant missing = Variant::missing();

@@ -27,7 +27,7 @@ namespace tarq {
 struct SelectedMembers {
     Ref<ITARQModel> model;
     std::string prefix;
-    std::shared_ptr<const std::vector<Indexset>> dimensions;
+    Dimensions dimensions;
     Selection selection;
 };
 
@@ -41,6 +41,7 @@ public:
     [[nodiscard]] const std::string& name() const noexcept { return name_; }
     [[nodiscard]] const Ref<ITARQModel>& model() const noexcept { return model_; }
     [[nodiscard]] const std::vector<Indexset>& dimensions() const noexcept { return *dimensions_; }
+    [[nodiscard]] const Dimensions& sharedDimensions() const noexcept { return dimensions_; }
     [[nodiscard]] std::size_t memberCount() const noexcept { return memberCount_; }
 
     [[nodiscard]] Outcome requireInitialized() const;
@@ -87,7 +88,7 @@ private:
     std::string name_;
     Ref<ITARQModel> model_;
     /// Never null; replaced and not changed.
-    std::shared_ptr<const std::vector<Indexset>> dimensions_ = std::make_shared<const std::vector<Indexset>>();
+    Dimensions dimensions_ = std::make_shared<const std::vector<Indexset>>();
     std::size_t memberCount_ = 0;  ///< what the dimensions make, once all of them were read or the family is renamed
     std::size_t addedCount_ = 0;   ///< how many of them the model took
 };

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -50,6 +51,10 @@ private:
     std::size_t pointed_ = 0;     ///< number of names with a point
     std::size_t duplicates_ = 0;  ///< number of elements behind the first one of their name
 };
+
+/// The dimensions of an array or family. They don't change while somebody else than their owner holds on to them, such
+/// as a walk.
+using Dimensions = std::shared_ptr<const std::vector<Indexset>>;
 
 /// The text under which a value is an element: a text as it is, a number as it reads. Reals have to be whole and to fit
 /// 32 bits ("Only whole numbers allowed as index value."); what has no text is refused ("Value cannot be converted to

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "indexed/indexarguments.h"
 
@@ -15,7 +15,7 @@ class SelectionWalk {
 public:
     SelectionWalk() = default;
     /// A selection from the dimensions `base`; every name begins with `prefix`.
-    SelectionWalk(std::string prefix, std::vector<Indexset> base, Selection selection)
+    SelectionWalk(std::string prefix, Dimensions base, Selection selection)
         : prefix_(std::move(prefix)), base_(std::move(base)), selection_(std::move(selection)) {}
 
     [[nodiscard]] std::size_t count() const noexcept { return selection_.count(); }
@@ -30,7 +30,7 @@ public:
 
 private:
     std::string prefix_;
-    std::vector<Indexset> base_;
+    Dimensions base_;
     Selection selection_;
     std::size_t position_ = 0;
 };

@@ -106,6 +106,39 @@ TEST_F(ArrayEnumTest, WithoutInitEachMemberSaysSo) {
     EXPECT_EQ(shown(values), "2");
 }
 
+/// A client's object around an array, which shows the published interface alone.
+class Shell final : public IUnknown {
+public:
+    Shell() {
+        void* made = nullptr;
+        EXPECT_THAT(createInstance<CTARQArray>(this, IUnknown::id, &made), succeeds());
+        part_ = Ref<IUnknown>::adopt(static_cast<IUnknown*>(made));
+    }
+    Status QueryInterface(const Guid& interfaceId, void** out) override {
+        if (interfaceId == ITARQArray::id) return part_->QueryInterface(interfaceId, out);
+        *out = interfaceId == IUnknown::id ? this : nullptr;
+        return *out != nullptr ? status::ok : status::wrongClass;
+    }
+    // The test outlives every reference.
+    std::uint32_t AddRef() override { return 1; }
+    std::uint32_t Release() override { return 1; }
+
+private:
+    Ref<IUnknown> part_;
+};
+
+TEST_F(ArrayEnumTest, AnArrayOfAClientIsReadThroughItsPublishedMembers) {
+    Shell shell;
+    const Ref<ITARQArray> parent = Ref<IUnknown>(&shell).query<ITARQArray>();
+    ASSERT_THAT(parent->Init(listOf(2, 2)), succeeds());
+    ASSERT_THAT(parent->SetValues(listOf(1, 2, 3, 4)), succeeds());
+    const Variant missing = Variant::missing();
+    const Ref<ITARQArrayEnum> enumerator = make<CTARQArrayEnum, ITARQArrayEnum>();
+    ASSERT_THAT(enumerator->Init(&shell, missing, Variant(2), missing, missing, missing), succeeds());
+    EXPECT_EQ(stateOf(enumerator), ".1.2");
+    EXPECT_EQ(shown(enumerator.query<IEnumVARIANT>()), "2 4");
+}
+
 TEST_F(ArrayEnumTest, AClientMayStartItOverWhileItNamesElements) {
     const Ref<ITARQArrayEnum> enumerator = selected(1);
     const Ref<ITARQArray> other = newArray(listOf(1));
