@@ -307,11 +307,11 @@ private:
     template <std::size_t... Index>
     static std::vector<MemberParameter> describe(std::index_sequence<Index...> /*all*/) {
         return {MemberParameter{.name = {},
-                              .type = Slot<Parameters>::type,
-                              .enumeration = enumerationIn<Parameters>(),
-                              .optional = Slot<Parameters>::nullable,
-                              .variadic = Slot<Parameters>::variadic,
-                              .out = Slot<Parameters>::out}...};
+                                .type = Slot<Parameters>::type,
+                                .enumeration = enumerationIn<Parameters>(),
+                                .optional = Slot<Parameters>::nullable,
+                                .variadic = Slot<Parameters>::variadic,
+                                .out = Slot<Parameters>::out}...};
     }
 };
 

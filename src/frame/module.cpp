@@ -24,7 +24,6 @@ void unlock() noexcept { locks.fetch_sub(1, acquireRelease); }
 std::int64_t liveObjects() noexcept { return objects.load(std::memory_order_acquire); }
 bool canUnload() noexcept { return liveObjects() == 0 && locks.load(std::memory_order_acquire) == 0; }
 
-
 std::uint64_t uniqueNumber() noexcept { return numbers.fetch_add(1, relaxed) + 1; }
 
 }  // namespace tarq::module
