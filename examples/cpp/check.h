@@ -23,10 +23,13 @@ inline tarq::Ref<tarq::ITARQModel> newModel() {
 }
 
 /// A property's value: valueOf<double>([&](double* value) { return model.get_ColLPSol(Variant("chair"), value); }).
+/// Throws also where there is none, such as a value of a solution before the model is solved.
 template <class Value, class Get>
 Value valueOf(const Get& get) {
     Value value{};
-    check(get(&value));
+    const tarq::Status status = get(&value);
+    check(status);
+    if (!status.isOk()) throw std::runtime_error(std::string(tarq::status::meaning(status)));
     return value;
 }
 

@@ -21,21 +21,26 @@ inline const tarq::Variant all = tarq::Variant::missing();
 /// C++ values as those of the object interface.
 inline const tarq::Variant& toVariant(const tarq::Variant& value) { return value; }
 inline tarq::Variant toVariant(double value) { return tarq::Variant(value); }
+inline tarq::Variant toVariant(tarq::TARQColType type) { return tarq::Variant(static_cast<std::int32_t>(type)); }
 inline tarq::Variant toVariant(const char* name) { return tarq::Variant(name); }
 inline tarq::Variant toVariant(const std::string& name) { return tarq::Variant(name); }
 inline tarq::Variant toVariant(const Names& names) { return tarq::Variant(tarq::SafeArray::of(names)); }
 inline tarq::Variant toVariant(const Numbers& numbers) { return tarq::Variant(tarq::SafeArray::of(numbers)); }
 inline tarq::Variant toVariant(const Table& table) {
+    const std::size_t columns = table.empty() ? 0 : table.front().size();
     const std::array dimensions{tarq::Dimension{0, static_cast<std::uint32_t>(table.size())},
-                                tarq::Dimension{0, static_cast<std::uint32_t>(table.front().size())}};
+                                tarq::Dimension{0, static_cast<std::uint32_t>(columns)}};
     tarq::SafeArray array;
     check(tarq::SafeArray::create(tarq::Kind::Double, dimensions, array));
     auto element = array.elements<double>().begin();
-    for (const Numbers& row : table) element = std::copy(row.begin(), row.end(), element);
+    for (const Numbers& row : table) {
+        if (row.size() != columns) throw std::invalid_argument("the rows of a table are of different lengths");
+        element = std::copy(row.begin(), row.end(), element);
+    }
     return tarq::Variant(std::move(array));
 }
 
-/// A list for Sum: coefficients and columns in turn.
+/// A list for Sum: coefficients and columns in turn. The coefficient 1 may be left out.
 template <class... Values>
 tarq::ValueList terms(const Values&... values) {
     return tarq::ValueList({toVariant(values)...});
@@ -71,7 +76,8 @@ public:
     template <class Get, class... Index>
     double get(Get member, const Index&... index) const {
         auto value = valueOf<tarq::Variant>([&](auto* result) { return call(member, result, index...); });
-        if (!value.toReal()) throw std::runtime_error("the members have different values");
+        if (value.isArray()) throw std::runtime_error("the members have different values");
+        if (!value.toReal()) throw std::runtime_error("the value is no number");
         return value.real();
     }
 
@@ -92,6 +98,7 @@ public:
 private:
     template <class Member, class Argument, class... Index>
     tarq::Status call(Member member, Argument&& argument, const Index&... index) const {
+        static_assert(sizeof...(Index) <= 5, "a member takes five indices at most");
         std::array<tarq::Variant, 5> indices;
         indices.fill(all);
         std::size_t i = 0;
@@ -116,9 +123,23 @@ struct Rows : Block<tarq::ITARQResSet> {
     tarq::Ref<tarq::ITARQRes> row(const Index&... index) const {
         return item<tarq::ITARQRes>(index...);
     }
+
+    /// Bounds of the selected rows: one for all of them, or as many as there are. The other side becomes open.
+    template <class Value, class... Index>
+    void atMost(const Value& bound, const Index&... index) const {
+        check((*this)->SetLT(toVariant(bound), toVariant(index)...));
+    }
+    template <class Value, class... Index>
+    void atLeast(const Value& bound, const Index&... index) const {
+        check((*this)->SetGT(toVariant(bound), toVariant(index)...));
+    }
+    template <class Value, class... Index>
+    void exactly(const Value& bound, const Index&... index) const {
+        check((*this)->SetEQ(toVariant(bound), toVariant(index)...));
+    }
 };
 
-/// A new row of a model.
+/// A new row of a model, which is 0 until it gets bounds.
 inline tarq::Ref<tarq::ITARQRes> newRow(tarq::ITARQModel& model, const char* name) {
     auto row = tarq::createObject<tarq::ITARQRes>("TARQRes");
     if (!row) throw std::runtime_error("the component can't create a TARQRes");
@@ -127,10 +148,15 @@ inline tarq::Ref<tarq::ITARQRes> newRow(tarq::ITARQModel& model, const char* nam
     return row;
 }
 
-/// Runs a model, which must have the wanted outcome.
-inline void solve(tarq::ITARQModel& model, tarq::TARQSolutionStatusTyp wanted) {
+/// Runs a model and gives its objective. It must have the wanted outcome.
+inline double solve(tarq::ITARQModel& model, tarq::TARQSolutionStatusTyp wanted) {
     check(model.Optimize());
     const auto status = valueOf<tarq::TARQSolutionStatusTyp>(
         [&](tarq::TARQSolutionStatusTyp* value) { return model.get_SolutionStatus(value); });
-    if (status != wanted) throw std::runtime_error("the model has no solution");
+    if (status != wanted) {
+        throw std::runtime_error("no solution, but the status " + std::to_string(static_cast<int>(status)));
+    }
+    const bool isWhole = wanted == tarq::TARQSolutionStatusTyp::IPOptimalSolution;
+    return valueOf<double>(
+        [&](double* value) { return isWhole ? model.get_IPObjFunctValue(value) : model.get_LPObjFunctValue(value); });
 }

@@ -21,15 +21,15 @@ Columns build(ITARQModel& model) {
     const Rows done(model, "done", {jobs});
     for (const std::string& person : people) check(works.row(person)->Sum(terms(does.slice(person))));
     for (const std::string& job : jobs) check(done.row(job)->Sum(terms(does.slice(all, job))));
-    check(works->SetEQ(Variant(1)));
-    check(done->SetEQ(Variant(1)));
+    works.exactly(1);
+    done.exactly(1);
     return does;
 }
 
 void assign() {
     const Ref<ITARQModel> model = newModel();
     const Columns does = build(*model);
-    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const double spent = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
     for (const std::string& person : people) {
         for (const std::string& job : jobs) {
             if (does.get(&ITARQVarSet::get_LPSol, person, job) < 0.5) continue;
@@ -37,7 +37,7 @@ void assign() {
                         does.get(&ITARQVarSet::get_Cost, person, job));
         }
     }
-    std::printf("%g hours in all\n", valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+    std::printf("%g hours in all\n", spent);
 }
 
 }  // namespace

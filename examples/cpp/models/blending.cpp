@@ -1,7 +1,7 @@
 // The cheapest feed for cattle: a mixture that holds what the animals need and not too much of what harms them.
 //
-// Columns are the parts of the ingredients in one tonne of feed. A row a nutrient bounds what the mixture holds of it,
-// on both sides.
+// Columns are the parts of the ingredients in one tonne of feed. A row for each nutrient bounds what the mixture holds
+// of it, on both sides.
 #include "algebra.h"
 
 using namespace tarq;
@@ -45,7 +45,7 @@ Feed build(ITARQModel& model) {
 void mix() {
     const Ref<ITARQModel> model = newModel();
     const Feed feed = build(*model);
-    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const double price = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
     for (const std::string& ingredient : ingredients) {
         std::printf("  %-10s %6.2f %%\n", ingredient.c_str(), 100 * feed.part.get(&ITARQVarSet::get_LPSol, ingredient));
     }
@@ -54,8 +54,7 @@ void mix() {
                     feed.content.get(&ITARQResSet::get_LPSol, nutrient),
                     feed.content.get(&ITARQResSet::get_Dual, nutrient) + 0.0);
     }
-    std::printf("a tonne of feed costs %.4f euros\n",
-                valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+    std::printf("a tonne of feed costs %.4f euros\n", price);
 }
 
 }  // namespace

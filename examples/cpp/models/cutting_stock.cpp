@@ -29,7 +29,7 @@ struct Master {
     Table patterns;  // pieces of each width
 
     Master() {
-        check(order->SetGT(toVariant(orders)));
+        order.atLeast(orders);
         const Numbers most = piecesOfOneWidth();
         for (std::size_t i = 0; i < widths.size(); ++i) {
             Numbers pattern(widths.size());
@@ -64,7 +64,7 @@ struct PatternSearch {
         check(model->put_Parameter("xminmx", Variant("max")));
         check(model->put_Parameter("xglgap", Variant(0)));
         pieces.put(&ITARQVarSet::put_UB, piecesOfOneWidth());
-        pieces.put(&ITARQVarSet::put_Type, static_cast<double>(TARQColType::Integer));
+        pieces.put(&ITARQVarSet::put_Type, TARQColType::Integer);
         const Ref<ITARQRes> length = newRow(*model, "roll");
         check(length->SetLT(roll));
         check(length->Sum(terms(pieceWidths, pieces)));
@@ -72,12 +72,11 @@ struct PatternSearch {
 
     std::pair<double, Numbers> best(const Numbers& prices) {
         pieces.put(&ITARQVarSet::put_Cost, prices);
-        solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+        const double worth = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
         Numbers found;
         for (const std::string& width : widths) {
             found.push_back(std::round(pieces.get(&ITARQVarSet::get_IPSol, width)));
         }
-        const auto worth = valueOf<double>([&](double* value) { return model->get_IPObjFunctValue(value); });
         return {worth, found};
     }
 };
@@ -86,13 +85,11 @@ struct PatternSearch {
 double generate(Master& master) {
     PatternSearch search;
     while (true) {
-        solve(*master.model, TARQSolutionStatusTyp::LPOptimalSolution);
+        const double rolls = solve(*master.model, TARQSolutionStatusTyp::LPOptimalSolution);
         Numbers prices;
         for (const std::string& width : widths) prices.push_back(master.order.get(&ITARQResSet::get_Dual, width));
         auto [worth, pattern] = search.best(prices);
-        if (worth <= 1 + 1e-7) {
-            return valueOf<double>([&](double* value) { return master.model->get_LPObjFunctValue(value); });
-        }
+        if (worth <= 1 + 1e-7) return rolls;
         master.add(std::move(pattern));
     }
 }
@@ -119,10 +116,9 @@ void cut() {
         check(master.model->put_ColType(Variant(Master::nameOf(p)), TARQColType::Integer));
     }
     check(master.model->put_Parameter("xglgap", Variant(0)));
-    solve(*master.model, TARQSolutionStatusTyp::IPOptimalSolution);
+    const double rolls = solve(*master.model, TARQSolutionStatusTyp::IPOptimalSolution);
     show(master);
-    std::printf("%g rolls, %.4f at least\n",
-                valueOf<double>([&](double* value) { return master.model->get_IPObjFunctValue(value); }), bound);
+    std::printf("%g rolls, %.4f at least\n", rolls, bound);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ Rucksack build(ITARQModel& model) {
     check(model.put_Parameter("xminmx", Variant("max")));
     check(model.put_Parameter("xglgap", Variant(0)));  // not only nearly the best
     Rucksack rucksack{Columns(model, "take", {things}), newRow(model, "weight")};
-    rucksack.take.put(&ITARQVarSet::put_Type, static_cast<double>(TARQColType::Binary));
+    rucksack.take.put(&ITARQVarSet::put_Type, TARQColType::Binary);
     rucksack.take.put(&ITARQVarSet::put_Cost, values);
     check(rucksack.weight->SetLT(holds));
     check(rucksack.weight->Sum(terms(weights, rucksack.take)));
@@ -31,14 +31,13 @@ Rucksack build(ITARQModel& model) {
 void pack() {
     const Ref<ITARQModel> model = newModel();
     const Rucksack rucksack = build(*model);
-    solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+    const double worth = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
     const char* separator = "  ";
     for (const std::string& thing : things) {
         if (rucksack.take.get(&ITARQVarSet::get_IPSol, thing) < 0.5) continue;
         std::printf("%s%s", std::exchange(separator, ", "), thing.c_str());
     }
-    std::printf("\nworth %g, %g of %g decagrams\n",
-                valueOf<double>([&](double* value) { return model->get_IPObjFunctValue(value); }),
+    std::printf("\nworth %g, %g of %g decagrams\n", worth,
                 valueOf<double>([&](double* value) { return rucksack.weight->get_IPSol(value); }), holds);
 }
 

@@ -31,12 +31,12 @@ struct Plan {
 // In store before, and made, less in store afterwards is what was sold.
 void balanceStore(ITARQModel& model, const Plan& plan) {
     const Rows balance(model, "balance", {products, months});
-    check(balance->SetEQ(toVariant(demand)));
+    balance.exactly(demand);
     check(model.SetNZStair(balance, plan.make, Variant(1)));
     check(model.SetNZStair(balance, plan.store, Variant(-1)));
     check(model.SetNZStair(balance.slice(all, afterFirst), plan.store.slice(all, beforeLast), Variant(1)));
     for (std::size_t i = 0; i < products.size(); ++i) {
-        check(balance->SetEQ(Variant(demand[i][0] - atFirst[i]), Variant(products[i]), Variant(months[0])));
+        balance.exactly(demand[i][0] - atFirst[i], products[i], months[0]);
     }
 }
 
@@ -49,10 +49,10 @@ Plan build(ITARQModel& model) {
     balanceStore(model, plan);
 
     const Rows work(model, "hours", {months});
-    check(work->SetLT(toVariant(hours)));
+    work.atMost(hours);
     check(model.SetNZStair(work, plan.overtime, Variant(-1)));
     const Rows stored(model, "room", {months});
-    check(stored->SetLT(Variant(room)));
+    stored.atMost(room);
     for (std::size_t i = 0; i < products.size(); ++i) {
         plan.store.put(&ITARQVarSet::put_Cost, storing[i], products[i]);
         check(model.SetNZStair(work, plan.make.slice(products[i]), Variant(hoursEach[i])));
@@ -73,7 +73,7 @@ void showMonths(const char* first, const char* second, const Columns& columns, c
 void produce() {
     const Ref<ITARQModel> model = newModel();
     const Plan plan = build(*model);
-    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const double spent = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
     std::printf("%16s", "");
     for (const std::string& month : months) std::printf("%9s", month.c_str());
     std::printf("\n");
@@ -82,8 +82,7 @@ void produce() {
         showMonths(product.c_str(), "store", plan.store, product);
     }
     showMonths("overtime", "", plan.overtime);
-    std::printf("half a year costs %.2f euros\n",
-                valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+    std::printf("half a year costs %.2f euros\n", spent);
 }
 
 }  // namespace

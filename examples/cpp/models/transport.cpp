@@ -1,7 +1,7 @@
 // What to ship from which plant to which city, so that every city gets what it wants at the least cost.
 //
-// Columns are a family over plants and cities. The rows of plants hold back what is too much, those of cities ask for
-// what they want; their shadow prices say what one pallet more would cost.
+// Columns are a family over plants and cities. A plant's row limits what it sends, a city's row asks for what it
+// wants; the shadow prices of the cities say what one pallet more would cost.
 #include "algebra.h"
 
 using namespace tarq;
@@ -23,12 +23,12 @@ struct Transport {
 Transport build(ITARQModel& model) {
     Transport transport{Columns(model, "ship", {plants, cities}), Rows(model, "demand", {cities})};
     transport.ship.put(&ITARQVarSet::put_Cost, costs);
-    check(transport.demand->SetGT(toVariant(demands)));
+    transport.demand.atLeast(demands);
     for (const std::string& city : cities) {
         check(transport.demand.row(city)->Sum(terms(transport.ship.slice(all, city))));
     }
     const Rows supply(model, "supply", {plants});
-    check(supply->SetLT(toVariant(supplies)));
+    supply.atMost(supplies);
     for (const std::string& plant : plants) check(supply.row(plant)->Sum(terms(transport.ship.slice(plant))));
     return transport;
 }
@@ -36,7 +36,7 @@ Transport build(ITARQModel& model) {
 void transport() {
     const Ref<ITARQModel> model = newModel();
     const Transport built = build(*model);
-    solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const double freight = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
     std::printf("%-18s", "");
     for (const std::string& city : cities) std::printf("%10s", city.c_str());
     for (const std::string& plant : plants) {
@@ -46,8 +46,7 @@ void transport() {
     }
     std::printf("\n%-18s", "one pallet more");
     for (const std::string& city : cities) std::printf("%10g", built.demand.get(&ITARQResSet::get_Dual, city));
-    std::printf("\nshipping costs %.2f euros\n",
-                valueOf<double>([&](double* value) { return model->get_LPObjFunctValue(value); }));
+    std::printf("\nshipping costs %.2f euros\n", freight);
 }
 
 }  // namespace

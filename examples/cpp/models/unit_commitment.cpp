@@ -44,11 +44,11 @@ struct Day {
 
 void coverLoad(ITARQModel& model, const Day& day) {
     const Rows load(model, "load", {hours});
-    check(load->SetEQ(toVariant(loads)));
+    load.exactly(loads);
     Numbers reserves;
     for (const double megawatts : loads) reserves.push_back((1 + reserveShare) * megawatts);
     const Rows reserve(model, "reserve", {hours});
-    check(reserve->SetGT(toVariant(reserves)));
+    reserve.atLeast(reserves);
     for (const Station& station : stations) {
         check(model.SetNZStair(load, day.power.slice(station.name), Variant(1)));
         check(model.SetNZStair(reserve, day.runs.slice(station.name), Variant(station.most)));
@@ -58,9 +58,9 @@ void coverLoad(ITARQModel& model, const Day& day) {
 // power - least * runs >= 0 and power - most * runs + (most - ramp) * starts <= 0
 void limitPower(ITARQModel& model, const Day& day) {
     const Rows least(model, "least", {names, hours});
-    check(least->SetGT(Variant(0)));
+    least.atLeast(0);
     const Rows most(model, "most", {names, hours});
-    check(most->SetLT(Variant(0)));
+    most.atMost(0);
     check(model.SetNZStair(least, day.power, Variant(1)));
     check(model.SetNZStair(most, day.power, Variant(1)));
     for (const Station& station : stations) {
@@ -74,7 +74,7 @@ void limitPower(ITARQModel& model, const Day& day) {
 // starts - runs + runs an hour before >= 0
 void countStarts(ITARQModel& model, const Day& day) {
     const Rows begin(model, "begin", {names, hours});
-    check(begin->SetGT(Variant(0)));
+    begin.atLeast(0);
     check(model.SetNZStair(begin, day.starts, Variant(1)));
     check(model.SetNZStair(begin, day.runs, Variant(-1)));
     check(model.SetNZStair(begin.slice(all, afterFirst), day.runs.slice(all, beforeLast), Variant(1)));
@@ -87,7 +87,7 @@ Day build(ITARQModel& model) {
     check(model.put_Parameter("xglgap", Variant(0)));
     Day day{Columns(model, "power", {names, hours}), Columns(model, "runs", {names, hours}),
             Columns(model, "starts", {names, hours})};
-    day.runs.put(&ITARQVarSet::put_Type, static_cast<double>(TARQColType::Binary));
+    day.runs.put(&ITARQVarSet::put_Type, TARQColType::Binary);
     day.starts.put(&ITARQVarSet::put_UB, 1);
     for (const Station& station : stations) {
         day.power.put(&ITARQVarSet::put_Cost, station.cost, station.name);
@@ -103,14 +103,13 @@ Day build(ITARQModel& model) {
 void commit() {
     const Ref<ITARQModel> model = newModel();
     const Day day = build(*model);
-    solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+    const double spent = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
     for (const std::string& name : names) {
         std::printf("%-8s", name.c_str());
         for (const std::string& hour : hours) std::printf("%7.1f", day.power.get(&ITARQVarSet::get_IPSol, name, hour));
         std::printf("\n");
     }
-    std::printf("the day costs %.2f euros\n",
-                valueOf<double>([&](double* value) { return model->get_IPObjFunctValue(value); }));
+    std::printf("the day costs %.2f euros\n", spent);
 }
 
 }  // namespace

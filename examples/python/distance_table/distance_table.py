@@ -57,8 +57,7 @@ def show(table):
 
 
 def main(path):
-    book = openpyxl.load_workbook(path, data_only=True)
-    distances = read_table(book["km"])
+    distances = read_table(openpyxl.load_workbook(path, data_only=True)["km"])
     print(repr(distances))
     show(distances)
 
@@ -66,6 +65,9 @@ def main(path):
     best = int(total.argmin())
     print(f"best depot: {distances.IndexsetElement[1, best + 1]}, {total[best]} km to all others")
 
+    book = openpyxl.load_workbook(path)  # once more, as a book of results alone would be saved without its formulas
+    if "hours" in book:
+        del book["hours"]
     write(book.create_sheet("hours"), "A1", driving_times(distances), headers=True)
     book.save(path)
     hours = read_table(openpyxl.load_workbook(path)["hours"])

@@ -1,6 +1,6 @@
 """The cheapest feed for cattle: a mixture that holds what the animals need and not too much of what harms them.
 
-Columns are the parts of the ingredients in one tonne of feed. A row a nutrient bounds what the mixture holds of it, on
+Columns are the parts of the ingredients in one tonne of feed. A row for each nutrient bounds what the mixture holds of it, on
 both sides.
 """
 

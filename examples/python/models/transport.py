@@ -70,11 +70,13 @@ def write_plan(sheet, ship, demand):
 
 
 def main(path):
-    book = openpyxl.load_workbook(path, data_only=True)
-    model, ship, demand = build(book["transport"])
+    model, ship, demand = build(openpyxl.load_workbook(path, data_only=True)["transport"])
     model.Optimize()
     if model.SolutionStatus != tarq.LPOptimalSolution:
         sys.exit(f"no plan: {model.SolutionStatus.name}")
+    book = openpyxl.load_workbook(path)  # once more, as a book of results alone would be saved without its formulas
+    if "plan" in book:
+        del book["plan"]
     sheet = book.create_sheet("plan")
     write_plan(sheet, ship, demand)
     book.save(path)
