@@ -56,10 +56,12 @@ Members nameAndBounds() {
     return {
         numbered(10, get<&Family::get_Name>("Name", "Name of the family, with which all members' names begin.")),
         numbered(10, put<&Family::put_Name>("Name", "Renames all members; at most 64 characters.")),
-        numbered(11, indexedGet<&Family::get_LB>("LB", "Lower bounds.")),
-        numbered(11, indexedPut<&Family::put_LB>("LB", "Lower bounds.")),
-        numbered(12, indexedGet<&Family::get_UB>("UB", "Upper bounds.")),
-        numbered(12, indexedPut<&Family::put_UB>("UB", "Upper bounds.")),
+        numbered(11, indexedGet<&Family::get_LB>(
+                         "LB", "Lower bounds; one number where all selected are equal, else an array.")),
+        numbered(11, indexedPut<&Family::put_LB>("LB", "Lower bounds, one for all selected or one for each.")),
+        numbered(12, indexedGet<&Family::get_UB>(
+                         "UB", "Upper bounds; one number where all selected are equal, else an array.")),
+        numbered(12, indexedPut<&Family::put_UB>("UB", "Upper bounds, one for all selected or one for each.")),
     };
 }
 
@@ -67,8 +69,10 @@ template <class Family>
 Members solutionValues(std::int32_t firstId) {
     return {
         numbered(firstId, indexedGet<&Family::get_Status>("Status", "States in the basis; 0x00042003 without any.")),
-        numbered(firstId + 1, indexedGet<&Family::get_IPSol>("IPSol", "Integer solution; 0x00042004 without any.")),
-        numbered(firstId + 2, indexedGet<&Family::get_LPSol>("LPSol", "LP solution; 0x00042003 without any.")),
+        numbered(firstId + 1, indexedGet<&Family::get_IPSol>(
+                                  "IPSol", "Integer solution, as a number or an array; 0x00042004 without any.")),
+        numbered(firstId + 2, indexedGet<&Family::get_LPSol>(
+                                  "LPSol", "LP solution, as a number or an array; 0x00042003 without any.")),
     };
 }
 
@@ -101,12 +105,16 @@ Members items(std::int32_t firstId) {
 Members columnFamilyMembers() {
     Members all = firstMembers<ITARQVarSet>(3);
     append(all, nameAndBounds<ITARQVarSet>());
-    append(all, {
-                    numbered(13, indexedGet<&ITARQVarSet::get_Cost>("Cost", "Objective coefficients.")),
-                    numbered(13, indexedPut<&ITARQVarSet::put_Cost>("Cost", "Objective coefficients.")),
-                    numbered(14, indexedGet<&ITARQVarSet::get_Type>("Type", "Types of the columns.")),
-                    numbered(14, indexedPut<&ITARQVarSet::put_Type>("Type", "Binary sets the bounds to 0 and 1.")),
-                });
+    append(all,
+           {
+               numbered(13,
+                        indexedGet<&ITARQVarSet::get_Cost>(
+                            "Cost", "Objective coefficients; one number where all selected are equal, else an array.")),
+               numbered(13, indexedPut<&ITARQVarSet::put_Cost>(
+                                "Cost", "Objective coefficients, one for all selected or one for each.")),
+               numbered(14, indexedGet<&ITARQVarSet::get_Type>("Type", "Types of the columns.")),
+               numbered(14, indexedPut<&ITARQVarSet::put_Type>("Type", "Binary sets the bounds to 0 and 1.")),
+           });
     append(all, solutionValues<ITARQVarSet>(15));
     append(all,
            {numbered(18, indexedGet<&ITARQVarSet::get_RedCost>("RedCost", "Reduced costs; 0x00042003 without any."))});
