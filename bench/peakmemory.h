@@ -9,12 +9,16 @@
 class PeakMemory {
 public:
     /// Begins the piece of work. What the allocator keeps for later is given back first, or the work could hide in it.
-    PeakMemory() : before_(settledBytes()) { std::ofstream("/proc/self/clear_refs") << "5"; }
+    PeakMemory() : before_(settledBytes()) { forgetHighest(); }
 
     /// The highest resident set since then, above what it was then.
-    [[nodiscard]] double growth() const { return 1024 * kilobytes("VmHWM:") - before_; }
+    [[nodiscard]] double growth() const { return highestBytes() - before_; }
     /// What of that is still there, once the allocator has given back what is free.
     [[nodiscard]] double left() const { return settledBytes() - before_; }
+
+    /// The highest resident set since the start of the process, or since it was last forgotten.
+    [[nodiscard]] static double highestBytes() { return 1024 * kilobytes("VmHWM:"); }
+    static void forgetHighest() { std::ofstream("/proc/self/clear_refs") << "5"; }
 
 private:
     [[nodiscard]] static double settledBytes() {
