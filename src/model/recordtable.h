@@ -17,6 +17,7 @@
 #include "frame/nameindex.h"
 #include "frame/status.h"
 #include "model/familystarts.h"
+#include "model/positionguess.h"
 #include "platform/largepages.h"
 
 namespace tarq {
@@ -44,7 +45,11 @@ public:
     [[nodiscard]] const std::vector<Record>& records() const { return records_; }
 
     [[nodiscard]] std::int32_t find(std::string_view name) const {
-        return name.empty() ? NameIndex::absent : names_.find(name, nameOf());
+        if (name.empty()) return NameIndex::absent;
+        std::int32_t position = findAtGuess(name);
+        if (position == NameIndex::absent) position = names_.find(name, nameOf());
+        if (position != NameIndex::absent) guess_.found(position);
+        return position;
     }
     /// Position of the first record with this mark, or `absent`.
     [[nodiscard]] std::int32_t findFamily(FamilyMark family) const { return families_.find(family); }
@@ -108,6 +113,14 @@ public:
 
 private:
     [[nodiscard]] static std::size_t toIndex(std::int32_t position) { return static_cast<std::size_t>(position); }
+    /// A name stands in one record only, so that the record guessed is the right one where it has the name.
+    [[nodiscard]] std::int32_t findAtGuess(std::string_view name) const {
+        const std::int64_t guess = guess_.next();
+        if (guess < 0 || guess >= count() || records_[static_cast<std::size_t>(guess)].name != name) {
+            return NameIndex::absent;
+        }
+        return static_cast<std::int32_t>(guess);
+    }
     /// The records that move there are the first to fill the new room.
     void reserveRecords(std::size_t count) {
         if (count <= records_.capacity()) return;
@@ -139,6 +152,7 @@ private:
     std::vector<Record> records_;
     NameIndex names_;
     FamilyStarts families_;
+    mutable PositionGuess guess_;
 };
 
 }  // namespace tarq

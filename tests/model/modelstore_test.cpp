@@ -125,6 +125,47 @@ TEST_F(ModelStoreTest, NameIndexFollowsRandomChanges) {
     for (const auto& [name, position] : expected) EXPECT_EQ(store_.findColumn(name), position) << name;
 }
 
+struct SeriesCase {
+    const char* change;
+    void (*make)(ModelStore& store);
+    std::int32_t position;  ///< of "x3" afterwards
+};
+
+constexpr SeriesCase seriesCases[] = {
+    {"none", [](ModelStore&) {}, 3},
+    {"another record has the name",
+     [](ModelStore& store) {
+         EXPECT_THAT(store.renameColumn(3, "y"), succeeds());
+         EXPECT_THAT(store.renameColumn(7, "x3"), succeeds());
+     },
+     7},
+    {"a record before it is gone", [](ModelStore& store) { store.removeColumns(2, 2); }, 2},
+    {"all from there on are gone", [](ModelStore& store) { store.removeColumns(4, 10); }, -1},
+    {"nothing is left", [](ModelStore& store) { store.clear(); }, -1},
+};
+
+TEST_F(ModelStoreTest, SearchThatGoesOnASeriesSeesWhatChanged) {
+    for (const SeriesCase& series : seriesCases) {
+        store_.clear();
+        addColumns({"x0", "x1", "x2", "x3", "x4", "x5", "x6", "x7", "x8", "x9"});
+        for (const char* name : {"x0", "x1", "x2"}) ASSERT_GE(store_.findColumn(name), 0);
+        series.make(store_);
+        EXPECT_EQ(store_.findColumn("x3"), series.position) << series.change;
+    }
+}
+
+TEST_F(ModelStoreTest, SeriesOfSearchesMayRunAnyWay) {
+    addColumns({"x0", "x1", "x2", "x3", "x4", "x5", "x6", "x7", "x8", "x9"});
+    const std::vector<std::int32_t> ways[] = {
+        {0, 1, 2, 3, 9, 4}, {1, 4, 7, 2}, {5, 5, 5, 6}, {3, 2, 1, 0, 9}, {8, 4, 0, 7}};
+    for (const std::vector<std::int32_t>& way : ways) {
+        for (const std::int32_t position : way) {
+            EXPECT_EQ(store_.findColumn(std::string("x").append(std::to_string(position))), position);
+        }
+        EXPECT_EQ(store_.findColumn("y"), -1);
+    }
+}
+
 TEST_F(ModelStoreTest, NonzerosThatAddUpToZeroVanish) {
     addColumns({"x"});
     addRows({"r"});
