@@ -28,7 +28,6 @@
 namespace tarq {
 
 // Two members are published with a leading underscore and a capital, and the last reference alone may delete the
-// object. NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
 class CTARQModel final : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo>,
                          private ModelFileTarget {
 public:
@@ -203,6 +202,5 @@ private:
     std::mutex backgroundMutex_;                 // of background_: a sink may start the next run on another thread
     std::shared_ptr<BackgroundRun> background_;  // the latest, which may have ended
 };
-// NOLINTEND(bugprone-reserved-identifier,cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

@@ -7,7 +7,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQRes final : public ItemObject<CTARQRes, ITARQRes, rowSide, classid::TARQRes> {
 public:
     CTARQRes() : ItemObject(0.0) {}
@@ -18,6 +17,5 @@ public:
     Status Sum(const ValueList& CoeffsAndCols) override;
     Status get_Dual(double* value) override { return item_.getPrice(value); }
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

@@ -9,7 +9,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQSeries final : public CountedObject<CTARQSeries, ITARQSeries> {
 public:
     Status Init(double Start, double End, const Variant& Step) override;
@@ -21,6 +20,5 @@ private:
     SeriesRange range_;
     bool initialized_ = false;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

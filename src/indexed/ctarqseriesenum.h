@@ -10,7 +10,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQSeriesEnum final : public CountedObject<CTARQSeriesEnum, ITARQSeriesEnum, IEnumVARIANT> {
 public:
     Status Init(double Start, double End, double Step) override;
@@ -26,6 +25,5 @@ private:
     SeriesWalk walk_;
     bool initialized_ = false;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

@@ -11,7 +11,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQSet final : public CountedObject<CTARQSet, ITARQSet> {
 public:
     Status Add(const ValueList& ListOfElements) override;
@@ -36,6 +35,5 @@ public:
 private:
     ElementList elements_;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

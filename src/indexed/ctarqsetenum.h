@@ -14,7 +14,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQSetEnum final : public CountedObject<CTARQSetEnum, ITARQSetEnum, IEnumVARIANT> {
 public:
     Status Init(IUnknown* TARQSet, const Variant& Start, const Variant& End, const Variant& Step) override;
@@ -35,6 +34,5 @@ private:
     Ref<ITARQSet> parent_;  ///< set by a successful Init
     PositionWalk walk_;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

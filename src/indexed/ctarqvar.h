@@ -7,7 +7,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class CTARQVar final : public ItemObject<CTARQVar, ITARQVar, columnSide, classid::TARQVar> {
 public:
     CTARQVar() : ItemObject(1e25) {}
@@ -27,6 +26,5 @@ private:
     double cost_ = 0.0;
     TARQColType type_ = TARQColType::Continuous;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq

@@ -14,7 +14,6 @@
 
 namespace tarq {
 
-// The last reference alone may delete the object. NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 class ElementEnum final : public CountedObject<ElementEnum, IEnumVARIANT> {
 public:
     using Elements = std::shared_ptr<const ElementList::Values>;
@@ -36,6 +35,5 @@ private:
     Elements elements_;
     std::size_t position_;
 };
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 }  // namespace tarq
