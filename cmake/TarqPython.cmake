@@ -31,5 +31,5 @@ if(TARQ_SANITIZE)
   endforeach()
   list(JOIN runtimes ":" preloaded)
   list(APPEND tarq_python_environment "LD_PRELOAD=${preloaded}" "PYTHONMALLOC=malloc"
-    "ASAN_OPTIONS=detect_leaks=0" "TSAN_OPTIONS=report_thread_leaks=0")
+    "ASAN_OPTIONS=detect_leaks=0" "TSAN_OPTIONS=report_thread_leaks=0:intercept_tls_get_addr=0")
 endif()
