@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 #include <new>
 #include <utility>
 
@@ -38,21 +37,6 @@ NameIndex& NameIndex::operator=(NameIndex other) noexcept {
     std::swap(secret_, other.secret_);
     std::swap(multiplier_, other.multiplier_);
     return *this;
-}
-
-// Multiply and fold, eight bytes at a time.
-std::uint32_t NameIndex::hashOf(std::string_view name) const {
-    std::uint64_t hash = secret_ ^ name.size();
-    while (!name.empty()) {
-        std::uint64_t word = 0;
-        const std::size_t length = std::min(name.size(), sizeof(word));
-        std::memcpy(&word, name.data(), length);
-        name.remove_prefix(length);
-        hash = (hash ^ word) * multiplier_;
-        hash ^= hash >> 32U;
-    }
-    hash *= multiplier_;
-    return static_cast<std::uint32_t>(hash >> 32U);
 }
 
 void NameIndex::erase(std::string_view name, std::int32_t position) {

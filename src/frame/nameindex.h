@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -71,7 +72,25 @@ private:
     };
     using Slots = std::vector<Slot, LargePageAllocator<Slot>>;
 
-    [[nodiscard]] std::uint32_t hashOf(std::string_view name) const;
+    /// Multiply and fold, eight bytes at a time.
+    [[nodiscard]] std::uint32_t hashOf(std::string_view name) const {
+        std::uint64_t hash = secret_ ^ name.size();
+        std::uint64_t word = 0;
+        for (; name.size() >= sizeof(word); name.remove_prefix(sizeof(word))) {
+            std::memcpy(&word, name.data(), sizeof(word));
+            hash = mixed(hash ^ word);
+        }
+        if (!name.empty()) {
+            word = 0;
+            std::memcpy(&word, name.data(), name.size());
+            hash = mixed(hash ^ word);
+        }
+        return static_cast<std::uint32_t>(hash * multiplier_ >> 32U);
+    }
+    [[nodiscard]] std::uint64_t mixed(std::uint64_t hash) const {
+        hash *= multiplier_;
+        return hash ^ hash >> 32U;
+    }
     /// Where the search for a hash begins. The order of the places is that of the hashes, so that a larger table is
     /// filled from one end to the other.
     [[nodiscard]] std::size_t placeOf(std::uint32_t hash) const { return hash >> shift_; }

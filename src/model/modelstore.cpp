@@ -13,9 +13,9 @@ constexpr NameTexts rowTexts{"Duplicate row name: ", "Row name '", "' is too lon
 
 ModelStore::ModelStore() : columns_(columnTexts), rows_(rowTexts) {}
 
-Outcome ModelStore::addColumnRecord(ColumnRecord record) { return columns_.add(std::move(record)); }
+Outcome ModelStore::addColumnRecord(ColumnRecord&& record) { return columns_.add(std::move(record)); }
 
-Outcome ModelStore::addRowRecord(RowRecord record) { return rows_.add(std::move(record)); }
+Outcome ModelStore::addRowRecord(RowRecord&& record) { return rows_.add(std::move(record)); }
 
 Outcome ModelStore::renameColumn(std::int32_t position, std::string_view name) {
     return columns_.rename(position, std::string(name));

@@ -74,8 +74,8 @@ public:
 
     /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
     /// A name that is taken is 0x80041026 for columns and 0x8004102B for rows, and nothing is added.
-    [[nodiscard]] Outcome addColumnRecord(ColumnRecord record);
-    [[nodiscard]] Outcome addRowRecord(RowRecord record);
+    [[nodiscard]] Outcome addColumnRecord(ColumnRecord&& record);
+    [[nodiscard]] Outcome addRowRecord(RowRecord&& record);
     /// Gives the record at a 0-based position another name, or none. Fails with the same statuses: a name of more than
     /// 64 bytes changes nothing; a name that is taken leaves the record without a name. A position outside the table is
     /// 0x8004101A.
