@@ -63,6 +63,36 @@ struct Scan {
     }
 };
 
+/// Value of the unsigned number `text`, of whose `digitCount` digits `mantissa` is made, ten to the `scale` times that.
+inline double magnitudeOf(std::uint64_t mantissa, std::ptrdiff_t digitCount, std::ptrdiff_t scale,
+                          std::string_view text) {
+    // Both operands are exact, so one operation rounds once and gives the nearest double.
+    constexpr std::uint64_t exactLimit = std::uint64_t{1} << 53U;
+    constexpr std::ptrdiff_t exactScale = powersOfTen.size() - 1;
+    const double magnitude = static_cast<double>(mantissa);
+    if (digitCount > 19 || mantissa > exactLimit || scale > exactScale || scale < -exactScale) {
+        return readCheckedReal(text);
+    }
+    if (scale < 0) return magnitude / powersOfTen[static_cast<std::size_t>(-scale)];
+    return magnitude * powersOfTen[static_cast<std::size_t>(scale)];
+}
+
+/// Reads the digits and the point that a text begins with, at least one digit, and returns where they end: before a
+/// second point, a sign or a letter.
+inline const char* readPlainReal(std::string_view text, double& value) {
+    Scan scan{text.data(), text.data() + text.size()};
+    std::uint64_t mantissa = 0;
+    std::ptrdiff_t digitCount = scan.takeDigits(mantissa);
+    std::ptrdiff_t scale = 0;
+    if (scan.at != scan.end && *scan.at == '.') {
+        ++scan.at;
+        scale = -scan.takeDigits(mantissa);
+        digitCount -= scale;
+    }
+    value = magnitudeOf(mantissa, digitCount, scale, text.substr(0, static_cast<std::size_t>(scan.at - text.data())));
+    return scan.at;
+}
+
 }  // namespace numbertext
 
 inline bool parseReal(std::string_view text, double& value) {
@@ -86,17 +116,8 @@ inline bool parseReal(std::string_view text, double& value) {
     }
     if (scan.at != scan.end) return false;
 
-    // Both operands are exact, so one operation rounds once and gives the nearest double.
-    constexpr std::uint64_t exactLimit = std::uint64_t{1} << 53U;
-    constexpr std::ptrdiff_t exactScale = numbertext::powersOfTen.size() - 1;
-    double magnitude = static_cast<double>(mantissa);
-    if (digitCount > 19 || mantissa > exactLimit || scale > exactScale || scale < -exactScale) {
-        magnitude = numbertext::readCheckedReal({first, static_cast<std::size_t>(scan.end - first)});
-    } else if (scale < 0) {
-        magnitude /= numbertext::powersOfTen[static_cast<std::size_t>(-scale)];
-    } else {
-        magnitude *= numbertext::powersOfTen[static_cast<std::size_t>(scale)];
-    }
+    const double magnitude =
+        numbertext::magnitudeOf(mantissa, digitCount, scale, {first, static_cast<std::size_t>(scan.end - first)});
     value = negative ? -magnitude : magnitude;
     return true;
 }

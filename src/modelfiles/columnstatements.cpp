@@ -25,11 +25,9 @@ void change(ColumnRecord& column, ColumnStatement statement, double infinity) {
 
 }  // namespace
 
-ColumnStatements::ColumnStatements(ModelStore& store)
-    : store_(store), appliedUpTo_(static_cast<std::size_t>(store.columnCount())) {}
-
 void ColumnStatements::applyToFirst(ColumnStatement statement, std::int32_t count) {
     if (count < 1) return;
+    appliedUpTo_.resize(static_cast<std::size_t>(store_.columnCount()));
     std::vector<Mark>& marks = marks_[static_cast<std::size_t>(statement)];
     while (!marks.empty() && marks.back().count <= count) marks.pop_back();
     marks.push_back({count, ++now_});
@@ -47,6 +45,7 @@ ColumnStatements::Time ColumnStatements::latest(ColumnStatement statement, std::
 
 ColumnRecord& ColumnStatements::column(std::int32_t position) {
     ColumnRecord& record = store_.column(position);
+    if (now_ == 0) return record;
     Time& applied = appliedUpTo_[static_cast<std::size_t>(position)];
     std::array<std::pair<Time, ColumnStatement>, 3> open{
         {{latest(ColumnStatement::Free, position), ColumnStatement::Free},
@@ -61,6 +60,7 @@ ColumnRecord& ColumnStatements::column(std::int32_t position) {
 }
 
 void ColumnStatements::finish() {
+    if (now_ == 0) return;
     for (std::int32_t position = 0; position < store_.columnCount(); ++position) (void)column(position);
 }
 

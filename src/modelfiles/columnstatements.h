@@ -18,7 +18,7 @@ enum class ColumnStatement { Free, General, Binary };
 class ColumnStatements {
 public:
     /// The columns are those of the store, which keeps its number of them from now on.
-    explicit ColumnStatements(ModelStore& store);
+    explicit ColumnStatements(ModelStore& store) : store_(store) {}
 
     void applyToFirst(ColumnStatement statement, std::int32_t count);
     void apply(ColumnStatement statement, std::int32_t position);
@@ -38,9 +38,9 @@ private:
     [[nodiscard]] Time latest(ColumnStatement statement, std::int32_t position) const;
 
     ModelStore& store_;
-    Time now_ = 0;
+    Time now_ = 0;                            ///< 0 as long as no statement named the first n columns
     std::array<std::vector<Mark>, 3> marks_;  ///< by statement
-    std::vector<Time> appliedUpTo_;           ///< by column
+    std::vector<Time> appliedUpTo_;           ///< by column; empty as long as `now_` is 0
 };
 
 }  // namespace tarq

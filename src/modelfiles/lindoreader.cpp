@@ -4,21 +4,19 @@
 #include <array>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "frame/numbertext.h"
-#include "model/nonzeroloader.h"
 #include "modelfiles/columnfinder.h"
 #include "modelfiles/columnstatements.h"
-#include "modelfiles/fixednametable.h"
+#include "modelfiles/fixedname.h"
 #include "modelfiles/freetokenscanner.h"
-#include "platform/largepages.h"
+#include "modelfiles/lindotarget.h"
 
 namespace tarq {
 namespace {
 
 constexpr std::size_t longestName = 8;
-/// So many columns tell how many the objective has.
+/// So many terms tell how many the objective has.
 constexpr std::int32_t sampleLength = 1000;
 /// No file makes the reader take much memory by what it seems to hold.
 constexpr double largestGuess = 1e6;
@@ -33,7 +31,6 @@ std::string inCapitals(std::string_view token) {
 bool isOperator(char character) {
     return character == '+' || character == '-' || character == '<' || character == '>' || character == '=';
 }
-bool isSign(std::string_view token) { return token == "+" || token == "-"; }
 
 /// What a reader of sums says where the objective and a restriction differ.
 struct SumMessages {
@@ -49,19 +46,33 @@ constexpr SumMessages restrictionMessages{"Incomplete restriction.", "Variable n
 /// A message; empty where all went well.
 using Message = std::string;
 
+Message missing(std::string_view what, FixedName keyword) {
+    return std::string("Missing ").append(what).append(" name after ").append(keyword.text()).append(".");
+}
+
+struct Keyword {
+    FixedName name;
+    ColumnStatement statement;
+};
+constexpr FixedName quadratic{"QCP"};
+constexpr FixedName title{"TITLE"};
+constexpr FixedName lowerBound{"SLB"};
+constexpr FixedName upperBound{"SUB"};
+constexpr std::array<Keyword, 3> columnKeywords{{{FixedName("GIN"), ColumnStatement::General},
+                                                 {FixedName("INT"), ColumnStatement::Binary},
+                                                 {FixedName("FREE"), ColumnStatement::Free}}};
+
 class LindoReader {
 public:
     LindoReader(std::string text, ModelFileTarget& model)
-        : scanner_(std::move(text)), model_(model), store_(model.store()) {}
+        : scanner_(std::move(text)), model_(model), store_(model.store()), target_(model.store()) {}
 
     std::optional<ParseFailure> read() {
         Message message = readDirection();
         if (message.empty()) message = readObjective();
         if (message.empty()) message = readRestrictions();
         // What stands before a failure stays in the model.
-        storeTerms();
-        storeRow();
-        store_.loadNonzeros(nonzeros_);
+        target_.finish();
         if (message.empty()) message = readStatements();
         if (message.empty()) return std::nullopt;
         return ParseFailure{std::move(message), scanner_.currentLineNumber()};
@@ -71,10 +82,6 @@ private:
     struct Term {
         double coefficient = 1.0;
         FixedName variable;
-    };
-    struct RowEntry {
-        std::int32_t column;
-        double value;
     };
 
     Message readDirection() {
@@ -89,106 +96,65 @@ private:
     }
 
     Message readObjective() {
-        objectiveStart_ = scanner_.tokenStart();
-        for (bool isFirst = true; !scanner_.isSubjectToHere(); isFirst = false) {
+        const std::size_t start = scanner_.tokenStart();
+        for (std::int32_t count = 0; !scanner_.isSubjectToHere(); ++count) {
+            if (count == sampleLength) reserveColumns(start);
             Term term;
-            if (Message message = readTerm(isFirst, objectiveMessages, term); !message.empty()) return message;
-            takeTerm(term);
+            if (!readTerm(count == 0, objectiveMessages, term)) return termFailure_;
+            target_.addCost(term.variable, term.coefficient);
             if (!scanner_.nextToken()) return "Unexpected end of file, missing constraints.";
         }
-        storeTerms();
-        inObjective_ = false;
-        placeInRow_.resize(static_cast<std::size_t>(store_.columnCount()));
+        target_.endObjective();
         (void)scanner_.nextToken();
         return {};
     }
 
-    /// Reads a term up to its variable.
-    Message readTerm(bool isFirst, const SumMessages& messages, Term& term) {
-        double sign = 1.0;
-        if (isSign(scanner_.token())) {
-            sign = scanner_.token() == "-" ? -1.0 : 1.0;
-            if (!scanner_.nextToken()) return Message(messages.incomplete);
-        } else if (!isFirst) {
-            return "+ or - expected.";
-        }
-        if (parseReal(scanner_.token(), term.coefficient) && !scanner_.nextToken()) return "Expecting variable name.";
-        term.coefficient *= sign;
-        if (Message message = checkName(messages); !message.empty()) return message;
-        term.variable = variableHere();
-        return {};
+    /// Guesses the columns from the length of the objective, which ends before the first name of a restriction.
+    void reserveColumns(std::size_t objectiveStart) {
+        const auto read = static_cast<double>(scanner_.tokenStart() - objectiveStart);
+        const auto rest = static_cast<double>(scanner_.distanceTo(')'));
+        // The first terms may be longer than most. What is reserved in vain is never filled.
+        constexpr double margin = 1.05;
+        target_.reserveColumns(
+            static_cast<std::size_t>(std::min(margin * sampleLength * (1.0 + rest / read), largestGuess)));
     }
 
-    Message checkName(const SumMessages& messages) {
+    /// Reads a term up to its variable. As terms are many, the message of a failure is left behind instead of handed
+    /// back.
+    [[nodiscard]] bool readTerm(bool isFirst, const SumMessages& messages, Term& term) {
+        double sign = 1.0;
+        if (scanner_.isSign()) {
+            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
+            if (!scanner_.nextToken()) return fail(messages.incomplete);
+        } else if (!isFirst) {
+            return fail("+ or - expected.");
+        }
+        if (scanner_.readNumber(term.coefficient) && !scanner_.nextToken()) return fail("Expecting variable name.");
+        term.coefficient *= sign;
+        if (!checkName(messages)) return false;
+        term.variable = scanner_.shortToken();
+        return true;
+    }
+
+    [[nodiscard]] bool checkName(const SumMessages& messages) {
         const std::string_view name = scanner_.token();
-        if (name.size() > longestName) return "Variable names may not be longer than 8 characters.";
-        if (name.front() >= '0' && name.front() <= '9') return Message(messages.digitFirst);
+        if (name.size() > longestName) return fail("Variable names may not be longer than 8 characters.");
+        if (name.front() >= '0' && name.front() <= '9') return fail(messages.digitFirst);
         // No other token begins with an operator, and no word has one inside.
         if (isOperator(name.front())) {
-            if (messages.isObjective && isSign(name)) return "No constans allowed in objective function.";
-            return std::string("Illegal character in variable name '").append(name).append("'.");
+            if (messages.isObjective && scanner_.isSign()) return fail("No constans allowed in objective function.");
+            return fail(std::string("Illegal character in variable name '").append(name).append("'."));
         }
-        if (!messages.isObjective || !scanner_.isSubjectToHere()) return {};
+        if (!messages.isObjective || !scanner_.isSubjectToHere()) return true;
         if (equalsInUpperCase(scanner_.token(), "ST")) {
-            return "Token 'ST' appears after incomplete objective function. Don't use ST as a variable name.";
+            return fail("Token 'ST' appears after incomplete objective function. Don't use ST as a variable name.");
         }
-        return "'SUBJECT TO' appears after incomplete objective function.";
+        return fail("'SUBJECT TO' appears after incomplete objective function.");
     }
 
-    [[nodiscard]] FixedName variableHere() const {
-        const std::string_view token = scanner_.token();
-        std::array<char, longestName> capitals{};
-        token.copy(capitals.data(), token.size());
-        for (char& character : capitals) character = upperCased(character);
-        return FixedName(std::string_view(capitals.data(), token.size()));
-    }
-
-    /// Keeps a term until its column is on its way from memory.
-    void takeTerm(const Term& term) {
-        if (termCount_ == terms_.size()) storeTerms();
-        columns_.prefetch(term.variable);
-        if (inObjective_) store_.prefetchColumn(term.variable.text());
-        terms_[termCount_++] = term;
-    }
-
-    /// Adds the terms kept to the objective or to the restriction. New variables become columns, in their order.
-    void storeTerms() {
-        const std::size_t count = std::exchange(termCount_, 0);
-        std::array<std::int32_t, termsKept> positions;
-        for (std::size_t i = 0; i < count; ++i) {
-            positions[i] = findOrAddColumn(terms_[i].variable);
-            if (!inObjective_) prefetchPlace(positions[i]);
-        }
-        for (std::size_t i = 0; i < count; ++i) {
-            if (inObjective_) {
-                store_.column(positions[i]).cost += terms_[i].coefficient;
-            } else {
-                addToRow(positions[i], terms_[i].coefficient);
-            }
-        }
-    }
-
-    std::int32_t findOrAddColumn(FixedName name) {
-        const std::int32_t next = store_.columnCount();
-        const std::int32_t position = columns_.insert(name, next);
-        if (position != next) return position;
-        ColumnRecord column;
-        column.name = name.text();
-        column.upperBound = store_.infinity();
-        (void)store_.addColumnRecord(std::move(column));
-        if (inObjective_ && next == sampleLength) reserveColumns();
-        return position;
-    }
-
-    /// Guesses the columns from the length of the objective, which ends before the first name of a restriction.
-    void reserveColumns() {
-        const auto read = static_cast<double>(scanner_.tokenStart() - objectiveStart_);
-        const auto rest = static_cast<double>(scanner_.distanceTo(')'));
-        const double count = std::min(sampleLength * (1.0 + rest / read), largestGuess);
-        columns_.reserve(static_cast<std::size_t>(count));
-        // The first columns may be longer than most. What is reserved in vain is never filled.
-        constexpr double margin = 1.05;
-        store_.reserveColumns(static_cast<std::int32_t>(margin * count));
+    bool fail(std::string_view message) {
+        termFailure_ = message;
+        return false;
     }
 
     Message readRestrictions() {
@@ -199,8 +165,6 @@ private:
                 return {};
             }
             if (Message message = readRestriction(); !message.empty()) return message;
-            storeTerms();
-            storeRow();
             (void)scanner_.nextToken();
         }
     }
@@ -210,47 +174,27 @@ private:
             return "Name of restriction or variable is longer than 8 characters.";
         }
         RowRecord row;
-        const std::string first = inCapitals(scanner_.token());
+        const FixedName first = scanner_.shortToken();
         if (scanner_.peekIsCloseParen()) {
-            if (store_.findRow(first) >= 0) return "Duplicate row name.";
+            if (store_.findRow(first.text()) >= 0) return "Duplicate row name.";
             if (!scanner_.nextToken()) return "Start of restriction expected.";
-            row.name = first;
+            row.name = first.text();
+            fetchNextRow();
         }
         (void)store_.addRowRecord(std::move(row));
         for (bool isFirst = true; isFirst || !scanner_.isRelation(); isFirst = false) {
             Term term;
-            if (Message message = readTerm(isFirst, restrictionMessages, term); !message.empty()) return message;
-            takeTerm(term);
+            if (!readTerm(isFirst, restrictionMessages, term)) return termFailure_;
+            target_.addToRow(term.variable, term.coefficient);
             if (!scanner_.nextToken()) return Message(restrictionMessages.incomplete);
         }
         return readRightHandSide();
     }
 
-    void prefetchPlace([[maybe_unused]] std::int32_t position) const {
-#if defined(__GNUC__)
-        const auto index = static_cast<std::size_t>(position);
-        if (index < placeInRow_.size()) __builtin_prefetch(&placeInRow_[index]);
-#endif
-    }
-
-    void addToRow(std::int32_t position, double coefficient) {
-        const auto index = static_cast<std::size_t>(position);
-        if (index >= placeInRow_.size()) placeInRow_.resize(std::max(index + 1, 2 * placeInRow_.size()));
-        std::uint32_t& place = placeInRow_[index];
-        // Places left by earlier rows don't hold this column.
-        if (place < row_.size() && row_[place].column == position + 1) {
-            row_[place].value += coefficient;
-            return;
-        }
-        place = static_cast<std::uint32_t>(row_.size());
-        row_.push_back({position + 1, coefficient});
-    }
-
-    void storeRow() {
-        for (const RowEntry& entry : row_) {
-            if (entry.value != 0.0) nonzeros_.append(entry.column, store_.rowCount(), entry.value);
-        }
-        row_.clear();
+    /// Fetches what the name of the next row will look at.
+    void fetchNextRow() const {
+        const std::string_view name = scanner_.wordBeforeCloseParen();
+        if (name.size() <= longestName) store_.prefetchRow(FixedName::inCapitals(name.size(), name).text());
     }
 
     Message readRightHandSide() {
@@ -259,12 +203,12 @@ private:
                                                                                      : '=';
         if (!scanner_.nextToken()) return "RHS of restriction is missing.";
         double sign = 1.0;
-        if (isSign(scanner_.token())) {
-            sign = scanner_.token() == "-" ? -1.0 : 1.0;
+        if (scanner_.isSign()) {
+            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
             if (!scanner_.nextToken()) return "Incomplete RHS.";
         }
         double value = 0.0;
-        if (!parseReal(scanner_.token(), value)) return "RHS is no valid number.";
+        if (!scanner_.readNumber(value)) return "RHS is no valid number.";
         value = store_.clampToInfinity(sign * value);
         RowRecord& row = store_.row(store_.rowCount() - 1);
         row.lowerBound = relation == '<' ? -store_.infinity() : value;
@@ -284,23 +228,20 @@ private:
     }
 
     Message readStatement(ColumnStatements& statements) {
-        const std::string word = inCapitals(scanner_.token());
-        if (word == "QCP") return "TARQ does not support quadratic models.";
-        if (word == "TITLE") {
-            model_.setModelName(std::string(scanner_.titleText()));
-            return {};
+        const std::string_view token = scanner_.token();
+        const FixedName keyword = token.size() <= longestName ? scanner_.shortToken() : FixedName();
+        if (keyword == lowerBound || keyword == upperBound) return readBound(keyword, statements);
+        for (const auto& [name, statement] : columnKeywords) {
+            if (keyword == name) return readTarget(keyword, statement, statements);
         }
-        if (word == "SLB" || word == "SUB") return readBound(word, statements);
-        constexpr std::pair<std::string_view, ColumnStatement> kinds[] = {
-            {"FREE", ColumnStatement::Free}, {"GIN", ColumnStatement::General}, {"INT", ColumnStatement::Binary}};
-        for (const auto& [name, statement] : kinds) {
-            if (word == name) return readTarget(word, statement, statements);
-        }
-        return "Unknown Lindo Statement.";
+        if (keyword == quadratic) return "TARQ does not support quadratic models.";
+        if (keyword != title) return "Unknown Lindo Statement.";
+        model_.setModelName(std::string(scanner_.titleText()));
+        return {};
     }
 
-    Message readTarget(const std::string& word, ColumnStatement statement, ColumnStatements& statements) {
-        if (!scanner_.nextToken()) return "Missing variable name after " + word + ".";
+    Message readTarget(FixedName keyword, ColumnStatement statement, ColumnStatements& statements) {
+        if (!scanner_.nextToken()) return missing("variable", keyword);
         std::int32_t count = 0;
         if (parseInteger(scanner_.token(), count)) {
             statements.applyToFirst(statement, std::min(count, store_.columnCount()));
@@ -312,45 +253,44 @@ private:
         return message;
     }
 
-    Message readBound(const std::string& word, ColumnStatements& statements) {
-        if (!scanner_.nextToken()) return "Missing variable name after " + word + ".";
+    Message readBound(FixedName keyword, ColumnStatements& statements) {
+        if (!scanner_.nextToken()) return missing("variable", keyword);
         std::int32_t position = 0;
         if (Message message = findColumn(position); !message.empty()) return message;
-        const std::string& name = store_.column(position).name;
-        if (!scanner_.nextToken()) return "Missing value name after " + word + ".";
+        if (!scanner_.nextToken()) return missing("value", keyword);
         double sign = 1.0;
-        if (isSign(scanner_.token())) {
-            sign = scanner_.token() == "-" ? -1.0 : 1.0;
-            if (!scanner_.nextToken()) return "Missing value name after " + word + " " + name + ".";
+        if (scanner_.isSign()) {
+            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
+            if (!scanner_.nextToken()) {
+                const std::string both = std::string(keyword.text()).append(" ").append(store_.column(position).name);
+                return std::string("Missing value name after ").append(both).append(".");
+            }
         }
         double value = 0.0;
-        if (!parseReal(scanner_.token(), value)) return "Bad numeric value for " + word + ".";
+        if (!scanner_.readNumber(value)) {
+            return std::string("Bad numeric value for ").append(keyword.text()).append(".");
+        }
         ColumnRecord& column = statements.column(position);
-        (word == "SLB" ? column.lowerBound : column.upperBound) = store_.clampToInfinity(sign * value);
+        (keyword == lowerBound ? column.lowerBound : column.upperBound) = store_.clampToInfinity(sign * value);
         return {};
     }
 
     Message findColumn(std::int32_t& position) {
+        if (scanner_.token().size() <= longestName) {
+            position = target_.numberedColumn(scanner_.shortToken());
+            if (position >= 0) return {};
+        }
         const std::string name = inCapitals(scanner_.token());
-        position = finder_.find(
-            name, [&] { return name.size() > longestName ? FixedNameTable::absent : columns_.find(variableHere()); });
+        position = finder_.find(name, [&] { return store_.findColumn(name); });
         return position >= 0 ? Message() : "Variable name '" + name + "' does not exist.";
     }
 
     FreeTokenScanner scanner_;
     ModelFileTarget& model_;
     ModelStore& store_;
-    NonzeroLoader nonzeros_;
-    FixedNameTable columns_;  ///< exactly the columns of the store, which every term asks for
-    bool inObjective_ = true;
-    std::size_t objectiveStart_ = 0;
-    static constexpr std::size_t termsKept = 32;
-    std::array<Term, termsKept> terms_{};
-    std::size_t termCount_ = 0;
+    LindoTarget target_;
+    Message termFailure_;
     ColumnFinder finder_{store_};  ///< of the statements
-    std::vector<RowEntry> row_;    ///< of the restriction that is read
-    std::vector<std::uint32_t, LargePageAllocator<std::uint32_t>>
-        placeInRow_;  ///< by column, where it stood in the latest row that had it
 };
 
 }  // namespace
