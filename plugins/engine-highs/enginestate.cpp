@@ -106,8 +106,8 @@ std::int32_t EngineState::putModel(const ModelArrays& arrays) {
     start();
     runStart_ = std::chrono::steady_clock::now();
     BuiltModel built;
-    if (std::string failure = buildModel(arrays, parameters_.number("xdropm"), built); !failure.empty()) {
-        return fail(inputError, std::move(failure));
+    if (const std::string failure = buildModel(arrays, parameters_.number("xdropm"), built); !failure.empty()) {
+        return fail(inputError, failure);
     }
     reported_.rows = arrays.rows;
     reported_.columns = arrays.columns;

@@ -64,6 +64,7 @@ const Parameter* findParameter(const std::vector<Parameter>& parameters, std::st
 
 std::string suggestion(const std::vector<Parameter>& parameters, std::string_view name) {
     std::vector<std::string_view> names;
+    names.reserve(parameters.size());
     for (const Parameter& row : parameters) names.emplace_back(row.name);
     return suggestion(names, name, "'tarq parameters' lists them all.");
 }

@@ -130,7 +130,6 @@ Status createInstance(IUnknown* outer, const Guid& interfaceId, void** out) noex
     *out = nullptr;
     if (outer != nullptr && interfaceId != IUnknown::id) return status::noAggregation;
     try {
-        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): from the first reference on it owns itself
         Class* const object = std::make_unique<Class>().release();
         object->aggregate(outer);
         // Held while it is made ready, so that a reference taken and dropped meanwhile doesn't end it.

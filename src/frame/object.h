@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] Interface* get() const { return object_; }
     Interface* operator->() const { return object_; }
-    Interface& operator*() const { return *object_; }
+    Interface& operator*() const { return *object_; }  // NOLINT(clang-analyzer-core.uninitialized.UndefReturn)
     explicit operator bool() const { return object_ != nullptr; }
     friend bool operator==(const Ref&, const Ref&) = default;
 

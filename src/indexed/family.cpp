@@ -21,6 +21,7 @@ Outcome alreadyInitialized() {
 
 std::vector<std::size_t> sizesOf(const std::vector<Indexset>& dimensions) {
     std::vector<std::size_t> sizes;
+    sizes.reserve(dimensions.size());
     for (const Indexset& names : dimensions) sizes.push_back(names.size());
     return sizes;
 }

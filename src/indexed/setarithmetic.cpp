@@ -51,7 +51,7 @@ void combineElement(Variant& element, double operand, const Combine& combine) {
 template <class Combine>
 Outcome combineElements(ElementList& elements, const Variant& value, const char* textsLeft, const Combine& combine) {
     Operands operands;
-    if (const Outcome outcome = readOperands(value, operands); !outcome.isOk()) return outcome;
+    if (Outcome outcome = readOperands(value, operands); !outcome.isOk()) return outcome;
     if (!operands.isScalar && operands.numbers.size() != elements.size()) return lengthsDiffer();
     bool allNumbers = true;
     for (std::size_t position = 0; Variant & element : elements.change()) {
@@ -78,7 +78,7 @@ Outcome multiplyElements(ElementList& elements, const Variant& value) {
 
 Outcome dotProduct(const ElementList& elements, const Variant& vector, double& product) {
     Operands operands;
-    if (const Outcome outcome = readOperands(vector, operands); !outcome.isOk()) return outcome;
+    if (Outcome outcome = readOperands(vector, operands); !outcome.isOk()) return outcome;
     if (operands.numbers.size() != elements.size()) return lengthsDiffer();
     double sum = 0.0;
     for (std::size_t position = 0; const Variant& element : elements.values()) {

@@ -39,7 +39,7 @@ Outcome takeArrayElements(const SafeArray& array, std::vector<Variant>& taken) {
         taken.reserve(std::max(needed, 2 * taken.capacity()));
     }
     for (const Element& element : elements) {
-        if (const Outcome outcome = takeElement(elementValue(element), taken); !outcome.isOk()) return outcome;
+        if (Outcome outcome = takeElement(elementValue(element), taken); !outcome.isOk()) return outcome;
     }
     return {};
 }
@@ -69,9 +69,9 @@ Outcome takeArray(const SafeArray& array, std::vector<Variant>& taken) {
 
 Outcome takeObjectValues(IUnknown* object, std::vector<Variant>& taken) {
     std::vector<Variant> values;
-    if (const Outcome outcome = collectObjectValues(object, Kind::Empty, values); !outcome.isOk()) return outcome;
+    if (Outcome outcome = collectObjectValues(object, Kind::Empty, values); !outcome.isOk()) return outcome;
     for (Variant& value : values) {
-        if (const Outcome outcome = takeElement(std::move(value), taken); !outcome.isOk()) return outcome;
+        if (Outcome outcome = takeElement(std::move(value), taken); !outcome.isOk()) return outcome;
     }
     return {};
 }
@@ -91,7 +91,7 @@ Outcome walkValueBatches(const ValueList& list, const Apply& apply) {
     for (const Variant& listed : walk) {
         Variant entry = listed.copyDereferenced();
         if (entry.isObject()) apply(std::exchange(taken, {}));
-        if (const Outcome outcome = takeEntry(std::move(entry), taken); !outcome.isOk()) {
+        if (Outcome outcome = takeEntry(std::move(entry), taken); !outcome.isOk()) {
             apply(std::move(taken));
             return outcome;
         }
@@ -166,14 +166,14 @@ Outcome putElement(ElementList& elements, std::int32_t index, const Variant& val
 
 Outcome findElement(const ElementList& elements, const Variant& item, std::int32_t& index) {
     Variant sought;
-    if (const Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
+    if (Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
     index = indexFrom(elements, sought, 1);
     return {};
 }
 
 Outcome findNextElement(const ElementList& elements, const Variant& item, std::int32_t start, std::int32_t& index) {
     Variant sought;
-    if (const Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
+    if (Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
     if (!isPosition(elements, start)) return badPosition();
     index = indexFrom(elements, sought, start);
     return {};
@@ -181,7 +181,7 @@ Outcome findNextElement(const ElementList& elements, const Variant& item, std::i
 
 Outcome containsAll(const ElementList& elements, const ValueList& list, std::int32_t& answer) {
     std::vector<Variant> values;
-    if (const Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
+    if (Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
     const ElementLookup wanted(std::move(values));
     std::vector<bool> found(wanted.size());
     std::size_t missing = wanted.distinctCount();
@@ -198,7 +198,7 @@ Outcome containsAll(const ElementList& elements, const ValueList& list, std::int
 
 Outcome isContainedIn(const ElementList& elements, const ValueList& list, std::int32_t& answer) {
     std::vector<Variant> values;
-    if (const Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
+    if (Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
     const ElementLookup allowed(std::move(values));
     const bool all =
         std::ranges::all_of(elements.values(), [&](const Variant& element) { return allowed.contains(element); });

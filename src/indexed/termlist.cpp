@@ -76,7 +76,7 @@ Outcome readMemberNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool&
 /// The values of a set, series or array, or of what walks one, are names.
 Outcome readValuesAsNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool& known) {
     ValueSource source;
-    const Outcome opened = openValueSource(object.get(), source);
+    Outcome opened = openValueSource(object.get(), source);
     known = source.offered;
     if (!opened.isOk() || !known) return opened;
     std::vector<Variant> texts;

@@ -16,12 +16,12 @@ namespace {
 
 using parameterdata::rows;
 
-constexpr std::int8_t noString = -1;
+constexpr std::uint8_t noString = 0xFF;
 
 /// For each row the place of its text, so that the other rows cost no string.
 constexpr auto stringPlaces = [] {
-    std::array<std::int8_t, parameterCount> places{};
-    std::int8_t next = 0;
+    std::array<std::uint8_t, parameterCount> places{};
+    std::uint8_t next = 0;
     for (std::size_t row = 0; row < places.size(); ++row) {
         places[row] = rows[row].type == ParameterType::String ? next++ : noString;
     }
@@ -53,8 +53,7 @@ void ParameterTable::reset() {
     for (std::size_t row = 0; row < rows.size(); ++row) {
         longs_[row] = rows[row].longDefault;
         doubles_[row] = rows[row].doubleDefault;
-        if (stringPlaces[row] != noString)
-            strings_[static_cast<std::size_t>(stringPlaces[row])] = rows[row].stringDefault;
+        if (stringPlaces[row] != noString) strings_[stringPlaces[row]] = rows[row].stringDefault;
     }
     clearResults();
 }
@@ -65,8 +64,8 @@ double ParameterTable::doubleValue(int row) const { return doubles_[indexOf(row)
 
 const std::string& ParameterTable::stringValue(int row) const {
     static const std::string empty;
-    const std::int8_t place = stringPlaces[indexOf(row)];
-    return place == noString ? empty : strings_[static_cast<std::size_t>(place)];
+    const std::uint8_t place = stringPlaces[indexOf(row)];
+    return place == noString ? empty : strings_[place];
 }
 
 Outcome ParameterTable::setLong(int row, std::int32_t value) {
@@ -92,7 +91,7 @@ Outcome ParameterTable::setString(int row, std::string_view value) {
     if (utf16Length(value) > static_cast<std::size_t>(about.stringMaxLength)) {
         return {status::textTooLong, "Passed string is to long."};
     }
-    strings_[static_cast<std::size_t>(stringPlaces[indexOf(row)])] = value;
+    strings_[stringPlaces[indexOf(row)]] = value;
     return {};
 }
 
