@@ -61,6 +61,16 @@ struct Scan {
         exponent = negative ? -read : read;
         return true;
     }
+    /// Digits with at most one point among them. Returns how many they are; the last one counts ten to the `scale`.
+    std::ptrdiff_t takeDecimal(std::uint64_t& mantissa, std::ptrdiff_t& scale) {
+        std::ptrdiff_t digitCount = takeDigits(mantissa);
+        scale = 0;
+        if (at == end || *at != '.') return digitCount;
+        ++at;
+        scale = -takeDigits(mantissa);
+        digitCount -= scale;
+        return digitCount;
+    }
 };
 
 /// Value of the unsigned number `text`, of whose `digitCount` digits `mantissa` is made, ten to the `scale` times that.
@@ -82,13 +92,8 @@ inline double magnitudeOf(std::uint64_t mantissa, std::ptrdiff_t digitCount, std
 inline const char* readPlainReal(std::string_view text, double& value) {
     Scan scan{text.data(), text.data() + text.size()};
     std::uint64_t mantissa = 0;
-    std::ptrdiff_t digitCount = scan.takeDigits(mantissa);
     std::ptrdiff_t scale = 0;
-    if (scan.at != scan.end && *scan.at == '.') {
-        ++scan.at;
-        scale = -scan.takeDigits(mantissa);
-        digitCount -= scale;
-    }
+    const std::ptrdiff_t digitCount = scan.takeDecimal(mantissa, scale);
     value = magnitudeOf(mantissa, digitCount, scale, text.substr(0, static_cast<std::size_t>(scan.at - text.data())));
     return scan.at;
 }
@@ -100,13 +105,8 @@ inline bool parseReal(std::string_view text, double& value) {
     const bool negative = scan.takeSign();
     const char* const first = scan.at;
     std::uint64_t mantissa = 0;
-    std::ptrdiff_t digitCount = scan.takeDigits(mantissa);
     std::ptrdiff_t scale = 0;
-    if (scan.at != scan.end && *scan.at == '.') {
-        ++scan.at;
-        scale = -scan.takeDigits(mantissa);
-        digitCount -= scale;
-    }
+    const std::ptrdiff_t digitCount = scan.takeDecimal(mantissa, scale);
     if (digitCount == 0) return false;
     if (scan.at != scan.end && (*scan.at == 'e' || *scan.at == 'E')) {
         ++scan.at;
