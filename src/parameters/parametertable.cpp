@@ -16,6 +16,7 @@ namespace {
 
 using parameterdata::rows;
 
+constexpr auto relaxed = std::memory_order_relaxed;
 constexpr std::uint8_t noString = 0xFF;
 
 /// For each row the place of its text, so that the other rows cost no string.
@@ -50,17 +51,18 @@ ParameterTable::ParameterTable() {
 }
 
 void ParameterTable::reset() {
+    const std::lock_guard lock(stringsMutex_);
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        longs_[row] = rows[row].longDefault;
-        doubles_[row] = rows[row].doubleDefault;
+        longs_[row].store(rows[row].longDefault, relaxed);
+        doubles_[row].store(rows[row].doubleDefault, relaxed);
         if (stringPlaces[row] != noString) strings_[stringPlaces[row]] = rows[row].stringDefault;
     }
     clearResults();
 }
 
-std::int32_t ParameterTable::longValue(int row) const { return longs_[indexOf(row)]; }
+std::int32_t ParameterTable::longValue(int row) const { return longs_[indexOf(row)].load(relaxed); }
 
-double ParameterTable::doubleValue(int row) const { return doubles_[indexOf(row)]; }
+double ParameterTable::doubleValue(int row) const { return doubles_[indexOf(row)].load(relaxed); }
 
 const std::string& ParameterTable::stringValue(int row) const {
     static const std::string empty;
@@ -72,7 +74,7 @@ Outcome ParameterTable::setLong(int row, std::int32_t value) {
     const ParameterRow& about = rows[indexOf(row)];
     if (about.type != ParameterType::Long) return wrongKind();
     if (value < about.longMinimum || value > about.longMaximum) return outOfRange();
-    longs_[indexOf(row)] = value;
+    longs_[indexOf(row)].store(value, relaxed);
     return {};
 }
 
@@ -81,7 +83,7 @@ Outcome ParameterTable::setDouble(int row, double value) {
     if (about.type != ParameterType::Double) return wrongKind();
     const bool inRange = value >= about.doubleMinimum && value <= about.doubleMaximum;
     if (!inRange) return outOfRange();
-    doubles_[indexOf(row)] = value;
+    doubles_[indexOf(row)].store(value, relaxed);
     return {};
 }
 
@@ -91,6 +93,7 @@ Outcome ParameterTable::setString(int row, std::string_view value) {
     if (utf16Length(value) > static_cast<std::size_t>(about.stringMaxLength)) {
         return {status::textTooLong, "Passed string is to long."};
     }
+    const std::lock_guard lock(stringsMutex_);
     strings_[stringPlaces[indexOf(row)]] = value;
     return {};
 }
@@ -101,8 +104,10 @@ std::string ParameterTable::valueText(int row) const {
             return fmt::to_string(longValue(row));
         case ParameterType::Double:
             return realText(doubleValue(row));
-        case ParameterType::String:
+        case ParameterType::String: {
+            const std::lock_guard lock(stringsMutex_);
             return stringValue(row);
+        }
     }
     return {};
 }
@@ -114,14 +119,12 @@ std::int32_t ParameterTable::resultLong(int slot) const {
     return static_cast<std::int32_t>(std::clamp(value, double{Limits::min()}, double{Limits::max()}));
 }
 
-double ParameterTable::resultDouble(int slot) const { return results_[slotOf(slot)].load(std::memory_order_relaxed); }
+double ParameterTable::resultDouble(int slot) const { return results_[slotOf(slot)].load(relaxed); }
 
-void ParameterTable::setResult(int slot, double value) {
-    results_[slotOf(slot)].store(value, std::memory_order_relaxed);
-}
+void ParameterTable::setResult(int slot, double value) { results_[slotOf(slot)].store(value, relaxed); }
 
 void ParameterTable::clearResults() {
-    for (std::atomic<double>& result : results_) result.store(0.0, std::memory_order_relaxed);
+    for (std::atomic<double>& result : results_) result.store(0.0, relaxed);
 }
 
 }  // namespace tarq

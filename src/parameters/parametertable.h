@@ -5,14 +5,16 @@
 // plus 1. A row or slot passed in must exist: callers test what parameterIndex and resultIndex gave them. One that
 // doesn't throws std::out_of_range.
 //
-// The parameters belong to the thread of the model's client and have no lock. The results are written by the thread of
-// a run and may be read on another at any time. A table is neither copied nor moved.
+// The parameters are written on the thread of the model's client, and a run on another one may read them meanwhile by
+// longValue, doubleValue and valueText. The results are written by the thread of a run and may be read on another at
+// any time. A table is neither copied nor moved.
 #pragma once
 
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <mutex>
 #include <string>
 #include <string_view>
 
@@ -32,7 +34,7 @@ public:
     /// The value of a row of the kind named; 0 or the empty text for a row of another kind.
     [[nodiscard]] std::int32_t longValue(int row) const;
     [[nodiscard]] double doubleValue(int row) const;
-    [[nodiscard]] const std::string& stringValue(int row) const;
+    [[nodiscard]] const std::string& stringValue(int row) const;  ///< the client's thread only
 
     /// The checked stores. A refused value leaves the row as it was: 0x80041017 outside of the limits, which are
     /// inclusive and which not-a-number never meets, 0x80041018 for a text longer than the row's stringMaxLength in
@@ -54,12 +56,12 @@ public:
 private:
     static constexpr std::size_t stringRowCount = 16;
 
-    std::array<std::int32_t, parameterCount> longs_{};
-    std::array<double, parameterCount> doubles_{};
-    std::array<std::string, stringRowCount> strings_;
-
-    // Relaxed: each result stands for itself, nothing else is published through it.
+    // Relaxed: each value stands for itself, nothing else is published through it.
+    std::array<std::atomic<std::int32_t>, parameterCount> longs_{};
+    std::array<std::atomic<double>, parameterCount> doubles_{};
     std::array<std::atomic<double>, resultCount> results_{};
+    mutable std::mutex stringsMutex_;  // while a text changes, and where another thread may be reading it
+    std::array<std::string, stringRowCount> strings_;
     static_assert(std::atomic<double>::is_always_lock_free);
 };
 
