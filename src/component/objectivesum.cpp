@@ -15,6 +15,7 @@ Outcome assignCosts(ModelStore& store, const ValueList& coeffsAndCols) {
         if (position < 0) {
             return {status::badColumnName, std::string("Col name '").append(name).append("' does not exist.")};
         }
+        const auto held = store.gate().edit();
         store.column(position).cost = coefficient;
         return {};
     });

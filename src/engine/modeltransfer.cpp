@@ -74,6 +74,7 @@ SolutionArrays::SolutionArrays(const ModelDimensions& modelDimensions)
       basisStatus(dimensions.entries()) {}
 
 void SolutionArrays::copyInto(ModelStore& store, double ColumnRecord::*columnValue, double RowRecord::*rowValue) const {
+    const auto held = store.gate().moment();
     const std::int32_t columns = std::min(dimensions.columns, store.columnCount());
     const std::int32_t rows = std::min(dimensions.rows, store.rowCount());
     for (std::int32_t position = 0; position < columns; ++position) {

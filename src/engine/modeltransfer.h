@@ -67,8 +67,8 @@ struct SolutionArrays {
     std::vector<std::int32_t> basisStatus;
 
     /// Writes the values into `columnValue` and `rowValue` of the records, and beside them reduced costs, duals and
-    /// statuses. Other threads may read these fields meanwhile. Records that were added since the transfer stay as they
-    /// are.
+    /// statuses, at the gate of the store. Other threads may read these fields meanwhile. Records that were added since
+    /// the transfer stay as they are.
     void copyInto(ModelStore& store, double ColumnRecord::*columnValue, double RowRecord::*rowValue) const;
 };
 

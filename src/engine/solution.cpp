@@ -12,7 +12,9 @@ Outcome readColumn(Status guard, const SolvedModel& model, const Variant& addres
     if (!guard.isOk()) return guard;
     std::int32_t position = 0;
     Outcome resolved = resolveColumn(model.store, address, position);
-    if (resolved.isOk()) value = readShared(model.store.column(position).*field);
+    if (!resolved.isOk()) return resolved;
+    const auto held = model.store.gate().edit();
+    value = readShared(model.store.column(position).*field);
     return resolved;
 }
 
@@ -21,7 +23,9 @@ Outcome readRow(Status guard, const SolvedModel& model, const Variant& address, 
     if (!guard.isOk()) return guard;
     std::int32_t position = 0;
     Outcome resolved = resolveRow(model.store, address, position);
-    if (resolved.isOk()) value = readShared(model.store.row(position).*field);
+    if (!resolved.isOk()) return resolved;
+    const auto held = model.store.gate().edit();
+    value = readShared(model.store.row(position).*field);
     return resolved;
 }
 

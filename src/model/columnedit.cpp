@@ -73,6 +73,7 @@ Outcome deleteColumn(ModelStore& store, const Variant& column) {
 
 Outcome changeColumn(ModelStore& store, std::int32_t position, const ColumnChange& change) {
     if (position < 0 || position >= store.columnCount()) return indexRangeFailure();
+    const auto held = store.gate().edit();
     ColumnRecord& column = store.column(position);
     if (change.type != nullptr) {
         if (!isPublishedType(*change.type)) {
@@ -120,6 +121,7 @@ Outcome getColumnCost(const ModelStore& store, const Variant& column, double& co
 Outcome putColumnCost(ModelStore& store, const Variant& column, double cost) {
     std::int32_t position = 0;
     if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    const auto held = store.gate().edit();
     store.column(position).cost = cost;
     return {};
 }
@@ -131,6 +133,7 @@ Outcome getColumnLowerBound(const ModelStore& store, const Variant& column, doub
 Outcome putColumnLowerBound(ModelStore& store, const Variant& column, double bound) {
     std::int32_t position = 0;
     if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    const auto held = store.gate().edit();
     return putLowerBound(store, store.column(position), bound);
 }
 
@@ -141,6 +144,7 @@ Outcome getColumnUpperBound(const ModelStore& store, const Variant& column, doub
 Outcome putColumnUpperBound(ModelStore& store, const Variant& column, double bound) {
     std::int32_t position = 0;
     if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    const auto held = store.gate().edit();
     return putUpperBound(store, store.column(position), bound);
 }
 
@@ -155,6 +159,7 @@ Outcome putColumnType(ModelStore& store, const Variant& column, TARQColType type
     std::int32_t position = 0;
     if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
     if (!isPublishedType(type)) return {status::invalidArgument, "Bad value for type."};
+    const auto held = store.gate().edit();
     setType(store.column(position), type);
     return {};
 }

@@ -13,15 +13,38 @@ constexpr NameTexts rowTexts{"Duplicate row name: ", "Row name '", "' is too lon
 
 ModelStore::ModelStore() : columns_(columnTexts), rows_(rowTexts) {}
 
-Outcome ModelStore::addColumnRecord(ColumnRecord&& record) { return columns_.add(std::move(record)); }
+void ModelStore::setInfinity(double value) {
+    const auto held = gate_.edit();
+    infinity_ = value;
+}
 
-Outcome ModelStore::addRowRecord(RowRecord&& record) { return rows_.add(std::move(record)); }
+void ModelStore::reserveColumns(std::int32_t count) {
+    const auto held = gate_.edit();
+    columns_.reserve(count);
+}
+
+void ModelStore::reserveRows(std::int32_t count) {
+    const auto held = gate_.edit();
+    rows_.reserve(count);
+}
+
+Outcome ModelStore::addColumnRecord(ColumnRecord&& record) {
+    const auto held = gate_.edit();
+    return columns_.add(std::move(record));
+}
+
+Outcome ModelStore::addRowRecord(RowRecord&& record) {
+    const auto held = gate_.edit();
+    return rows_.add(std::move(record));
+}
 
 Outcome ModelStore::renameColumn(std::int32_t position, std::string_view name) {
+    const auto held = gate_.edit();
     return columns_.rename(position, std::string(name));
 }
 
 Outcome ModelStore::renameRow(std::int32_t position, std::string_view name) {
+    const auto held = gate_.edit();
     return rows_.rename(position, std::string(name));
 }
 
@@ -29,6 +52,7 @@ void ModelStore::removeColumns(std::int32_t firstNumber, std::int32_t lastNumber
     const std::int32_t first = std::max(firstNumber, 1);
     const std::int32_t last = std::min(lastNumber, columnCount());
     if (first > last) return;
+    const auto held = gate_.edit();
     columns_.remove(first, last);
     nonzeros_.removeColumns(first, last);
 }
@@ -37,6 +61,7 @@ void ModelStore::removeRows(std::int32_t firstNumber, std::int32_t lastNumber) {
     const std::int32_t first = std::max(firstNumber, 1);
     const std::int32_t last = std::min(lastNumber, rowCount());
     if (first > last) return;
+    const auto held = gate_.edit();
     rows_.remove(first, last);
     nonzeros_.removeRows(first, last);
 }
@@ -46,10 +71,12 @@ bool ModelStore::holdsPlace(std::int32_t columnNumber, std::int32_t rowNumber) c
 }
 
 void ModelStore::setNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double value) {
+    const auto held = gate_.edit();
     if (holdsPlace(columnNumber, rowNumber)) nonzeros_.set(columnNumber, rowNumber, value);
 }
 
 void ModelStore::addToNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double delta) {
+    const auto held = gate_.edit();
     if (holdsPlace(columnNumber, rowNumber)) nonzeros_.add(columnNumber, rowNumber, delta);
 }
 
@@ -60,10 +87,12 @@ bool ModelStore::findNonzero(std::int32_t columnNumber, std::int32_t rowNumber, 
 }
 
 bool ModelStore::eraseNonzero(std::int32_t columnNumber, std::int32_t rowNumber) {
+    const auto held = gate_.edit();
     return nonzeros_.erase(columnNumber, rowNumber);
 }
 
 void ModelStore::loadNonzeros(NonzeroLoader& loader) {
+    const auto held = gate_.edit();
     loader.dropBeyond(columnCount(), rowCount());
     nonzeros_.load(loader);
 }
@@ -80,11 +109,13 @@ bool ModelStore::hasIntegerColumn() const {
 }
 
 void ModelStore::autoRename() {
+    const auto held = gate_.edit();
     columns_.autoRename('C');
     rows_.autoRename('R');
 }
 
 void ModelStore::clear() noexcept {
+    const auto held = gate_.edit();
     columns_.clear();
     rows_.clear();
     nonzeros_.clear();

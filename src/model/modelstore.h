@@ -2,7 +2,8 @@
 //
 // Positions are 0-based, numbers are 1-based. The objective stands in the costs of the columns; there is no objective
 // row. A nonzero never names a column or row beyond the counts. Editing leaves the solution values of the records as
-// they are. The store has no lock: one thread at a time. When memory runs out an operation throws std::bad_alloc.
+// they are. One thread edits and reads at a time; a run on another one stays apart by the gate, which every operation
+// that changes the store holds by itself. When memory runs out an operation throws std::bad_alloc.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +15,7 @@
 #include "model/familymark.h"
 #include "model/nonzerotable.h"
 #include "model/recordtable.h"
+#include "model/rungate.h"
 
 namespace tarq {
 
@@ -45,11 +47,14 @@ class ModelStore {
 public:
     ModelStore();
 
+    /// Held by whoever changes the fields of a record, or makes several changes that belong together.
+    [[nodiscard]] RunGate& gate() const { return gate_; }
+
     [[nodiscard]] std::int32_t columnCount() const { return columns_.count(); }
     [[nodiscard]] std::int32_t rowCount() const { return rows_.count(); }
     /// The model's value for infinity, 1e25 unless a model file says otherwise.
     [[nodiscard]] double infinity() const { return infinity_; }
-    void setInfinity(double value) { infinity_ = value; }
+    void setInfinity(double value);
 
     /// The record at a 0-based position below the count. Names change only through renameColumn and renameRow.
     [[nodiscard]] const ColumnRecord& column(std::int32_t position) const { return columns_[position]; }
@@ -69,8 +74,8 @@ public:
     void prefetchRow(std::string_view name) const { rows_.prefetch(name); }
 
     /// Makes room for so many records in all, for readers that know the number beforehand.
-    void reserveColumns(std::int32_t count) { columns_.reserve(count); }
-    void reserveRows(std::int32_t count) { rows_.reserve(count); }
+    void reserveColumns(std::int32_t count);
+    void reserveRows(std::int32_t count);
 
     /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
     /// A name that is taken is 0x80041026 for columns and 0x8004102B for rows, and nothing is added.
@@ -115,6 +120,7 @@ private:
     RecordTable<RowRecord> rows_;
     NonzeroTable nonzeros_;
     double infinity_ = 1e25;
+    mutable RunGate gate_;
 };
 
 }  // namespace tarq

@@ -42,6 +42,7 @@ Outcome deleteRow(ModelStore& store, const Variant& row) {
 
 Outcome changeRow(ModelStore& store, std::int32_t position, const RowChange& change) {
     if (position < 0 || position >= store.rowCount()) return indexRangeFailure();
+    const auto held = store.gate().edit();
     if (change.lowerBound != nullptr || change.upperBound != nullptr) {
         Outcome outcome = changeBounds(store, store.row(position), change.lowerBound, change.upperBound);
         if (!outcome.isOk()) return outcome;
@@ -77,6 +78,7 @@ Outcome getRowLowerBound(const ModelStore& store, const Variant& row, double& bo
 Outcome putRowLowerBound(ModelStore& store, const Variant& row, double bound) {
     std::int32_t position = 0;
     if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    const auto held = store.gate().edit();
     return putLowerBound(store, store.row(position), bound);
 }
 
@@ -87,6 +89,7 @@ Outcome getRowUpperBound(const ModelStore& store, const Variant& row, double& bo
 Outcome putRowUpperBound(ModelStore& store, const Variant& row, double bound) {
     std::int32_t position = 0;
     if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    const auto held = store.gate().edit();
     return putUpperBound(store, store.row(position), bound);
 }
 

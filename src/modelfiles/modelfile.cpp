@@ -35,6 +35,7 @@ Outcome readModelFile(const std::string& fileName, TARQFileFormatType format, Mo
 
 Outcome readModelText(std::string text, TARQFileFormatType format, ModelFileTarget& target) {
     if (text.size() > largestWholeFile) return fileFailure();
+    const auto held = target.store().gate().edit();
     switch (format) {
         case TARQFileFormatType::MPS:
             return parseOutcome("MPS", readMps(std::move(text), target));
