@@ -71,9 +71,14 @@ bool BackgroundRun::kill() noexcept {
         const bool parkedItself = waitUntil([this] { return parked_.load(); });
         // A thread that can't be stopped even so parks itself as soon as it comes by.
         const std::lock_guard lock(threadMutex_);
-        if (!parkedItself && !thread_->park(engine ? engine->code() : nullptr)) return false;
-        RunModel* self = &run_;
-        processRunState().currentRunModel.compare_exchange_strong(self, nullptr);
+        if (!parkedItself) {
+            const auto held = run_.store.gate().moment();  // or it would be parked with it
+            if (!thread_->park(engine ? engine->code() : nullptr)) return false;
+        }
+        run_.presence.leave();
+        NotedRun::forget(run_);
+        // The next run would wait for this one.
+        if (engine) engine->abandonRun(readShared(run_.engineThread));
         const Ref<IUnknown> dropped = std::move(model_);
         return true;
     } catch (const std::bad_alloc&) {

@@ -15,7 +15,8 @@ RunModel CTARQModel::runModel() {
             .binding = binding_,
             .stopRequested = stopRequested_,
             .busy = busy_,
-            .finished = [this] { (void)events_.fire(_ITARQModelEvents::optimizationFinished); }};
+            .finished = [this] { (void)events_.fire(_ITARQModelEvents::optimizationFinished); },
+            .presence = RunPresence(store_.gate())};
 }
 
 Status CTARQModel::Optimize() {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "engine/enginetext.h"
 #include "engine/run.h"
@@ -14,32 +16,48 @@ namespace {
 
 constexpr std::array<std::string_view, 3> minimizationForm{"xzlbnd", "xzubnd", "xzbest"};
 
+thread_local RunModel* runOfThisThread = nullptr;
+
+// Of all runs in progress the one that began last, null when that has ended. An engine may call back on a thread of its
+// own making, hence release and acquire.
+constinit std::atomic<RunModel*> latestRun{nullptr};
+
 }  // namespace
 
-ProcessRunState& processRunState() {
-    static ProcessRunState state;
-    return state;
+NotedRun::NotedRun(RunModel& model) : model_(model), outer_(std::exchange(runOfThisThread, &model)) {
+    latestRun.store(&model, std::memory_order_release);
+}
+
+NotedRun::~NotedRun() {
+    runOfThisThread = outer_;
+    forget(model_);
+}
+
+void NotedRun::forget(RunModel& model) noexcept {
+    RunModel* noted = &model;
+    latestRun.compare_exchange_strong(noted, nullptr, std::memory_order_acq_rel);
 }
 
 void tarqEngineCallback() {
-    RunModel* model = processRunState().currentRunModel.load(std::memory_order_acquire);
+    RunModel* const own = runOfThisThread;
+    RunModel* const model = own != nullptr ? own : latestRun.load(std::memory_order_acquire);
     if (model == nullptr || !model->engine) return;
     EngineInterface& engine = *model->engine;
     if (model->stopRequested.load(std::memory_order_relaxed)) engine.SetParameter("XCBSTP=1");
-    readResultValues(engine, model->parameters);
+    readResultValues(*model);
     if (model->breakPoint) model->breakPoint(engine);
 }
 
-void readResultValues(EngineInterface& engine, ParameterTable& parameters) {
-    const bool maximizing = processRunState().maximizing.load(std::memory_order_relaxed);
+void readResultValues(RunModel& model) {
+    const bool maximizing = readShared(model.maximizing);
     const auto slots = resultSlots();
     EngineText text;
     for (int slot = 0; slot < resultCount; ++slot) {
         const std::string_view name = slots[static_cast<std::size_t>(slot)].name;
-        if (!text.read(engine, std::string(name).c_str())) continue;
+        if (!text.read(*model.engine, std::string(name).c_str())) continue;
         const bool negated = maximizing && std::ranges::find(minimizationForm, name) != minimizationForm.end();
         // The difference gives 0 for 0, where the sign alone would give a negative zero.
-        parameters.setResult(slot, negated ? 0.0 - text.number() : text.number());
+        model.parameters.setResult(slot, negated ? 0.0 - text.number() : text.number());
     }
 }
 

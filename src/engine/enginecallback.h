@@ -1,34 +1,34 @@
-// What the engine's callback does, and the only process-wide values of the component: the callback gets no argument, so
-// it finds its run through them.
+// What the engine's callback does, and how it finds its run: it gets no argument, so the run of its thread is noted,
+// and the latest one for engines that call back on a thread of their own. These are the only values of the component
+// that belong to no object.
 #pragma once
-
-#include <atomic>
-
-#include "engine/engineinterface.h"
-#include "parameters/parametertable.h"
 
 namespace tarq {
 
 struct RunModel;
 
-/// Shared by all runs of the process. Two runs at once overwrite each other's values: a stop request and the result
-/// values then go to the later one.
-struct ProcessRunState {
-    /// Model of the run in progress, the latest one if there are several; null between runs. Stored with release and
-    /// read with acquire, since an engine may call back on a thread of its own making.
-    std::atomic<RunModel*> currentRunModel = nullptr;
-    /// Whether the latest run passed "max" as its direction.
-    std::atomic<bool> maximizing = false;
-};
+/// Notes a run as that of the calling thread and as the latest one; at its end the thread's is again what it was.
+class NotedRun {
+public:
+    explicit NotedRun(RunModel& model);
+    NotedRun(const NotedRun&) = delete;
+    NotedRun& operator=(const NotedRun&) = delete;
+    ~NotedRun();
 
-[[nodiscard]] ProcessRunState& processRunState();
+    /// For whoever has stopped the thread of a run for good.
+    static void forget(RunModel& model) noexcept;
+
+private:
+    RunModel& model_;
+    RunModel* const outer_;
+};
 
 /// Registered with the engine, which calls it at its break points: passes on a requested stop and refreshes the result
 /// values. Does nothing when no run is in progress.
 extern "C" void tarqEngineCallback();
 
-/// Asks the engine for the 14 result values and stores what it delivers. The engine holds xzlbnd, xzubnd and xzbest in
-/// minimization form, so they change sign when maximizing.
-void readResultValues(EngineInterface& engine, ParameterTable& parameters);
+/// Asks the engine of a run for the 14 result values and stores what it delivers. The engine holds xzlbnd, xzubnd and
+/// xzbest in minimization form, so they change sign when maximizing.
+void readResultValues(RunModel& model);
 
 }  // namespace tarq

@@ -2,7 +2,7 @@
 //
 // The operations bear the names, arguments and results of the C interface in tarq/engine.h. A result of 0 means success
 // unless an operation says otherwise. An engine holds one model and one set of parameters, so all operations of a run
-// come from one thread; only GetParameter may come from another, for the version. Nothing here throws.
+// come from one thread; only GetParameter may come from another, for the version, and abandonRun. Nothing here throws.
 #pragma once
 
 #include <cstdint>
@@ -31,6 +31,10 @@ public:
 
     /// An address in the engine's own code, null when it has none to tell apart.
     [[nodiscard]] virtual const void* code() const { return nullptr; }
+
+    /// The thread of this number, which has begun a run, will never come back to end it: what it holds of the engine
+    /// goes to the next run. From any thread. An engine without such a notion does nothing.
+    virtual void abandonRun(std::int32_t /*thread*/) {}
 
     /// Releases all that the engine holds for the current run.
     virtual std::int32_t FreeMemory() = 0;

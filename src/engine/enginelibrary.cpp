@@ -2,7 +2,10 @@
 
 namespace tarq {
 
-EngineLibrary::EngineLibrary(DynamicLibrary library) : library_(library) { slots_.bind(library_); }
+EngineLibrary::EngineLibrary(DynamicLibrary library) : library_(library) {
+    slots_.bind(library_);
+    extensions_.bind(library_);
+}
 
 EngineLibrary::~EngineLibrary() {
     // A refused unload leaves the library in memory, where it does no harm.
@@ -16,6 +19,8 @@ bool EngineLibrary::hasSetCallback() const { return slots_.slot<"SetCallback">()
 bool EngineLibrary::hasGetParameter() const { return slots_.slot<"GetParameter">().function != nullptr; }
 
 const void* EngineLibrary::code() const { return reinterpret_cast<const void*>(slots_.slot<"OptimizeLP">().function); }
+
+void EngineLibrary::abandonRun(std::int32_t thread) { (void)extensions_.slot<"AbandonRun">()(thread); }
 
 std::int32_t EngineLibrary::FreeMemory() { return slots_.slot<"FreeMemory">()(); }
 

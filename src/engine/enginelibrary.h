@@ -22,6 +22,7 @@ public:
     [[nodiscard]] bool hasSetCallback() const override;
     [[nodiscard]] bool hasGetParameter() const override;
     [[nodiscard]] const void* code() const override;
+    void abandonRun(std::int32_t thread) override;
 
     std::int32_t FreeMemory() override;
     std::int32_t Initialize() override;
@@ -71,9 +72,11 @@ private:
         Slot<"SetMaxLPDim", decltype(::SetMaxLPDim), failure>,        //
         Slot<"SetParameter", decltype(::SetParameter), failure>>;
     static_assert(Slots::count == 19);
+    using Extensions = SlotTable<Slot<"AbandonRun", std::int32_t(std::int32_t), failure>>;
 
     DynamicLibrary library_;
     Slots slots_;
+    Extensions extensions_;
 };
 
 }  // namespace tarq

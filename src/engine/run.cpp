@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 #include <new>
 #include <optional>
 #include <string>
@@ -14,6 +13,8 @@
 #include "engine/modeltransfer.h"
 #include "engine/runstatus.h"
 #include "parameters/parameterrows.h"
+#include "platform/exceptionbarrier.h"
+#include "platform/thread.h"
 
 namespace tarq {
 namespace {
@@ -50,6 +51,7 @@ private:
     Step prepareEmptyModel();
     Step passParameters();
     Step prepareCallback();
+    [[nodiscard]] std::optional<ModelArrays> flattened();
     Step transferModel();
     Step resetSummary();
     Step solveLp();
@@ -71,6 +73,7 @@ private:
     void captureMessage();
 
     RunModel& model_;
+    std::optional<NotedRun> noted_;
     bool memoryTaken_ = false;
     bool hasIntegerColumn_ = false;
     ModelDimensions dimensions_;
@@ -80,18 +83,17 @@ private:
 };
 
 Status Run::execute() {
-    processRunState().currentRunModel.store(&model_, std::memory_order_release);
+    noted_.emplace(model_);
     model_.stopRequested.store(false, std::memory_order_relaxed);
-    Ending ending;
-    try {
-        ending = runSteps();
-    } catch (const std::bad_alloc&) {
-        ending = end(status::outOfMemory);
-    } catch (const std::exception&) {
-        // Whatever it is, the engine has to be released and the run has to end in order.
-        ending = end(status::generalFailure);
-    }
-    return close(std::move(ending));
+    const auto steps = [this] {
+        try {
+            return runSteps();
+        } catch (const std::bad_alloc&) {
+            return end(status::outOfMemory);
+        }
+    };
+    // Whatever comes, the engine has to be released and the run has to end in order.
+    return close(withoutException(steps, [] { return end(status::generalFailure); }));
 }
 
 Ending Run::runSteps() {
@@ -109,9 +111,9 @@ Status Run::close(Ending ending) {
     if (model_.ending) model_.ending();
     const Status result = ending.outcome.status();
     if (memoryTaken_ && !ending.plainReturn) engine().FreeMemory();
-    RunModel* self = &model_;
-    processRunState().currentRunModel.compare_exchange_strong(self, nullptr, std::memory_order_acq_rel);
+    noted_.reset();
     model_.engine.reset();
+    model_.presence.leave();
     if (ending.plainReturn) return result;
     if (result.failed() && !ending.outcome.description().empty()) model_.pendingError = std::move(ending.outcome);
     model_.busy.store(false, std::memory_order_release);
@@ -131,6 +133,7 @@ Run::Step Run::bind() {
 Run::Step Run::takeMemory() {
     engine().SetParameter("xoutlv=1");
     std::int32_t result = 0;
+    writeShared(model_.engineThread, currentThreadNumber());
     memoryTaken_ = true;
     if (engine().hasInitialize()) {
         result = engine().Initialize();
@@ -146,7 +149,10 @@ Run::Step Run::takeMemory() {
 
 Run::Step Run::prepareEmptyModel() {
     if (engine().hasInitialize()) return {};
-    const ModelDimensions needed = dimensionsOf(model_.store);
+    const ModelDimensions needed = [this] {
+        const auto held = model_.store.gate().moment();
+        return dimensionsOf(model_.store);
+    }();
     ModelDimensions maximal;
     engine().GetMaxDim(&maximal.rows, &maximal.columns, &maximal.nonzeros);
     const std::int32_t result =
@@ -167,7 +173,7 @@ Run::Step Run::passParameters() {
         if (name == "xfrite" || name == "xfrnds") continue;
         if (name == "xmreal" && engine().hasInitialize()) continue;
         const std::string value = model_.parameters.valueText(row);
-        if (name == "xminmx") processRunState().maximizing.store(value == "max", std::memory_order_relaxed);
+        if (name == "xminmx") writeShared(model_.maximizing, value == "max");
         const std::string_view quote = type == ParameterType::String ? "'" : "";
         assignment.assign(name).append("=").append(quote).append(value).append(quote);
         engine().SetParameter(assignment.c_str());
@@ -177,19 +183,26 @@ Run::Step Run::passParameters() {
 
 Run::Step Run::prepareCallback() {
     model_.parameters.clearResults();
-    hasIntegerColumn_ = model_.store.hasIntegerColumn();
+    {
+        const auto held = model_.store.gate().moment();
+        hasIntegerColumn_ = model_.store.hasIntegerColumn();
+    }
     if (engine().hasSetCallback()) engine().SetCallback(&tarqEngineCallback, hasIntegerColumn_ ? 0 : 1);
     return {};
+}
+
+std::optional<ModelArrays> Run::flattened() {
+    const auto held = model_.store.gate().moment();
+    return fitsEngine(model_.store) ? std::optional<ModelArrays>(std::in_place, model_.store) : std::nullopt;
 }
 
 Run::Step Run::transferModel() {
     constexpr std::int32_t outOfMemory = 1;
     constexpr std::int32_t inputError = 2;
     std::int32_t result = inputError;
-    if (fitsEngine(model_.store)) {
-        const ModelArrays arrays(model_.store);
-        dimensions_ = arrays.dimensions();
-        result = arrays.putInto(engine());
+    if (const auto arrays = flattened()) {
+        dimensions_ = arrays->dimensions();
+        result = arrays->putInto(engine());
         captureMessage();
     }
     if (result == outOfMemory) {
@@ -231,7 +244,7 @@ Run::Step Run::fetchLpSolution() {
                                solution.reducedCosts.data(), solution.basisStatus.data());
         if (status == optimal) solution.copyInto(model_.store, &ColumnRecord::lpValue, &RowRecord::lpValue);
     }
-    readResultValues(engine(), model_.parameters);
+    readResultValues(model_);
     setSolutionStatus(lpSolutionStatus(status));
     return {};
 }
@@ -282,7 +295,7 @@ Run::Step Run::fetchIpSolution() {
             solution.copyInto(model_.store, &ColumnRecord::ipValue, &RowRecord::ipValue);
         }
     }
-    readResultValues(engine(), model_.parameters);
+    readResultValues(model_);
     setSolutionStatus(ipSolutionStatus(status));
     return {};
 }

@@ -1,8 +1,8 @@
 // runOptimization: one whole run of the engine on one model.
 //
-// The engine's state and the two values that its callback finds are process-wide (see enginecallback.h), so a process
-// drives one run at a time reliably. Nothing refuses an edit of the model during a run; that is for the client to
-// avoid.
+// The engine's state is process-wide. What comes of several runs at once is the engine's to say: ours lets the later
+// ones wait in their start. Nothing refuses an edit of the model during a run; it stays out of the moments in which the
+// run reads the model or copies a solution into it (see model/rungate.h).
 #pragma once
 
 #include <atomic>
@@ -47,6 +47,7 @@ struct RunModel {
     std::atomic<bool>& stopRequested;
     std::atomic<bool>& busy;
     std::function<void()> finished;  ///< fires the finish event; may be empty, must not throw
+    RunPresence presence{};          ///< at the gate of `store`; the run leaves before `finished` is called
 
     /// Called by the engine's callback, and when the run begins to end. Whoever stops a run for good does so there,
     /// where nothing is locked. May be empty, must not throw.
@@ -58,6 +59,10 @@ struct RunModel {
     /// The engine of the run in progress, set and cleared by the run: it keeps its engine even when the client moves
     /// the location meanwhile.
     std::shared_ptr<EngineInterface> engine{};
+
+    /// Written by the run, read through readShared.
+    bool maximizing = false;        ///< whether the run passed "max" as its direction
+    std::int32_t engineThread = 0;  ///< number of the thread that takes the engine, once it asks for it
 };
 
 /// Binds the engine, hands over parameters and model, solves the LP and, if wanted, the integer program, and copies the

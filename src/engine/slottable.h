@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <exception>
 #include <string_view>
 
 #include "platform/dynamiclibrary.h"
+#include "platform/exceptionbarrier.h"
 
 namespace tarq {
 
@@ -31,11 +31,8 @@ struct Slot {
 
     template <class... Arguments>
     std::int32_t operator()(Arguments... arguments) const {
-        try {
-            return function != nullptr ? function(arguments...) : emptyResult;
-        } catch (const std::exception&) {
-            return emptyResult;
-        }
+        return withoutException([&] { return function != nullptr ? function(arguments...) : emptyResult; },
+                                [] { return emptyResult; });
     }
 };
 

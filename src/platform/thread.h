@@ -4,6 +4,7 @@
 // locks that other threads count on. A thread is parked instead: it never runs again, and all that it has stays.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -23,6 +24,9 @@ public:
     /// system, and so not within the allocator or the loader; only after two seconds without such a moment anywhere.
     [[nodiscard]] virtual bool park(const void* code) = 0;
 };
+
+/// The number by which the system knows the calling thread.
+[[nodiscard]] std::int32_t currentThreadNumber() noexcept;
 
 /// Parks the calling thread.
 [[noreturn]] void parkThisThread() noexcept;

@@ -31,7 +31,7 @@ struct State {
     TarqCallback callback = nullptr;
     bool stopped = false;
 };
-State state;
+thread_local State state;  // of the run that is on in this thread
 
 /// Another thread may read the outputs during the call.
 template <class Number>

@@ -167,6 +167,46 @@ TEST_F(BackgroundRunTest, SinkMayStartTheNextRun) {
     EXPECT_FALSE(isBusy());
 }
 
+TEST_F(BackgroundRunTest, StopReachesItsOwnRunWhileALaterOneIsOn) {
+    buildSmall();
+    play("long");
+    const Ref<ITARQModel> earlier = model;
+    ASSERT_THAT(earlier->OptimizeAsync(), succeeds());
+    ASSERT_TRUE(runIsUnderWay());
+    model = createObject<ITARQModel>("TARQModel");
+    play("long");
+    ASSERT_THAT(model->OptimizeAsync(), succeeds());
+    ASSERT_TRUE(runIsUnderWay());
+    ASSERT_THAT(earlier->StopOptimizeAsync(), succeeds());
+    ASSERT_TRUE(eventCame());
+    EXPECT_EQ(valueOf<std::int32_t>(&ITARQModel::get_IsBusy), 1);
+    ASSERT_THAT(model->StopOptimizeAsync(), succeeds());
+    EXPECT_TRUE(comes([&] { return valueOf<std::int32_t>(&ITARQModel::get_IsBusy) == 0; }));
+    model = earlier;
+}
+
+TEST_F(BackgroundRunTest, EditsAndASecondRunDuringARunDoNoHarm) {
+    constexpr int columns = 3000;
+    buildSmall();
+    for (int column = 3; column < columns; ++column) {
+        ASSERT_THAT(model->AddCol(0, 1, TARQColType::Continuous, Variant(1.0)), succeeds());
+        ASSERT_THAT(model->AddNZ(Variant("r"), Variant(column + 1), 1.0), succeeds());
+    }
+    for (int round = 1; round <= 5; ++round) {
+        ASSERT_THAT(model->OptimizeAsync(), succeeds());
+        for (int edit = 0; edit < 300; ++edit) {
+            ASSERT_THAT(model->AddCol(0, 1, TARQColType::Continuous, Variant(1.0), Variant("added")), succeeds());
+            ASSERT_THAT(model->AddNZ(Variant("r"), Variant("added"), 1.0), succeeds());
+            ASSERT_THAT(model->put_Parameter("xfnbai", Variant(std::string(static_cast<std::size_t>(edit % 200), 'x'))),
+                        succeeds());
+            ASSERT_THAT(model->DelCol(Variant("added")), succeeds());
+        }
+        ASSERT_THAT(model->Optimize(), succeeds());
+        ASSERT_TRUE(eventCame(2 * round));
+        EXPECT_THAT(valueOf<double>(&ITARQModel::get_LPObjFunctValue), DoubleNear(1.0 / 3.0, 1e-6));
+    }
+}
+
 TEST_F(BackgroundRunTest, StoppedSearchKeepsItsBestSolution) {
     buildHardKnapsacks();
     ASSERT_THAT(model->OptimizeAsync(), succeeds());

@@ -217,10 +217,14 @@ TEST_F(RunSequence, OperationThatThrowsFailsAndTheEngineIsReleased) {
                                  Case{"PutModel", status::engineSetup}, Case{"OptimizeLP", status::crucialError},
                                  Case{"OptimizeIP", status::crucialError}, Case{"FreeMemory", status::ok}}) {
         SCOPED_TRACE(throwing.operation);
-        use("scripted_full").during[throwing.operation] = [] { throw std::runtime_error("out of the engine"); };
-        EXPECT_EQ(run(), throwing.status);
-        EXPECT_FALSE(busy);
-        EXPECT_TRUE(calls().ends_with("FreeMemory\nfinished\n")) << calls();
+        const std::initializer_list<std::function<void()>> exceptions{
+            [] { throw std::runtime_error("out of the engine"); }, [] { throw 7; }};
+        for (const auto& exception : exceptions) {
+            use("scripted_full").during[throwing.operation] = exception;
+            EXPECT_EQ(run(), throwing.status);
+            EXPECT_FALSE(busy);
+            EXPECT_TRUE(calls().ends_with("FreeMemory\nfinished\n")) << calls();
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 #include <link.h>
 #include <pthread.h>
 #include <ucontext.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
@@ -182,6 +183,8 @@ std::unique_ptr<DetachedThread> DetachedThread::start(std::function<void()> body
         return nullptr;
     }
 }
+
+std::int32_t currentThreadNumber() noexcept { return static_cast<std::int32_t>(gettid()); }
 
 void parkThisThread() noexcept {
     sigset_t all;
