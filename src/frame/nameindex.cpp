@@ -17,9 +17,20 @@ constexpr unsigned firstSlotBits = 4;
 /// enough for a table as full as that.
 constexpr std::size_t countLimit(std::size_t slotCount) { return slotCount / 5 * 4; }
 
+/// Drawn once: many an index lives for a shorter time than the system takes to answer.
+struct HashSecret {
+    std::uint64_t secret = entropyWord();
+    std::uint64_t multiplier = entropyWord() | 1U;
+};
+
+const HashSecret& hashSecret() {
+    static const HashSecret drawn;
+    return drawn;
+}
+
 }  // namespace
 
-NameIndex::NameIndex() : secret_(entropyWord()), multiplier_(entropyWord() | 1U) {}
+NameIndex::NameIndex() : secret_(hashSecret().secret), multiplier_(hashSecret().multiplier) {}
 
 NameIndex::NameIndex(NameIndex&& other) noexcept
     : slots_(std::exchange(other.slots_, {})),

@@ -2,7 +2,7 @@
 //
 // An entry is a hash and a position, 8 bytes; the names stay in the records of the owner, which hands in `nameOf`, a
 // function from a position to the name that stands there. Names are compared byte by byte. The hash depends on a secret
-// drawn for each index, so that no model can be made whose names all fall on one place. When memory runs out an
+// drawn once in each process, so that no model can be made whose names all fall on one place. When memory runs out an
 // operation throws std::bad_alloc and leaves the index as it was.
 //
 // A table of our own: with a million names each search waits for memory, and only one that tells the place of a name
