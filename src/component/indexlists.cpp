@@ -50,11 +50,6 @@ struct AddressedStore {
 using ObjectReader = Outcome (*)(const AddressedStore& addressed, const Ref<IUnknown>& object, PositionList& positions,
                                  bool& known);
 
-template <class... Interfaces>
-bool offersAny(const Ref<IUnknown>& object) {
-    return (static_cast<bool>(object.query<Interfaces>()) || ...);
-}
-
 /// Each value of a set or series, or of what walks one, is a name or a number. Arrays have values too, but are no list
 /// of indices. The values are resolved as they come, since a series may have far more of them than the model has
 /// columns.

@@ -3,13 +3,13 @@
 
 #include <span>
 
-#include "frame/object.h"
 #include "frame/variant.h"
+#include "indexed/ownpart.h"
 
 namespace tarq {
 
 /// Offered by arrays besides their published interface.
-class IArrayCells : public IUnknown {
+class IArrayCells : public IOwnPart {
 public:
     static constexpr Guid id{0x707E5BE5, 0x5343, 0x42B0, {0xAF, 0xEE, 0x65, 0x6B, 0x1C, 0x50, 0xC3, 0x45}};
 

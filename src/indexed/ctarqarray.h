@@ -44,6 +44,7 @@ public:
                     const Variant& Index5, Ref<IUnknown>* value) override;
     Status get_Count(std::int32_t* value) override;
 
+    const IUnknown* published() const override { return static_cast<const ITARQArray*>(this); }
     std::span<const Variant> rowMajorCells() override { return store_.block(); }
     Dimensions sharedDimensions() const override { return store_.dimensions(); }
 

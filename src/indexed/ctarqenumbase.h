@@ -88,7 +88,7 @@ private:
     /// A walk over a slice must not cost what the names of the whole parent do, so these are shared if possible, and
     /// otherwise read.
     static Status readDimensions(const Ref<ParentInterface>& parent, Dimensions& base) {
-        if (const auto known = parent.template query<IDimensions>()) {
+        if (const auto known = ownPartOf<IDimensions>(parent)) {
             base = known->sharedDimensions();
             return status::ok;
         }

@@ -17,6 +17,7 @@ template <class Derived, class Interface, class Enumerator, class EnumInterface,
 class CTARQFamily : public CountedObject<Derived, Interface, IFamilyIdentity, IDimensions> {
 public:
     std::uint64_t familyNumber() const override { return family_.number(); }
+    const IUnknown* published() const override { return static_cast<const Interface*>(this); }
     Dimensions sharedDimensions() const override { return family_.sharedDimensions(); }
 
     Status get__NewEnum(Ref<IUnknown>* value) override {  // NOLINT(bugprone-reserved-identifier)

@@ -2,12 +2,12 @@
 // component's own use.
 #pragma once
 
-#include "frame/object.h"
 #include "indexed/indexset.h"
+#include "indexed/ownpart.h"
 
 namespace tarq {
 
-class IDimensions : public IUnknown {
+class IDimensions : public IOwnPart {
 public:
     static constexpr Guid id{0x5B0E7C94, 0x63A1, 0x4D0F, {0x9A, 0x27, 0xE4, 0x18, 0xB5, 0x0C, 0x72, 0x3D}};
 

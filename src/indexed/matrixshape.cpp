@@ -36,14 +36,12 @@ Shaped shapeOfArray(const Ref<IUnknown>& object, ArgumentShape& shape) {
     shape.array = object.query<ITARQArray>();
     if (!shape.array) return {};
     std::int32_t dimensions = 0;
-    if (const Status read = shape.array->get_NumberOfIndexsets(&dimensions); read.failed()) {
-        return {true, failureOf(read)};
-    }
+    Outcome counted = askObject([&] { return shape.array->get_NumberOfIndexsets(&dimensions); });
+    if (!counted.isOk()) return {true, counted};
     for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {
         std::int32_t size = 0;
-        if (const Status read = shape.array->get_SizeOfIndexset(dimension, &size); read.failed()) {
-            return {true, failureOf(read)};
-        }
+        Outcome read = askObject([&] { return shape.array->get_SizeOfIndexset(dimension, &size); });
+        if (!read.isOk()) return {true, read};
         shape.sizes.push_back(static_cast<std::size_t>(std::max(size, 0)));
     }
     return {true, {}};
@@ -54,7 +52,7 @@ Shaped shapeOfVector(const Ref<IUnknown>& object, ArgumentShape& shape) {
     const Ref<Interface> vector = object.query<Interface>();
     if (!vector) return {};
     std::int32_t count = 0;
-    if (const Status read = vector->get_Count(&count); read.failed()) return {true, failureOf(read)};
+    if (Outcome read = askObject([&] { return vector->get_Count(&count); }); !read.isOk()) return {true, read};
     addNumbered(shape, 1, static_cast<std::size_t>(std::max(count, 0)));
     return {true, {}};
 }
@@ -106,9 +104,11 @@ Outcome readNames(const ArgumentShape& shape, std::vector<Indexset>& indexsets) 
         Indexset& names = indexsets.emplace_back();
         for (std::size_t element = 1; element <= shape.sizes[i]; ++element) {
             std::string name;
-            const Status read = shape.array->get_IndexsetElement(static_cast<std::int32_t>(i) + 1,
-                                                                 static_cast<std::int32_t>(element), &name);
-            if (read.failed()) return failureOf(read);
+            Outcome read = askObject([&] {
+                return shape.array->get_IndexsetElement(static_cast<std::int32_t>(i) + 1,
+                                                        static_cast<std::int32_t>(element), &name);
+            });
+            if (!read.isOk()) return read;
             names.append(std::move(name));
         }
     }

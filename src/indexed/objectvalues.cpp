@@ -14,31 +14,28 @@
 namespace tarq {
 namespace {
 
-struct Opened {
-    bool offered = false;
-    Status status;
-    Ref<IEnumVARIANT> enumerator{};
-};
-
 /// Of an object that holds values: the enumerator that it makes.
 template <class Interface>
-Opened openCollection(const Ref<IUnknown>& object) {
+Outcome openCollection(const Ref<IUnknown>& object, ValueSource& source) {
     const Ref<Interface> collection = object.query<Interface>();
+    source.offered = static_cast<bool>(collection);
     if (!collection) return {};
     Ref<IUnknown> made;
-    const Status status = collection->get__NewEnum(&made);
-    return {true, status, made.query<IEnumVARIANT>()};
+    Outcome asked = askObject([&] { return collection->get__NewEnum(&made); });
+    source.enumerator = made.query<IEnumVARIANT>();
+    return asked;
 }
 
 /// Of an enumerator: itself.
 template <class Interface>
-Opened openEnumerator(const Ref<IUnknown>& object) {
-    if (!object.query<Interface>()) return {};
-    return {true, status::ok, object.query<IEnumVARIANT>()};
+Outcome openEnumerator(const Ref<IUnknown>& object, ValueSource& source) {
+    source.offered = offersAny<Interface>(object);
+    if (source.offered) source.enumerator = object.query<IEnumVARIANT>();
+    return {};
 }
 
 struct Opening {
-    Opened (*open)(const Ref<IUnknown>& object);
+    Outcome (*open)(const Ref<IUnknown>& object, ValueSource& source);
     bool isSeries;
 };
 
@@ -51,25 +48,29 @@ constexpr std::array openings{
 
 }  // namespace
 
-Outcome failureOf(Status status) {
+std::string ownDescription(Status status) {
     const ObjectError* const error = lastError();
     const bool told = error != nullptr && error->status == status;
-    return {status::invalidArgument, told ? error->description : std::string(status::meaning(status))};
+    return told ? error->description : std::string(status::meaning(status));
+}
+
+Ref<IArrayCells> cellsOf(const Ref<IUnknown>& object) {
+    Ref<IArrayCells> cells = ownPartOf<IArrayCells>(object.query<ITARQArray>());
+    if (!cells || cells->rowMajorCells().empty()) return {};
+    // A client's object around the array may offer what is asked first.
+    return offersAny<ITARQSet, ITARQSetEnum, ITARQSeries, ITARQSeriesEnum>(object) ? Ref<IArrayCells>() : cells;
 }
 
 Outcome openValueSource(IUnknown* object, ValueSource& source) {
     const Ref<IUnknown> held(object);
-    clearLastError();  // what is found there after a failure is then the failure's
     for (const Opening& opening : openings) {
-        Opened opened = opening.open(held);
-        if (!opened.offered) continue;
-        source.offered = true;
+        if (Outcome opened = opening.open(held, source); !opened.isOk()) return opened;
+        if (!source.offered) continue;
         source.isSeries = opening.isSeries;
-        if (opened.status.failed()) return failureOf(opened.status);
-        if (!opened.enumerator) return failureOf(status::wrongClass);
-        if (const Status reset = opened.enumerator->Reset(); reset.failed()) return failureOf(reset);
-        source.enumerator = std::move(opened.enumerator);
-        return {};
+        if (!source.enumerator) return {status::invalidArgument, std::string(status::meaning(status::wrongClass))};
+        clearLastError();
+        const Status reset = source.enumerator->Reset();
+        return reset.failed() ? Outcome(status::invalidArgument, ownDescription(reset)) : Outcome();
     }
     return {};
 }

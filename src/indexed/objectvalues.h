@@ -3,12 +3,15 @@
 
 #include <cstdint>
 #include <limits>
+#include <string>
 #include <utility>
 
 #include "frame/ienumvariant.h"
 #include "frame/object.h"
+#include "frame/objecterror.h"
 #include "frame/status.h"
 #include "frame/variant.h"
+#include "indexed/arraycells.h"
 
 namespace tarq {
 
@@ -16,7 +19,7 @@ namespace tarq {
 struct ValueSource {
     bool offered = false;            ///< the object is one of those that have values
     bool isSeries = false;           ///< a sequence in which no two neighbours are equal
-    Ref<IEnumVARIANT> enumerator{};  ///< set, and reset, where that succeeded
+    Ref<IEnumVARIANT> enumerator{};  ///< set, and reset, where it has been opened
 };
 
 /// The enumerator of a set, series or array, made by its _NewEnum, or of one of their enumerators, which is the object
@@ -24,23 +27,43 @@ struct ValueSource {
 /// decides. A failing _NewEnum or Reset is invalidArgument with the object's own description.
 Outcome openValueSource(IUnknown* object, ValueSource& source);
 
+/// The cells of an array of this component as they lie in memory, where they are what the enumerator would give; else
+/// none.
+Ref<IArrayCells> cellsOf(const Ref<IUnknown>& object);
+
+/// Whether an object offers one of the interfaces.
+template <class... Interfaces>
+[[nodiscard]] bool offersAny(const Ref<IUnknown>& object) {
+    return (static_cast<bool>(object.query<Interfaces>()) || ...);
+}
+
 /// Hands the values that are left to `take`, which returns an Outcome, until that fails or there is none left. A
 /// failing Next ends the walk as a failing Reset does; so does a series whose step is too small to make headway.
 template <class Take>
 Outcome walkValues(const ValueSource& source, const Take& take);
 
-/// The failure of an object's own operation, worded by the object: invalidArgument with the calling thread's record as
-/// the description.
-Outcome failureOf(Status status);
+/// What an object says of a failure of its own that has just been returned: the calling thread's record, or the meaning
+/// of the status where the object left none. A record from before the call must have been cleared.
+[[nodiscard]] std::string ownDescription(Status status);
+
+/// Asks an object, whoever made it, for something: any answer but success is the failure invalidArgument with the
+/// object's own description. `operation` calls it and returns its Status.
+template <class Operation>
+Outcome askObject(const Operation& operation) {
+    clearLastError();
+    const Status answer = operation();
+    return answer.isOk() ? Outcome() : Outcome(status::invalidArgument, ownDescription(answer));
+}
 
 template <class Take>
 Outcome walkValues(const ValueSource& source, const Take& take) {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     double last = none;
+    clearLastError();
     for (std::int32_t left = std::numeric_limits<std::int32_t>::max(); left > 0; --left) {
         Variant value;
         const Status fetched = source.enumerator->Next(1, &value, nullptr);
-        if (fetched.failed()) return failureOf(fetched);
+        if (fetched.failed()) return {status::invalidArgument, ownDescription(fetched)};
         if (!fetched.isOk()) return {};
         const bool isMember = source.isSeries && value.is(Kind::Double);
         const double number = isMember ? value.real() : none;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "frame/objecterror.h"
+#include "indexed/objectvalues.h"
 
 namespace tarq {
 namespace {
@@ -25,8 +26,7 @@ Outcome ask(IDispatch& object, std::int32_t member, std::span<const Variant> arg
     clearLastError();
     const Status status = object.Invoke(member, invoke::get, {.values = arguments, .names = {}}, &result, nullptr);
     if (!status.failed()) return {};
-    const ObjectError* const error = lastError();
-    return {status, error != nullptr ? error->description : std::string(status::meaning(status))};
+    return {status, ownDescription(status)};
 }
 
 Outcome askForObject(IDispatch& object, std::int32_t member, std::span<const Variant> arguments,

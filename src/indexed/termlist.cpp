@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "frame/object.h"
-#include "frame/objecterror.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
@@ -16,24 +15,25 @@
 namespace tarq {
 namespace {
 
-/// Sets `coefficients`, and false where the element is none: it is then read as columns.
-bool readCoefficients(const Variant& element, CoefficientGroup& coefficients) {
+/// Sets `coefficients`. An element that isn't any fails with invalidArgument and is to be read as columns; another
+/// failure is the object's own.
+Outcome readCoefficients(const Variant& element, CoefficientGroup& coefficients) {
     const PlainValue value(element);
     std::vector<Variant> values;
     if (value->isArray()) {
-        if (!appendArrayValues(value->array(), Kind::Double, values).isOk()) return false;
+        if (Outcome read = appendArrayValues(value->array(), Kind::Double, values); !read.isOk()) return read;
     } else if (value->isObject()) {
         const Ref<IUnknown> object(value->object());
-        if (!collectObjectValues(object.get(), Kind::Double, values).isOk()) return false;
+        if (Outcome read = collectObjectValues(object.get(), Kind::Double, values); !read.isOk()) return read;
     } else {
         Variant number = *value;
-        if (!number.toReal()) return false;
+        if (!number.toReal()) return status::invalidArgument;
         values.push_back(std::move(number));
     }
     coefficients.clear();
     coefficients.reserve(values.size());
     for (const Variant& number : values) coefficients.push_back(number.real());
-    return true;
+    return {};
 }
 
 void appendNames(std::vector<Variant>& texts, ColumnGroup& columns) {
@@ -49,8 +49,7 @@ Outcome readColumnName(const Ref<IUnknown>& object, ColumnGroup& columns, bool& 
     known = static_cast<bool>(column);
     if (!known) return {};
     std::string name;
-    clearLastError();  // what is found there after a failure is then the failure's
-    if (const Status told = column->get_Name(&name); !told.isOk()) return failureOf(told);
+    if (Outcome told = askObject([&] { return column->get_Name(&name); }); !told.isOk()) return told;
     columns.push_back(std::move(name));
     return {};
 }
@@ -62,12 +61,11 @@ Outcome readMemberNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool&
     known = static_cast<bool>(members);
     if (!known) return {};
     std::int32_t count = 0;
-    clearLastError();
-    if (const Status told = members->get_Count(&count); !told.isOk()) return failureOf(told);
+    if (Outcome told = askObject([&] { return members->get_Count(&count); }); !told.isOk()) return told;
     for (std::int32_t member = 0; member < count; ++member) {
         std::string name;
-        const Status told = (members.get()->*nameOf)(member + 1, &name);
-        if (!told.isOk()) return failureOf(told);
+        Outcome told = askObject([&] { return (members.get()->*nameOf)(member + 1, &name); });
+        if (!told.isOk()) return told;
         columns.push_back(std::move(name));
     }
     return {};
@@ -122,7 +120,11 @@ Outcome parseCoeffsAndCols(const ValueList& list, TermList& terms) {
     for (std::size_t position = 0; position < elements.size();) {
         CoefficientGroup& coefficients = read.coefficients.emplace_back(CoefficientGroup{1.0});
         // The only element of a list is a column, even where it reads as a number.
-        if (elements.size() > 1 && readCoefficients(elements[position], coefficients)) ++position;
+        if (elements.size() > 1) {
+            Outcome outcome = readCoefficients(elements[position], coefficients);
+            if (!outcome.isOk() && outcome.status() != status::invalidArgument) return outcome;
+            if (outcome.isOk()) ++position;
+        }
         if (position == elements.size()) break;
         ColumnGroup& columns = read.columns.emplace_back();
         if (Outcome outcome = readColumns(elements[position++], columns); !outcome.isOk()) return outcome;

@@ -23,7 +23,7 @@ struct TermList {
 
 /// Reads coefficients and columns in turn: an optional coefficient, a number or several, then columns: a name, several,
 /// or an object that has columns or values. A coefficient that isn't there is 1. Failures have the status
-/// invalidArgument.
+/// invalidArgument, or are those of a spreadsheet's own calls.
 Outcome parseCoeffsAndCols(const ValueList& list, TermList& terms);
 
 /// Hands each column of the list with its coefficient to `take(name, coefficient)`, which returns an Outcome, until

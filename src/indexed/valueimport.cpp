@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "frame/convertelement.h"
-#include "indexed/arraycells.h"
 #include "indexed/elementreader.h"
 #include "indexed/indexset.h"
 #include "indexed/objectvalues.h"
@@ -182,12 +181,14 @@ Outcome appendArrayCells(std::span<const Variant> cells, Kind target, std::vecto
 
 Outcome checkArrayShape(ITARQArray& array, std::span<const std::size_t> shape) {
     std::int32_t dimensions = 0;
-    if (const Status asked = array.get_NumberOfIndexsets(&dimensions); asked.failed()) return failureOf(asked);
+    if (Outcome asked = askObject([&] { return array.get_NumberOfIndexsets(&dimensions); }); !asked.isOk())
+        return asked;
     if (static_cast<std::size_t>(dimensions) != shape.size()) return refused("Dimension of TARQArray does not fit.");
     for (std::size_t i = 0; i < shape.size(); ++i) {
         std::int32_t size = 0;
-        const Status asked = array.get_SizeOfIndexset(static_cast<std::int32_t>(i) + 1, &size);
-        if (asked.failed()) return failureOf(asked);
+        const auto dimension = static_cast<std::int32_t>(i) + 1;
+        Outcome asked = askObject([&] { return array.get_SizeOfIndexset(dimension, &size); });
+        if (!asked.isOk()) return asked;
         if (static_cast<std::size_t>(size) >= shape[i]) continue;
         return refused(std::string("Dimension ").append(std::to_string(i + 1)).append(" of TARQArray is too small."));
     }
@@ -208,9 +209,10 @@ Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, K
             indices[i] = Variant(static_cast<std::int32_t>(positions[i]) + 1);
         }
         Variant value;
-        const Status asked =
-            array.get_ValueByNumIndex(indices[0], indices[1], indices[2], indices[3], indices[4], &value);
-        if (asked.failed()) return failureOf(asked);
+        Outcome asked = askObject([&] {
+            return array.get_ValueByNumIndex(indices[0], indices[1], indices[2], indices[3], indices[4], &value);
+        });
+        if (!asked.isOk()) return asked;
         block.clear();
         if (Outcome read = appendConverted(std::move(value), target, block); !read.isOk()) return read;
     } while (nextIndexCombination(shape, positions));
@@ -219,14 +221,10 @@ Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, K
 
 /// What an array has to offer for a selection of the sizes `shape`. Its values are read by the caller afterwards, all
 /// of them in their own order, so that of a larger array the first ones are taken and not the leading block.
-Outcome checkArray(ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
+Outcome checkArray(const Ref<IUnknown>& object, ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
     if (Outcome checked = checkArrayShape(array, shape); !checked.isOk()) return checked;
     // Cells that lie together are all read afterwards, and a failure would be the same.
-    if (Ref<IArrayCells> cells = Ref<ITARQArray>(&array).query<IArrayCells>();
-        cells && !cells->rowMajorCells().empty()) {
-        return {};
-    }
-    return checkArrayBlock(array, shape, target);
+    return cellsOf(object) ? Outcome() : checkArrayBlock(array, shape, target);
 }
 
 /// Room for the members of a series at once: one too long for any memory ends here and not after hours.
@@ -248,10 +246,7 @@ Outcome appendArrayValues(const SafeArray& array, Kind target, std::vector<Varia
 Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>& values) {
     values.clear();
     const Ref<IUnknown> held(object);
-    const Ref<IArrayCells> cells = held.query<ITARQArray>().query<IArrayCells>();
-    if (cells && !cells->rowMajorCells().empty()) {
-        return appendArrayCells(cells->rowMajorCells(), target, values);
-    }
+    if (const Ref<IArrayCells> cells = cellsOf(held)) return appendArrayCells(cells->rowMajorCells(), target, values);
     ValueSource source;
     if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
     if (source.offered) {
@@ -303,7 +298,7 @@ Outcome expandValues(const Variant& value, std::span<const std::size_t> shape, s
         const Ref<IUnknown> object(plain.object());
         const SpreadsheetRange range(object.get());
         if (const Ref<ITARQArray> array = object.query<ITARQArray>()) {
-            if (Outcome checked = checkArray(*array, shape, target); !checked.isOk()) return checked;
+            if (Outcome checked = checkArray(object, *array, shape, target); !checked.isOk()) return checked;
         }
         Outcome read = range && !object.query<ITARQArray>() ? expandRange(range, shape, target, values)
                                                             : collectObjectValues(object.get(), target, values);

@@ -106,25 +106,32 @@ TEST_F(ArrayEnumTest, WithoutInitEachMemberSaysSo) {
     EXPECT_EQ(shown(values), "2");
 }
 
-/// A client's object around an array, which shows the published interface alone.
+/// A client's object that shows one array and leaves what it doesn't know to another one.
 class Shell final : public IUnknown {
 public:
     Shell() {
-        void* made = nullptr;
-        EXPECT_THAT(createInstance<CTARQArray>(this, IUnknown::id, &made), succeeds());
-        part_ = Ref<IUnknown>::adopt(static_cast<IUnknown*>(made));
+        for (Ref<IUnknown>* const part : {&shown_, &hidden}) {
+            void* made = nullptr;
+            EXPECT_THAT(createInstance<CTARQArray>(this, IUnknown::id, &made), succeeds());
+            *part = Ref<IUnknown>::adopt(static_cast<IUnknown*>(made));
+        }
     }
     Status QueryInterface(const Guid& interfaceId, void** out) override {
-        if (interfaceId == ITARQArray::id) return part_->QueryInterface(interfaceId, out);
-        *out = interfaceId == IUnknown::id ? this : nullptr;
-        return *out != nullptr ? status::ok : status::wrongClass;
+        if (interfaceId == ITARQArray::id) return shown_->QueryInterface(interfaceId, out);
+        if (interfaceId == ITARQSet::id && set) return set->QueryInterface(interfaceId, out);
+        if (interfaceId != IUnknown::id) return hidden->QueryInterface(interfaceId, out);
+        *out = this;
+        return status::ok;
     }
     // The test outlives every reference.
     std::uint32_t AddRef() override { return 1; }
     std::uint32_t Release() override { return 1; }
 
+    Ref<IUnknown> hidden;
+    Ref<ITARQSet> set;
+
 private:
-    Ref<IUnknown> part_;
+    Ref<IUnknown> shown_;
 };
 
 TEST_F(ArrayEnumTest, AnArrayOfAClientIsReadThroughItsPublishedMembers) {
@@ -132,11 +139,17 @@ TEST_F(ArrayEnumTest, AnArrayOfAClientIsReadThroughItsPublishedMembers) {
     const Ref<ITARQArray> parent = Ref<IUnknown>(&shell).query<ITARQArray>();
     ASSERT_THAT(parent->Init(listOf(2, 2)), succeeds());
     ASSERT_THAT(parent->SetValues(listOf(1, 2, 3, 4)), succeeds());
+    ASSERT_THAT(shell.hidden.query<ITARQArray>()->Init(listOf(9)), succeeds());
     const Variant missing = Variant::missing();
     const Ref<ITARQArrayEnum> enumerator = make<CTARQArrayEnum, ITARQArrayEnum>();
     ASSERT_THAT(enumerator->Init(&shell, missing, Variant(2), missing, missing, missing), succeeds());
     EXPECT_EQ(stateOf(enumerator), ".1.2");
     EXPECT_EQ(shown(enumerator.query<IEnumVARIANT>()), "2 4");
+    const Variant both(Ref<IUnknown>{&shell});
+    EXPECT_THAT(putAt(array, both, Variant(namesOf({"1", "2"})), Variant(namesOf({"1", "2"}))), succeeds());
+    EXPECT_EQ(cells(array), "2x3: 1 2 3 3 4 6");
+    shell.set = newSet(listOf(7));
+    EXPECT_EQ(shown(newSet(ValueList({both}))), "7");
 }
 
 TEST_F(ArrayEnumTest, AClientMayStartItOverWhileItNamesElements) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "frame/safearray.h"
+#include "tests/indexed/standinrange.h"
 #include "tests/support/outcomematchers.h"
 #include "tests/support/valuewalks.h"
 
@@ -138,6 +139,14 @@ TEST(ParseCoeffsAndCols, WhatIsNoColumnEndsTheListAndLeavesTheTerms) {
         EXPECT_THAT(parseCoeffsAndCols(ValueList(each.list), terms), failsWith(status::invalidArgument, each.message));
         EXPECT_EQ(terms.columns, std::vector<ColumnGroup>{{"before"}});
     }
+}
+
+TEST(ParseCoeffsAndCols, ARangeThatFailsAsACoefficientTellsItsOwnFailure) {
+    const auto close = [] { return raise(Guid(), "The sheet is closed.", Status(0x800A03EC)); };
+    const Variant range(StandInRange::create({.cells = {{Variant(1)}}, .beforeValue = close}));
+    TermList terms;
+    EXPECT_THAT(parseCoeffsAndCols(ValueList({range, Variant("x")}), terms),
+                failsWith(Status(0x800A03EC), "The sheet is closed."));
 }
 
 }  // namespace
