@@ -1,7 +1,8 @@
 #include "frame/connectionpoint.h"
 
 #include <algorithm>
-#include <new>
+
+#include "frame/memberguard.h"
 
 namespace tarq {
 
@@ -30,20 +31,18 @@ Status ConnectionPoint::GetConnectionPointContainer(IUnknown** container) {
 Status ConnectionPoint::Advise(IUnknown* sink, std::uint32_t* cookie) {
     if (sink == nullptr || cookie == nullptr) return status::nullPointer;
     *cookie = 0;
-    // A sink answers to the outgoing interface with what its events are called by.
-    void* found = nullptr;
-    if (!sink->QueryInterface(interfaceId_, &found).isOk()) return status::cannotConnect;
-    Ref<IDispatch> subscriber = Ref<IDispatch>::adopt(static_cast<IDispatch*>(found));
-    try {
+    return contained([&] {
+        // A sink answers to the outgoing interface with what its events are called by.
+        void* found = nullptr;
+        if (!sink->QueryInterface(interfaceId_, &found).isOk()) return status::cannotConnect;
+        Ref<IDispatch> subscriber = Ref<IDispatch>::adopt(static_cast<IDispatch*>(found));
         const std::lock_guard lock(mutex_);
         auto slot = std::ranges::find_if(slots_, [](const Ref<IDispatch>& taken) { return !taken; });
         if (slot == slots_.end()) slot = slots_.emplace(slots_.end());
         *slot = std::move(subscriber);
         *cookie = static_cast<std::uint32_t>(slot - slots_.begin()) + 1;
         return status::ok;
-    } catch (const std::bad_alloc&) {
-        return status::outOfMemory;
-    }
+    });
 }
 
 Status ConnectionPoint::Unadvise(std::uint32_t cookie) {

@@ -8,12 +8,12 @@
 
 namespace tarq {
 
-/// Runs `operation`, which returns an Outcome, for an object of the class `classId`: a description is recorded for the
-/// calling thread and the status returned. No exception passes.
+/// Runs `operation`, which returns a Status and has recorded what there is to say about it, such as a call of an object
+/// that may be anybody's. No exception passes.
 template <class Operation>
-Status guarded(const Guid& classId, Operation&& operation) noexcept {
+Status contained(Operation&& operation) noexcept {
     try {
-        return raise(classId, std::forward<Operation>(operation)());
+        return std::forward<Operation>(operation)();
     } catch (const std::bad_alloc&) {
         return status::outOfMemory;
     } catch (...) {
@@ -21,18 +21,21 @@ Status guarded(const Guid& classId, Operation&& operation) noexcept {
     }
 }
 
+/// Runs `operation`, which returns an Outcome, for an object of the class `classId`: a description is recorded for the
+/// calling thread and the status returned. No exception passes.
+template <class Operation>
+Status guarded(const Guid& classId, Operation&& operation) noexcept {
+    return contained([&] { return raise(classId, std::forward<Operation>(operation)()); });
+}
+
 /// Sets an output from `compute`, which returns the value and cannot fail otherwise than by lack of memory.
 template <class Value, class Compute>
 Status guardedGet(Value* output, Compute&& compute) noexcept {
     if (output == nullptr) return status::nullPointer;
-    try {
+    return contained([&] {
         *output = std::forward<Compute>(compute)();
         return status::ok;
-    } catch (const std::bad_alloc&) {
-        return status::outOfMemory;
-    } catch (...) {
-        return status::generalFailure;
-    }
+    });
 }
 
 }  // namespace tarq

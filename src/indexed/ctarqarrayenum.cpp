@@ -57,7 +57,9 @@ Status CTARQArrayEnum::get_CurrentItem(Variant* value) {
         if (item.isOk()) name = walk_.name(walk_.position());
         return item;
     });
-    return found.isOk() ? parent_->get_ValueByFullIndexName(name, value) : found;
+    if (!found.isOk()) return found;
+    const Ref<ITARQArray> parent = parent_;  // which another Init may let go of meanwhile
+    return contained([&] { return parent->get_ValueByFullIndexName(name, value); });
 }
 
 Status CTARQArrayEnum::get_CurrentIndexName(std::string* value) {

@@ -88,7 +88,9 @@ Status CTARQSetEnum::get__NewEnum(Ref<IUnknown>* value) {
 }
 
 Status CTARQSetEnum::get_CurrentItem(Variant* value) {
-    return parent_ ? parent_->get_Item(walk_.position(), value) : notInitialized();
+    if (!parent_) return notInitialized();
+    const Ref<ITARQSet> parent = parent_;  // which another Init may let go of meanwhile
+    return contained([&] { return parent->get_Item(walk_.position(), value); });
 }
 
 Status CTARQSetEnum::get_CurrentIndex(std::int32_t* value) {
@@ -107,16 +109,18 @@ Status CTARQSetEnum::Next(std::uint32_t count, Variant* values, std::uint32_t* f
     if (values == nullptr) return status::nullPointer;
     if (!parent_) return notInitialized();
     const Ref<ITARQSet> parent = parent_;  // which another Init may let go of meanwhile
-    std::int32_t size = 0;
-    if (const Status counted = parent->get_Count(&size); !counted.isOk()) return counted;
-    if (size == 0) return fewerLeft;
-    std::uint32_t taken = 0;
-    for (; taken < count && walk_.inRange(); ++taken) {
-        if (const Status got = parent->get_Item(walk_.position(), &values[taken]); !got.isOk()) return got;
-        walk_.advance();
-    }
-    if (fetched != nullptr) *fetched = taken;
-    return taken == count ? status::ok : fewerLeft;
+    return contained([&] {
+        std::int32_t size = 0;
+        if (const Status counted = parent->get_Count(&size); !counted.isOk()) return counted;
+        if (size == 0) return fewerLeft;
+        std::uint32_t taken = 0;
+        for (; taken < count && walk_.inRange(); ++taken) {
+            if (const Status got = parent->get_Item(walk_.position(), &values[taken]); !got.isOk()) return got;
+            walk_.advance();
+        }
+        if (fetched != nullptr) *fetched = taken;
+        return taken == count ? status::ok : fewerLeft;
+    });
 }
 
 Status CTARQSetEnum::Skip(std::uint32_t count) {

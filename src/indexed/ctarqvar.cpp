@@ -10,11 +10,9 @@ Status refuse(const char* description) {
 }  // namespace
 
 Status CTARQVar::Detach() {
-    if (const Ref<ITARQModel> model = item_.model(); model) {
-        const Variant address = item_.address();
-        (void)model->get_ColCost(address, &cost_);
-        (void)model->get_ColType(address, &type_);
-    }
+    // Where it is detached already these stay as they are.
+    (void)item_.read(&ITARQModel::get_ColCost, cost_, &cost_);
+    (void)item_.read(&ITARQModel::get_ColType, type_, &type_);
     return ItemObject::Detach();
 }
 

@@ -24,7 +24,7 @@ Status changeRowBounds(ITARQModel& model, std::int32_t position, const double* l
 template <class Value>
 Value solutionValue(ITARQModel& model, ItemSide::Getter<Value> getter, const Variant& address) {
     Value value{};
-    return (model.*getter)(address, &value).isOk() ? value : Value{};
+    return contained([&] { return (model.*getter)(address, &value); }).isOk() ? value : Value{};
 }
 
 }  // namespace
@@ -84,10 +84,10 @@ Outcome ModelItem::point(IUnknown* model, std::int32_t number) {
 void ModelItem::detach() noexcept {
     const Ref<ITARQModel> model = model_;
     const Variant address = this->address();
-    (void)(model.get()->*side_.lowerBound)(address, &lowerBound_);
-    (void)(model.get()->*side_.upperBound)(address, &upperBound_);
+    (void)contained([&] { return (model.get()->*side_.lowerBound)(address, &lowerBound_); });
+    (void)contained([&] { return (model.get()->*side_.upperBound)(address, &upperBound_); });
     std::string name;
-    (void)(model.get()->*side_.name)(modelIndex_, &name);
+    (void)contained([&] { return (model.get()->*side_.name)(modelIndex_, &name); });
     name_ = std::move(name);
     lpValue_ = solutionValue(*model, side_.lpValue, address);
     ipValue_ = solutionValue(*model, side_.ipValue, address);

@@ -2,12 +2,14 @@
 //
 // Attached, every answer is the model's; it is asked through its interface alone, by number, and refuses a number that
 // it has lost. The model is held for the time of each call, since what it calls may let go of it. Functions that take
-// an output expect a variable; texts are copied, so lack of memory throws where nothing else is said.
+// an output expect a variable; texts are copied, so lack of memory throws where nothing else is said. No exception of a
+// client's model passes a function that returns a Status or nothing.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
+#include "frame/memberguard.h"
 #include "frame/object.h"
 #include "frame/status.h"
 #include "frame/variant.h"
@@ -105,16 +107,18 @@ Status ModelItem::read(ItemSide::Getter<Value> getter, const Value& own, Value* 
         return status::ok;
     }
     const Ref<ITARQModel> model = model_;
-    return (model.get()->*getter)(address(), value);
+    return contained([&] { return (model.get()->*getter)(address(), value); });
 }
 
 template <class Act>
 Status ModelItem::change(const Act& act) const {
     const Ref<ITARQModel> model = model_;
-    std::int32_t number = 0;
-    // Members that take a position leave its check to their caller.
-    if (const Status found = (model.get()->*side_.number)(address(), &number); !found.isOk()) return found;
-    return act(*model, number - 1);
+    return contained([&] {
+        std::int32_t number = 0;
+        // Members that take a position leave its check to their caller.
+        const Status found = (model.get()->*side_.number)(address(), &number);
+        return found.isOk() ? act(*model, number - 1) : found;
+    });
 }
 
 }  // namespace tarq
