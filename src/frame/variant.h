@@ -196,14 +196,20 @@ public:
 
     /// Conversions in place. On failure the value is unchanged and the result is false. They follow references.
     /// toReal gives Double, toInteger Long (rounded to nearest, ties to even), toText Text; Bool counts as -1 or 0 in
-    /// all three. Null, Error, Object, arrays and what the target can't hold fail. Text becomes a number only if it is
-    /// one under the English conventions and under the user's; its value is the English one, the same on every machine.
+    /// all three. Null, Error, arrays and what the target can't hold fail. Text becomes a number only if it is one
+    /// under the English conventions and under the user's; its value is the English one, the same on every machine. An
+    /// object, unless it is behind a reference, is asked for its default value where a number is wanted, which calls a
+    /// client.
     [[nodiscard]] bool toReal() { return is(Kind::Double) || convertToReal(); }
     [[nodiscard]] bool toInteger() { return is(Kind::Long) || convertToInteger(); }
     [[nodiscard]] bool toText() { return is(Kind::Text) || convertToText(); }
     /// Gives the form in which index sets and element lists store a value: Text, Long for whole numbers, or Double.
     /// A Single other than 0 becomes a Double also when it is whole. Every other kind, UInt32 among them, fails.
     [[nodiscard]] bool normalizeValue();
+    /// Replaces an object of another maker by its default value, such as the content of a spreadsheet's cell: what a
+    /// get of its member 0 without arguments gives. False, and no change, for any other value, and where the object
+    /// fails or gives an array or again an object.
+    [[nodiscard]] bool takeDefaultValue();
 
     /// A copy with a by-reference wrapper resolved one level, unless it is an array or a reference to Bool.
     [[nodiscard]] Variant copyDereferenced() const {
@@ -247,6 +253,7 @@ private:
     [[nodiscard]] bool convertToInteger();
     [[nodiscard]] bool convertToText();
     [[nodiscard]] bool convertReferenced(bool (Variant::*convert)());
+    [[nodiscard]] bool convertDefaultValue(bool (Variant::*convert)());
 
     std::uint16_t code_ = 0;
     Payload payload_{.whole = 0};

@@ -1,7 +1,9 @@
 // The conversions of Variant that are not inline.
 #include <cmath>
 
+#include "frame/dispatch.h"
 #include "frame/localnumbers.h"
+#include "frame/memberguard.h"
 #include "frame/numbertext.h"
 #include "frame/variant.h"
 #include "platform/userlocale.h"
@@ -89,13 +91,39 @@ bool Variant::convertReferenced(bool (Variant::*convert)()) {
     Variant plain = copyDereferenced();
     if (plain.isByReference()) plain = plain.copyDereferenced();  // a reference to a Variant that is one itself
     if (const bool* const truth = plain.referenced<bool>()) plain = Variant(*truth);
-    if (plain.isByReference() || plain.isArray() || !(plain.*convert)()) return false;
+    if (plain.isByReference() || plain.isArray() || plain.isObject() || !(plain.*convert)()) return false;
     *this = std::move(plain);
+    return true;
+}
+
+bool Variant::convertDefaultValue(bool (Variant::*convert)()) {
+    Variant value = *this;
+    if (!value.takeDefaultValue() || !(value.*convert)()) return false;
+    *this = std::move(value);
+    return true;
+}
+
+bool Variant::takeDefaultValue() {
+    if (!isObject()) return false;
+    Variant answer;
+    const Status asked = contained([&]() -> Status {
+        const Ref<IDispatch> object = Ref<IUnknown>(payload_.object).query<IDispatch>();
+        // Objects of this component tell their members. The default ones select, and a set's would empty it.
+        if (!object || object->GetMemberTable() != nullptr) return status::unknownMember;
+        Variant given;
+        const Status got = object->Invoke(memberid::value, invoke::get, {}, &given, nullptr);
+        answer = given.copyDereferenced();
+        return got;
+    });
+    clearLastError();  // what the object says of its failure is no answer to the caller's question
+    if (!asked.isOk() || answer.isObject() || answer.isArray() || answer.isByReference()) return false;
+    *this = std::move(answer);
     return true;
 }
 
 bool Variant::convertToReal() {
     if (isByReference()) return convertReferenced(&Variant::toReal);
+    if (isObject()) return convertDefaultValue(&Variant::toReal);
     double number = 0;
     const bool converted = isText() ? readGatedReal(text(), userNumberMarks(), number) : readNumber(*this, number);
     if (converted) *this = Variant(number);
@@ -104,6 +132,7 @@ bool Variant::convertToReal() {
 
 bool Variant::convertToInteger() {
     if (isByReference()) return convertReferenced(&Variant::toInteger);
+    if (isObject()) return convertDefaultValue(&Variant::toInteger);
     std::int32_t integer = 0;
     double number = 0;
     const bool converted = isText() ? readGatedInteger(text(), userNumberMarks(), integer)

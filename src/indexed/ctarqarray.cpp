@@ -59,7 +59,8 @@ Outcome CTARQArray::selectByNumber(const IndexArguments& arguments, Selection& s
         if (isMissingIndex(*arguments[i])) continue;
         if (i >= base.size()) return refused("More indexparameters passed, than TARQArray has dimensions.");
         Variant number = arguments[i]->is(Kind::Long) ? *arguments[i] : arguments[i]->copyDereferenced();
-        if (!number.toInteger()) return refused(argumentText(i) + " could not be converted to integer value.");
+        if (number.isObject() || !number.toInteger())
+            return refused(argumentText(i) + " could not be converted to integer value.");
         if (number.integer() < 1) return refused(argumentText(i) + " is less than 1.");
         if (static_cast<std::size_t>(number.integer()) > base[i].size()) {
             return refused(argumentText(i) + " is too high.");

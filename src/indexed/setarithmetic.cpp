@@ -32,7 +32,8 @@ struct Operands {
 
 Outcome readOperands(const Variant& value, Operands& operands) {
     Variant operand = value.copyDereferenced();
-    operands.isScalar = operand.toReal();
+    // An object is the vector of its values.
+    operands.isScalar = !operand.isObject() && operand.toReal();
     if (!operands.isScalar) return readVector(operand, operands.numbers);
     operands.numbers.push_back(std::move(operand));
     return {};

@@ -48,7 +48,9 @@ Outcome resolve(const AddressedTable& table, const ModelStore& store, const Vari
     if (address.isText()) return resolveName(table, store, address.text(), position);
     Variant value = address.copyDereferenced();
     if (value.isText()) return resolveName(table, store, value.text(), position);
-    if (!value.toInteger()) return {status::wrongKind, std::string(table.notConvertible)};
+    // A text that an object gives is neither a name nor a number, since as an address it would be a name.
+    const bool isNumber = !value.isObject() || (value.takeDefaultValue() && !value.isText());
+    if (!isNumber || !value.toInteger()) return {status::wrongKind, std::string(table.notConvertible)};
     const std::int32_t number = value.integer();
     if (number < 1) return {status::invalidArgument, std::string(table.belowOne)};
     if (number > (store.*table.count)()) return {status::invalidArgument, std::string(table.aboveCount)};

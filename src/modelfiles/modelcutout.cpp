@@ -28,6 +28,10 @@ Outcome resolveCutout(const ModelStore& store, const CutoutAddresses& addresses,
     if (Outcome column = resolve(resolveColumn, store, addresses.lastColumn, found.lastColumn); !column.isOk()) {
         return column;
     }
+    // What an object that is an address has called may have taken rows or columns away.
+    if (found.lastRow > store.rowCount() || found.lastColumn > store.columnCount()) {
+        return {status::indexOutOfRange, "Index out of valid range."};
+    }
     if (found.firstRow > found.lastRow && store.rowCount() > 0) {
         return {status::invalidArgument, "Row startindex is higher than endindex."};
     }

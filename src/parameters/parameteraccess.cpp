@@ -117,6 +117,7 @@ Outcome writeParameter(ParameterTable& table, std::string_view name, const Varia
     if (row < 0) return unknownName();
     Variant plainValue = value.copyDereferenced();
     if (plainValue.isByReference()) plainValue = plainValue.copyDereferenced();  // a reference to a reference
+    if (plainValue.isObject() && !plainValue.takeDefaultValue()) return wrongType();
     if (lowerName.view() == "xminmx") return storeDirection(table, row, std::move(plainValue), infinity);
     switch (rowAt(row).type) {
         case ParameterType::Long:

@@ -122,6 +122,27 @@ def test_a_stand_in_is_the_same_object_while_it_is_held_and_free_afterwards(call
     assert gone() is None
 
 
+class Cell(tarq.Dispatch):
+    _dispids_ = {0: "Value"}
+
+    def __init__(self, value):
+        self.Value = value
+
+
+def test_an_object_gives_its_value_where_a_number_is_wanted():
+    model, order = tarq.TARQModel(), tarq.TARQSet().Set(1, 2)
+    model.AddCol(0, Cell(10.5), 0, Cell("3"), "x")
+    assert (model.ColUB[Cell(1)], model.ColCost["x"]) == (10.5, 3)
+    model.Parameter["xmiter"], model.Parameter["xminmx"] = Cell(7), Cell("max")
+    assert (model.Parameter["xmiter"], model.Parameter["xminmx"]) == (7, "max")
+    for no_number in (Cell("x"), Cell("1"), Cell([1]), Cell(Cell(1)), Cells([[1]]), object(), order):
+        with pytest.raises(tarq.Error, match="Col index is not convertible"):
+            model.ColLB[no_number]
+    with pytest.raises(tarq.Error, match="Col name is of wrong variant type"):
+        model.AddCol(0, 1, 0, 0, Cell("y"))
+    assert order.Count == 2
+
+
 def test_lists_of_interfaces_that_make_no_sense_list_none(caller):
     class Odd(tarq.Dispatch):
         _interfaces_ = [5, "no identifier"]

@@ -174,6 +174,7 @@ class Range(Dispatch):
 
     _interfaces_ = ["{00020846-0000-0000-C000-000000000046}"]
     _dispids_ = {
+        0: "Value",
         0x238: "Areas",
         0x76: "Count",
         0x102: "Rows",
