@@ -50,7 +50,7 @@ NameIndex& NameIndex::operator=(NameIndex other) noexcept {
     return *this;
 }
 
-void NameIndex::erase(std::string_view name, std::int32_t position) {
+void NameIndex::erase(std::string_view name, std::int32_t position) noexcept {
     if (slots_.empty()) return;
     const std::uint32_t hash = hashOf(name);
     std::size_t gap = placeOf(hash);
@@ -69,23 +69,6 @@ void NameIndex::erase(std::string_view name, std::int32_t position) {
     slots_[gap] = {};
 }
 
-void NameIndex::removePositions(std::int32_t first, std::int32_t end) {
-    // Each entry is taken up and put down again, at its slot or before it. Beginning behind a free slot, no search
-    // passes a slot that is yet to be taken up.
-    const auto isFree = [](const Slot& slot) { return slot.position == absent; };
-    const auto start = static_cast<std::size_t>(std::ranges::find_if(slots_, isFree) - slots_.begin());
-    for (std::size_t step = 1; step < slots_.size(); ++step) {
-        Slot entry = std::exchange(slots_[(start + step) & (slots_.size() - 1)], {});
-        if (isFree(entry)) continue;
-        if (entry.position >= first && entry.position < end) {
-            --count_;
-            continue;
-        }
-        if (entry.position >= end) entry.position -= end - first;
-        putDown(entry);
-    }
-}
-
 void NameIndex::reserve(std::size_t count) {
     if (count <= countLimit_) return;
     unsigned slotBits = std::max(firstSlotBits, static_cast<unsigned>(std::bit_width(count)));
@@ -98,13 +81,24 @@ void NameIndex::clear() noexcept {
     count_ = countLimit_ = 0;
 }
 
-void NameIndex::putDown(const Slot& entry) {
+void NameIndex::putDown(const Slot& entry) noexcept {
     std::size_t place = placeOf(entry.hash);
     while (slots_[place].position != absent) place = nextPlace(place);
     slots_[place] = entry;
 }
 
 void NameIndex::grow() { resize(slots_.empty() ? firstSlotBits : hashBits - shift_ + 1); }
+
+void NameIndex::shrink() noexcept {
+    if (count_ == 0) return clear();
+    if (count_ > countLimit_ / 8) return;
+    try {
+        // Half full.
+        resize(std::max(firstSlotBits, static_cast<unsigned>(std::bit_width(2 * count_))));
+    } catch (const std::bad_alloc&) {  // The large one serves as well.
+        return;
+    }
+}
 
 void NameIndex::resize(unsigned slotBits) {
     if (slotBits > hashBits) throw std::bad_alloc();

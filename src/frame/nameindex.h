@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/largepages.h"
@@ -54,11 +55,19 @@ public:
         return true;
     }
 
-    /// Takes out the name that stands at `position`, if it is there.
-    void erase(std::string_view name, std::int32_t position);
+    /// Enters a name that isn't there, for which room was reserved; so it can't fail.
+    void insertNew(std::string_view name, std::int32_t position) noexcept {
+        putDown({hashOf(name), position});
+        ++count_;
+    }
 
-    /// Takes out the positions from `first` to before `end` and moves those behind them up. Linear, whatever the range.
-    void removePositions(std::int32_t first, std::int32_t end);
+    /// Takes out the name that stands at `position`, if it is there.
+    void erase(std::string_view name, std::int32_t position) noexcept;
+
+    /// Gives each name the position that `renumbered` makes of its present one, or takes it out where that is `absent`.
+    /// One pass over the index, which gives memory back where few names are left.
+    template <class Renumbered>
+    void renumber(const Renumbered& renumbered);
 
     /// Makes room for so many names in all.
     void reserve(std::size_t count);
@@ -105,8 +114,9 @@ private:
         return place;
     }
     /// Puts an entry that isn't there into the first free slot of its own.
-    void putDown(const Slot& entry);
+    void putDown(const Slot& entry) noexcept;
     void grow();
+    void shrink() noexcept;
     void resize(unsigned slotBits);
 
     Slots slots_;  ///< none, or a power of two; always some of them free
@@ -116,5 +126,24 @@ private:
     std::uint64_t secret_;
     std::uint64_t multiplier_;  ///< odd
 };
+
+template <class Renumbered>
+void NameIndex::renumber(const Renumbered& renumbered) {
+    // Each entry is taken up and put down again, at its slot or before it. Beginning behind a free slot, no search
+    // passes a slot that is yet to be taken up.
+    std::size_t start = 0;
+    while (start < slots_.size() && slots_[start].position != absent) ++start;
+    for (std::size_t step = 1; step < slots_.size(); ++step) {
+        Slot entry = std::exchange(slots_[(start + step) & (slots_.size() - 1)], {});
+        if (entry.position == absent) continue;
+        entry.position = renumbered(entry.position);
+        if (entry.position == absent) {
+            --count_;
+        } else {
+            putDown(entry);
+        }
+    }
+    shrink();
+}
 
 }  // namespace tarq

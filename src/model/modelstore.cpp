@@ -104,14 +104,19 @@ double ModelStore::clampToInfinity(double value) const {
 }
 
 bool ModelStore::hasIntegerColumn() const {
-    return std::ranges::any_of(columns_.records(),
-                               [](const ColumnRecord& column) { return column.type != TARQColType::Continuous; });
+    for (std::int32_t position = 0; position < columnCount(); ++position) {
+        if (column(position).type != TARQColType::Continuous) return true;
+    }
+    return false;
 }
 
 void ModelStore::autoRename() {
     const auto held = gate_.edit();
-    columns_.autoRename('C');
-    rows_.autoRename('R');
+    // All that can fail comes first: old names and new ones beside each other could be the same.
+    NameIndex columnNames = columns_.makeNameRoom();
+    NameIndex rowNames = rows_.makeNameRoom();
+    columns_.autoRename('C', std::move(columnNames));
+    rows_.autoRename('R', std::move(rowNames));
 }
 
 void ModelStore::clear() noexcept {

@@ -87,7 +87,7 @@ public:
     [[nodiscard]] Outcome renameColumn(std::int32_t position, std::string_view name);
     [[nodiscard]] Outcome renameRow(std::int32_t position, std::string_view name);
     /// Removes the records from `firstNumber` to `lastNumber` with their nonzeros; what lies behind moves up. Numbers
-    /// outside the table are ignored. One pass over the records, the names and the nonzeros.
+    /// outside the table are ignored. One pass over the nonzeros, and what RecordTable::remove tells.
     void removeColumns(std::int32_t firstNumber, std::int32_t lastNumber);
     void removeRows(std::int32_t firstNumber, std::int32_t lastNumber);
 

@@ -36,7 +36,10 @@ public:
         expected_.erase(found);
     }
     void removePositions(std::int32_t first, std::int32_t end) {
-        index_.removePositions(first, end);
+        index_.renumber([&](std::int32_t position) {
+            if (position >= first && position < end) return NameIndex::absent;
+            return position < first ? position : position - (end - first);
+        });
         names_.erase(names_.begin() + first, names_.begin() + end);
         std::erase_if(expected_, [&](const auto& entry) { return entry.second >= first && entry.second < end; });
         for (auto& [name, position] : expected_) position -= position >= end ? end - first : 0;
@@ -113,7 +116,7 @@ TEST(NameIndex, EmptyOnesFindAndLoseNothing) {
         }
         index.prefetch("a");
         index.erase("a", 0);
-        index.removePositions(0, 5);
+        index.renumber([](std::int32_t) { return NameIndex::absent; });
         EXPECT_EQ(index.find("a", none), NameIndex::absent);
     }
 }

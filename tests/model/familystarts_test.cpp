@@ -1,7 +1,8 @@
-// Where families begin in a table that grows and shrinks, beside a walk over all of it.
+// Where families begin and names stand in a table that grows and shrinks, beside a walk over all of it.
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
 #include <vector>
 
 #include "interfaces/ifamilyidentity.h"
@@ -37,7 +38,7 @@ TEST(FamilyMarkTest, ObjectIsKnownByItsNumberAndNotByItsAddress) {
     EXPECT_FALSE(FamilyMark::of(&five) == nullptr);
 }
 
-TEST(FamilyStartsTest, FirstMembersAgreeWithAWalkAfterAnyEdits) {
+TEST(FamilyStartsTest, FirstMembersAndNamesAgreeWithAWalkAfterAnyEdits) {
     std::mt19937 random(771);
     const auto below = [&](std::int32_t limit) {
         return static_cast<std::int32_t>(random() % static_cast<std::uint32_t>(limit));
@@ -65,7 +66,8 @@ TEST(FamilyStartsTest, FirstMembersAgreeWithAWalkAfterAnyEdits) {
             default:
                 // Members that stand apart too, which only clients of their own make.
                 for (std::int32_t member = below(4); member >= 0; --member) {
-                    ASSERT_THAT(addFamilyRow(store, "", &family), succeeds());
+                    ASSERT_THAT(addFamilyRow(store, std::to_string(step) + '.' + std::to_string(member), &family),
+                                succeeds());
                 }
         }
         for (NumberedFamily& each : families) {
@@ -73,6 +75,10 @@ TEST(FamilyStartsTest, FirstMembersAgreeWithAWalkAfterAnyEdits) {
             std::int32_t expected = 0;
             while (expected < store.rowCount() && store.row(expected).family != mark) ++expected;
             ASSERT_EQ(store.findFamilyRow(mark), expected == store.rowCount() ? -1 : expected) << "step " << step;
+        }
+        for (std::int32_t row = 0; row < store.rowCount(); ++row) {
+            const std::string& name = store.row(row).name;
+            ASSERT_EQ(store.findRow(name), name.empty() ? -1 : row) << "step " << step;
         }
     }
 }
