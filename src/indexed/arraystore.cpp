@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "indexed/indexarguments.h"
@@ -10,10 +11,6 @@ namespace tarq {
 namespace {
 
 constexpr std::size_t mostCells = std::numeric_limits<std::int32_t>::max();
-
-std::size_t pointedDimensions(std::span<const Indexset> indexsets) {
-    return static_cast<std::size_t>(std::ranges::count_if(indexsets, &Indexset::hasPoint));
-}
 
 /// Cuts a full name into the names of elements where at most one dimension has names with points in them.
 bool splitName(std::string_view name, std::span<const Indexset> indexsets, std::vector<std::string_view>& parts) {
@@ -82,7 +79,7 @@ Outcome ArrayStore::initialize(std::vector<Indexset> indexsets) {
     }
     try {
         cells_.resize(combinations);
-        if (!indexNames()) keepByName();
+        if (!indexNames(needsIndex())) keepByName();
     } catch (...) {
         clear();
         throw;
@@ -96,18 +93,22 @@ void ArrayStore::initializeWithoutCells(std::vector<Indexset> indexsets) {
     byName_ = true;
 }
 
-/// Makes names of combinations findable; false where two combinations have the same.
-bool ArrayStore::indexNames() {
-    names_.clear();
-    isIndexed_ = false;
+/// Whether a full name doesn't tell the names of its elements.
+bool ArrayStore::needsIndex() const { return std::ranges::count_if(*dimensions_, &Indexset::hasPoint) > 1; }
+
+/// Makes the combinations findable by their names, with an index of these or without one; false, and nothing has
+/// changed, where two combinations have the same name.
+bool ArrayStore::indexNames(bool withIndex) {
     if (std::ranges::any_of(*dimensions_, &Indexset::hasDuplicates)) return false;
-    isIndexed_ = pointedDimensions(*dimensions_) > 1;
-    if (!isIndexed_) return true;
-    names_.reserve(cells_.size());
+    NameIndex names;
     const auto nameAt = [this](std::int32_t other) { return nameOf(static_cast<std::size_t>(other)); };
-    for (std::size_t combination = 0; combination < cells_.size(); ++combination) {
-        if (!names_.insert(nameOf(combination), static_cast<std::int32_t>(combination), nameAt)) return false;
+    const std::size_t combinations = withIndex ? combinationCount(sizes()) : 0;
+    names.reserve(combinations);
+    for (std::size_t combination = 0; combination < combinations; ++combination) {
+        if (!names.insert(nameOf(combination), static_cast<std::int32_t>(combination), nameAt)) return false;
     }
+    names_ = std::move(names);
+    isIndexed_ = withIndex;
     return true;
 }
 
@@ -178,9 +179,18 @@ bool ArrayStore::findPositions(std::string_view name, std::size_t& combination) 
 
 void ArrayStore::keepByName() {
     CellMap named;
+    std::vector<Variant*> places(cells_.size());
     for (std::size_t combination = 0; combination < cells_.size(); ++combination) {
-        named.try_emplace(nameOf(combination), std::move(cells_[combination]));
+        const auto [cell, isFirst] = named.try_emplace(nameOf(combination));
+        if (isFirst) places[combination] = &cell->second;
     }
+    for (std::size_t combination = 0; combination < cells_.size(); ++combination) {
+        if (places[combination] != nullptr) *places[combination] = std::move(cells_[combination]);
+    }
+    takeNamed(std::move(named));
+}
+
+void ArrayStore::takeNamed(CellMap&& named) noexcept {
     named_ = std::move(named);
     cells_ = {};
     names_.clear();
@@ -189,75 +199,107 @@ void ArrayStore::keepByName() {
 }
 
 /// Goes back to one block where every combination has a cell of its own again.
-void ArrayStore::keepInBlock() {
-    const std::size_t combinations = combinationCount(sizes());
-    if (named_.size() != combinations) return;
-    std::vector<Variant*> found(combinations);
-    for (std::size_t combination = 0; combination < combinations; ++combination) {
-        found[combination] = cellNamed(nameOf(combination));
-        if (found[combination] == nullptr) return;
-    }
-    cells_.resize(combinations);
-    if (!indexNames()) {
-        cells_ = {};
-        names_.clear();
-        isIndexed_ = false;
+void ArrayStore::keepInBlock() noexcept {
+    try {
+        const std::size_t combinations = combinationCount(sizes());
+        if (named_.size() != combinations) return;
+        std::vector<Variant> cells(combinations);
+        std::vector<Variant*> found(combinations);
+        for (std::size_t combination = 0; combination < combinations; ++combination) {
+            found[combination] = cellNamed(nameOf(combination));
+            if (found[combination] == nullptr) return;
+        }
+        if (!indexNames(needsIndex())) return;
+        for (std::size_t combination = 0; combination < combinations; ++combination) {
+            cells[combination] = std::move(*found[combination]);
+        }
+        cells_ = std::move(cells);
+        named_.clear();
+        byName_ = false;
+    } catch (const std::bad_alloc&) {  // By their names the cells are as good, if slower.
         return;
     }
-    for (std::size_t combination = 0; combination < combinations; ++combination) {
-        cells_[combination] = std::move(*found[combination]);
-    }
-    named_.clear();
-    byName_ = false;
 }
 
 void ArrayStore::rename(std::size_t dimension, std::size_t element, std::string name) {
-    if ((*dimensions_)[dimension][element] == name) return;
-    if (!canMeet(dimension, name)) {
-        ownDimensions()[dimension].rename(element, std::move(name));
-        return;
+    const std::vector<Indexset>& indexsets = *dimensions_;
+    if (indexsets[dimension][element] == name) return;
+    if (!byName_ && indexsets[dimension].find(name) == Indexset::absent) {
+        const auto hasPoint = [&](const Indexset& names) {
+            return &names != &indexsets[dimension] && names.hasPoint();
+        };
+        const bool canMeet = name.find('.') != std::string::npos && std::ranges::any_of(indexsets, hasPoint);
+        if (!isIndexed_ && !canMeet) {
+            ownDimensions()[dimension].rename(element, std::move(name));
+            return;
+        }
+        // The index stays for as long as the cells do, so that names to and fro don't make it anew.
+        if ((isIndexed_ || indexNames(true)) && renameInIndex(dimension, element, name)) return;
     }
     // Each cell takes the way to its new name on its own.
     if (!byName_) keepByName();
-    renameByName(dimension, element, name);
-    ownDimensions()[dimension].rename(element, std::move(name));
+    renameByName(dimension, element, std::move(name));
     keepInBlock();
 }
 
-/// Whether cells can have the same full name, also on the way, when an element of the dimension gets this name.
-bool ArrayStore::canMeet(std::size_t dimension, std::string_view name) const {
+/// The combinations with an element that gets another name, in their order, with both of their full names.
+std::vector<ArrayStore::Renamed> ArrayStore::renamedBy(std::size_t dimension, std::size_t element,
+                                                       const std::string& name) const {
+    // Without cells a dimension may have no elements, or more combinations than can be walked.
+    if (count() == 0) return {};
     const std::vector<Indexset>& indexsets = *dimensions_;
-    if (byName_ || isIndexed_ || indexsets[dimension].find(name) != Indexset::absent) return true;
-    if (name.find('.') == std::string_view::npos) return false;
-    for (std::size_t i = 0; i < indexsets.size(); ++i) {
-        if (i != dimension && indexsets[i].hasPoint()) return true;
-    }
-    return false;
+    std::vector<std::size_t> extents = sizes();
+    extents[dimension] = 1;
+    std::vector<std::size_t> turn(extents.size(), 0);
+    std::vector<Renamed> renamed;
+    renamed.reserve(combinationCount(extents));
+    do {
+        Renamed& one = renamed.emplace_back();
+        for (std::size_t i = 0; i < turn.size(); ++i) {
+            const std::size_t position = i == dimension ? element : turn[i];
+            one.combination = one.combination * indexsets[i].size() + position;
+            one.before.append(1, '.').append(indexsets[i][position]);
+            one.after.append(1, '.').append(i == dimension ? name : indexsets[i][position]);
+        }
+    } while (nextIndexCombination(extents, turn));
+    return renamed;
 }
 
-void ArrayStore::renameByName(std::size_t dimension, std::size_t element, const std::string& name) {
-    if (named_.empty()) return;  // a dimension may have no elements, or more combinations than can be walked
-    std::vector<Indexset> after = *dimensions_;
-    after[dimension].rename(element, name);
-    const std::vector<std::size_t> extents = sizes();
-    std::vector<std::size_t> positions(extents.size(), 0);
-    do {
-        if (positions[dimension] != element) continue;
-        const auto old = named_.find(fullIndexName({}, *dimensions_, positions));
-        if (old == named_.end()) continue;
-        Variant value = std::move(old->second);
-        named_.erase(old);
-        named_.try_emplace(fullIndexName({}, after, positions), std::move(value));
-    } while (nextIndexCombination(extents, positions));
+/// Renames in the block where each combination keeps a name of its own, on the way too; else false.
+bool ArrayStore::renameInIndex(std::size_t dimension, std::size_t element, const std::string& name) {
+    const std::vector<Renamed> renamed = renamedBy(dimension, element, name);
+    std::vector<std::string_view> names;
+    names.reserve(renamed.size());
+    for (const Renamed& one : renamed) {
+        std::size_t other = 0;
+        if (findPositions(one.after, other)) return false;
+        names.emplace_back(one.after);
+    }
+    std::ranges::sort(names);
+    if (std::ranges::adjacent_find(names) != names.end()) return false;
+    ownDimensions()[dimension].rename(element, name);
+    for (const Renamed& one : renamed) names_.erase(one.before, static_cast<std::int32_t>(one.combination));
+    for (const Renamed& one : renamed) names_.insertNew(one.after, static_cast<std::int32_t>(one.combination));
+    return true;
+}
+
+void ArrayStore::renameByName(std::size_t dimension, std::size_t element, std::string name) {
+    std::vector<Renamed> renamed = renamedBy(dimension, element, name);
+    ownDimensions()[dimension].rename(element, std::move(name));
+    for (Renamed& one : renamed) {
+        CellMap::node_type cell = named_.extract(one.before);
+        if (cell.empty()) continue;
+        cell.key() = std::move(one.after);
+        named_.insert(std::move(cell));
+    }
 }
 
 void ArrayStore::transpose() {
     const std::vector<Indexset>& before = *dimensions_;
     const std::size_t rows = before[0].size();
     const std::size_t columns = before[1].size();
-    std::vector<Indexset> after{before[1], before[0]};
-    if (isIndexed_) keepByName();  // the exchanged names can meet
-    if (!byName_) {
+    const auto after = std::make_shared<std::vector<Indexset>>(std::vector<Indexset>{before[1], before[0]});
+    if (!byName_ && !isIndexed_) {
         std::vector<Variant> cells(cells_.size());
         for (std::size_t row = 0; row < rows; ++row) {
             for (std::size_t column = 0; column < columns; ++column) {
@@ -265,20 +307,21 @@ void ArrayStore::transpose() {
             }
         }
         cells_ = std::move(cells);
-        dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(after));
+        dimensions_ = after;
         return;
     }
+    // The exchanged names can meet.
     CellMap named;
-    for (std::size_t row = 0; row < rows && !named_.empty(); ++row) {
+    for (std::size_t row = 0; row < rows && count() > 0; ++row) {
         for (std::size_t column = 0; column < columns; ++column) {
             const std::size_t there[] = {row, column};
             const std::size_t here[] = {column, row};
             if (const Variant* const value = cell(there))
-                named.insert_or_assign(fullIndexName({}, after, here), *value);
+                named.insert_or_assign(fullIndexName({}, *after, here), *value);
         }
     }
-    named_ = std::move(named);
-    dimensions_ = std::make_shared<std::vector<Indexset>>(std::move(after));
+    takeNamed(std::move(named));
+    dimensions_ = after;
     keepInBlock();
 }
 

@@ -55,30 +55,41 @@ public:
     template <class Use>
     void forEachCell(const Use& use);
 
-    /// Gives an element another name. A cell whose new full name is another cell's is dropped.
+    /// Gives an element another name. A cell whose new full name is another cell's is dropped. Costs what the cells of
+    /// the element do, and a pass over all cells where names begin or end to tell two apart. When memory runs out no
+    /// cell is lost and every name is as it was.
     void rename(std::size_t dimension, std::size_t element, std::string name);
-    /// Exchanges the two dimensions.
+    /// Exchanges the two dimensions. When memory runs out nothing has changed.
     void transpose();
 
 private:
     using CellMap = std::map<std::string, Variant, std::less<>>;
+    struct Renamed {
+        std::size_t combination = 0;
+        std::string before;
+        std::string after;
+    };
 
     [[nodiscard]] static Dimensions noDimensions();
     [[nodiscard]] std::vector<Indexset>& ownDimensions();
-    [[nodiscard]] bool canMeet(std::size_t dimension, std::string_view name) const;
     [[nodiscard]] std::string nameOf(std::size_t combination) const;
     [[nodiscard]] std::vector<std::size_t> positionsOf(std::size_t combination) const;
-    [[nodiscard]] bool indexNames();
+    [[nodiscard]] bool needsIndex() const;
+    [[nodiscard]] bool indexNames(bool withIndex);
     [[nodiscard]] bool findPositions(std::string_view name, std::size_t& combination) const;
     void keepByName();
-    void keepInBlock();
-    void renameByName(std::size_t dimension, std::size_t element, const std::string& name);
+    void takeNamed(CellMap&& named) noexcept;
+    void keepInBlock() noexcept;
+    [[nodiscard]] std::vector<Renamed> renamedBy(std::size_t dimension, std::size_t element,
+                                                 const std::string& name) const;
+    [[nodiscard]] bool renameInIndex(std::size_t dimension, std::size_t element, const std::string& name);
+    void renameByName(std::size_t dimension, std::size_t element, std::string name);
 
     Dimensions dimensions_ = noDimensions();  ///< made as changeable ones, see ownDimensions
     std::vector<Variant> cells_;
     bool byName_ = false;
     CellMap named_;
-    NameIndex names_;  ///< of combinations, where a name doesn't tell its parts; else empty
+    NameIndex names_;  ///< of combinations, where a name doesn't tell its parts, or did not; else empty
     bool isIndexed_ = false;
 };
 

@@ -51,19 +51,26 @@ void Indexset::index(std::size_t position) {
 
 void Indexset::rename(std::size_t position, std::string name) {
     const bool isUnique = duplicates_ == 0 && find(name) == absent;
-    pointed_ -= isPointed(names_[position]) ? 1U : 0U;
-    pointed_ += isPointed(name) ? 1U : 0U;
+    const auto pointed = pointed_ - (isPointed(names_[position]) ? 1U : 0U) + (isPointed(name) ? 1U : 0U);
     if (isUnique) {
         index_.erase(names_[position], static_cast<std::int32_t>(position));
-        names_[position] = std::move(name);
-        index(position);
-        return;
+        index_.insertNew(name, static_cast<std::int32_t>(position));
+    } else {
+        // Another element of the old name, or one behind this of the new name, may now be the first of its name.
+        const auto nameOf = [&](std::int32_t other) -> const std::string& {
+            return static_cast<std::size_t>(other) == position ? name : names_[static_cast<std::size_t>(other)];
+        };
+        NameIndex index;
+        index.reserve(names_.size());
+        std::size_t duplicates = 0;
+        for (std::int32_t i = 0; i < static_cast<std::int32_t>(names_.size()); ++i) {
+            duplicates += index.insert(nameOf(i), i, nameOf) ? 0U : 1U;
+        }
+        index_ = std::move(index);
+        duplicates_ = duplicates;
     }
-    // Another element of the old name, or one behind this of the new name, may now be the first of its name.
+    pointed_ = pointed;
     names_[position] = std::move(name);
-    index_.clear();
-    duplicates_ = 0;
-    for (std::size_t i = 0; i < names_.size(); ++i) index(i);
 }
 
 Indexset Indexset::numbered(std::int32_t count) {

@@ -37,7 +37,7 @@ public:
     void reserve(std::size_t count);
     /// Appends a name, which may be there already.
     void append(std::string name);
-    /// Gives an element another name, which other elements may have too.
+    /// Gives an element another name, which other elements may have too. When memory runs out nothing has changed.
     void rename(std::size_t position, std::string name);
 
     /// The names "1" to "count".
