@@ -1,7 +1,9 @@
 // CTARQRCSEnumBase: what the enumerators over families of columns and of rows have in common, which is all but names.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -59,10 +61,13 @@ public:
 
     Status get_Count(std::int32_t* value) override {
         if (value == nullptr) return status::nullPointer;
-        return guarded(classId, [&] {
-            Outcome ready = this->requireInitialized();
-            if (ready.isOk()) *value = static_cast<std::int32_t>(this->walk_.count());
-            return ready;
+        return guarded(classId, [&]() -> Outcome {
+            if (Outcome ready = this->requireInitialized(); !ready.isOk()) return ready;
+            // A family that Init found too large still has its dimensions.
+            const std::size_t count = this->walk_.count();
+            if (count > std::numeric_limits<std::int32_t>::max()) return status::outOfMemory;
+            *value = static_cast<std::int32_t>(count);
+            return {};
         });
     }
     Status get_ItemName(std::int32_t ItemIndex, std::string* value) override {

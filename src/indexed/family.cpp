@@ -63,13 +63,15 @@ Outcome Family::init(IUnknown* model, const std::string& name, const ValueList& 
     if (isInitialized()) return alreadyInitialized();
     Ref<ITARQModel> offered = Ref<IUnknown>(model).query<ITARQModel>();
     if (!offered) return {status::wrongState, "First parameter is no TARQModel."};
-    model_ = std::move(offered);
+    model_ = offered;
     if (utf16Length(name) > longestName) return {status::invalidArgument, "Name is too long."};
     name_ = name;
     std::vector<Indexset> dimensions;
     Outcome read = readIndexsetList(indexsets, dimensions);
-    // An object that was read may have called this family.
+    // An object that was read may have called this family, and given it another model or name for a while.
     if (isInitialized()) return alreadyInitialized();
+    model_ = std::move(offered);
+    name_ = name;
     dimensions_ = std::make_shared<const std::vector<Indexset>>(std::move(dimensions));
     return read.isOk() ? addMembers() : read;
 }
@@ -83,22 +85,24 @@ void Family::countMembers() {
 Outcome Family::addMembers() {
     const auto dimensions = dimensions_;
     const Ref<ITARQModel> model = model_;
+    const std::string name = name_;
     countMembers();
-    return walkMembers(*dimensions, name_, [&](std::size_t /*ordinal*/, const std::string& member) -> Outcome {
+    return walkMembers(*dimensions, name, [&](std::size_t /*ordinal*/, const std::string& member) -> Outcome {
         if (const Status added = (model.get()->*side_.add)(&member, self_); !added.isOk()) return added;
-        if (dimensions_ != dimensions) return changedMeanwhile();
+        if (dimensions_ != dimensions || name_ != name) return changedMeanwhile();
         ++addedCount_;
         return {};
     });
 }
 
 Outcome Family::clear() {
+    Dimensions none = std::make_shared<const std::vector<Indexset>>();
     const Ref<ITARQModel> model = model_;
     if (model) {
         if (const Status cleared = (model.get()->*side_.clear)(self_); !cleared.isOk()) return cleared;
     }
     name_.clear();
-    dimensions_ = std::make_shared<const std::vector<Indexset>>();
+    dimensions_ = std::move(none);
     memberCount_ = 0;
     addedCount_ = 0;
     return {};

@@ -266,6 +266,10 @@ TYPED_TEST(FamilyStateTest, FamilyTooLargeForAnyModelAddsNothing) {
     const std::array<Variant, 5> i = indices();
     EXPECT_EQ(other->put_UB(i[0], i[1], i[2], i[3], i[4], Variant(1)), TypeParam::gone);
     EXPECT_EQ(other->put_Name("z"), status::outOfMemory);
+    Ref<IUnknown> walk;
+    ASSERT_THAT(other->get__NewEnum(&walk), succeeds());
+    std::int32_t number = 0;
+    EXPECT_EQ(walk.query<typename TypeParam::Enumerator>()->get_Count(&number), status::outOfMemory);
     EXPECT_THAT(other->Clear(), succeeds());
     this->expectUninitialized(other);
 }
@@ -315,6 +319,14 @@ TYPED_TEST(FamilyStateTest, ValueThatChangesTheFamilyWhileItIsReadWritesNothing)
     std::string name;
     EXPECT_THAT(other->get_Name(&name), succeeds());
     EXPECT_EQ(name, "z");
+    ASSERT_THAT(other->Clear(), succeeds());
+    const auto elsewhere = createObject<ITARQModel>("TARQModel");
+    const Variant inBetween = objectOf<CallingWalk>([&] {
+        EXPECT_THAT(other->Init(elsewhere.get(), "v", listOf(1)), succeeds());
+        EXPECT_THAT(other->Clear(), succeeds());
+    });
+    EXPECT_THAT(other->Init(this->model.get(), "w", ValueList({inBetween})), succeeds());
+    EXPECT_EQ(this->modelNames(), "first second y.1 y.2 y.3 w.1");
 }
 
 }  // namespace
