@@ -5,12 +5,13 @@
 
 #include "frame/countedobject.h"
 #include "frame/ienumvariant.h"
+#include "indexed/iserieslength.h"
 #include "indexed/serieswalk.h"
 #include "interfaces/itarqseriesenum.h"
 
 namespace tarq {
 
-class CTARQSeriesEnum final : public CountedObject<CTARQSeriesEnum, ITARQSeriesEnum, IEnumVARIANT> {
+class CTARQSeriesEnum final : public CountedObject<CTARQSeriesEnum, ITARQSeriesEnum, IEnumVARIANT, ISeriesLength> {
 public:
     Status Init(double Start, double End, double Step) override;
 
@@ -20,6 +21,9 @@ public:
     Status Skip(std::uint32_t count) override;
     Status Reset() override;
     Status Clone(IEnumVARIANT** copy) override;
+
+    const IUnknown* published() const override { return static_cast<const ITARQSeriesEnum*>(this); }
+    std::int32_t memberCount() const override { return walk_.range.count(); }
 
 private:
     SeriesWalk walk_;

@@ -29,7 +29,7 @@ Outcome readObject(IUnknown* object, Indexset& names) {
     ValueSource source;
     if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
     if (!source.offered) return refused("Passed object cannot be used as an index set.");
-    return walkValues(source, [&](const Variant& value) { return addIndexElement(value, names); });
+    return walkIntoList(source, names, [&](const Variant& value) { return addIndexElement(value, names); });
 }
 
 /// One entry of a list of dimensions.

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <string>
+#include <type_traits>
 
+#include "frame/memberguard.h"
 #include "frame/objecterror.h"
+#include "indexed/iserieslength.h"
 #include "interfaces/itarqarray.h"
 #include "interfaces/itarqarrayenum.h"
 #include "interfaces/itarqseries.h"
@@ -23,6 +26,9 @@ Outcome openCollection(const Ref<IUnknown>& object, ValueSource& source) {
     Ref<IUnknown> made;
     Outcome asked = askObject([&] { return collection->get__NewEnum(&made); });
     source.enumerator = made.query<IEnumVARIANT>();
+    if constexpr (std::is_same_v<Interface, ITARQSeries>) {
+        if (!contained([&] { return collection->get_Count(&source.memberCount); }).isOk()) source.memberCount = 0;
+    }
     return asked;
 }
 
@@ -30,7 +36,12 @@ Outcome openCollection(const Ref<IUnknown>& object, ValueSource& source) {
 template <class Interface>
 Outcome openEnumerator(const Ref<IUnknown>& object, ValueSource& source) {
     source.offered = offersAny<Interface>(object);
-    if (source.offered) source.enumerator = object.query<IEnumVARIANT>();
+    if (!source.offered) return {};
+    source.enumerator = object.query<IEnumVARIANT>();
+    if constexpr (std::is_same_v<Interface, ITARQSeriesEnum>) {
+        const auto length = ownPartOf<ISeriesLength>(object.query<Interface>());
+        if (length) source.memberCount = length->memberCount();
+    }
     return {};
 }
 

@@ -1,8 +1,10 @@
 // Walking the values of the objects that have some: sets, series, arrays, and their enumerators.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -19,6 +21,7 @@ namespace tarq {
 struct ValueSource {
     bool offered = false;            ///< the object is one of those that have values
     bool isSeries = false;           ///< a sequence in which no two neighbours are equal
+    std::int32_t memberCount = 0;    ///< of a series that tells it; the most that 32 bits hold where it has no end
     Ref<IEnumVARIANT> enumerator{};  ///< set, and reset, where it has been opened
 };
 
@@ -41,6 +44,11 @@ template <class... Interfaces>
 /// failing Next ends the walk as a failing Reset does; so does a series whose step is too small to make headway.
 template <class Take>
 Outcome walkValues(const ValueSource& source, const Take& take);
+
+/// Walks values that `take` appends to a list. A series that no list can hold ends as soon as it makes headway, with
+/// std::bad_alloc, and not after it has filled all memory.
+template <class List, class Take>
+Outcome walkIntoList(const ValueSource& source, List& list, const Take& take);
 
 /// What an object says of a failure of its own that has just been returned: the calling thread's record, or the meaning
 /// of the status where the object left none. A record from before the call must have been cleared.
@@ -75,6 +83,19 @@ Outcome walkValues(const ValueSource& source, const Take& take) {
         last = number;
     }
     return status::outOfMemory;
+}
+
+template <class List, class Take>
+Outcome walkIntoList(const ValueSource& source, List& list, const Take& take) {
+    std::int32_t taken = 0;
+    return walkValues(source, [&](Variant value) {
+        if (source.memberCount > taken && taken == 2) {
+            if (source.memberCount == std::numeric_limits<std::int32_t>::max()) throw std::bad_alloc();
+            list.reserve(static_cast<std::size_t>(source.memberCount));
+        }
+        ++taken;
+        return take(std::move(value));
+    });
 }
 
 }  // namespace tarq

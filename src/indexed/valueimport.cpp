@@ -15,7 +15,6 @@
 #include "indexed/plainvalue.h"
 #include "indexed/spreadsheetrange.h"
 #include "interfaces/itarqarray.h"
-#include "interfaces/itarqseries.h"
 
 namespace tarq {
 namespace {
@@ -227,13 +226,6 @@ Outcome checkArray(const Ref<IUnknown>& object, ITARQArray& array, std::span<con
     return cellsOf(object) ? Outcome() : checkArrayBlock(array, shape, target);
 }
 
-/// Room for the members of a series at once: one too long for any memory ends here and not after hours.
-void reserveForSeries(const Ref<IUnknown>& object, std::vector<Variant>& values) {
-    const Ref<ITARQSeries> series = object.query<ITARQSeries>();
-    std::int32_t count = 0;
-    if (series && series->get_Count(&count).isOk() && count > 0) values.reserve(static_cast<std::size_t>(count));
-}
-
 }  // namespace
 
 Outcome appendArrayValues(const SafeArray& array, Kind target, std::vector<Variant>& values) {
@@ -250,8 +242,8 @@ Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>&
     ValueSource source;
     if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
     if (source.offered) {
-        if (source.isSeries) reserveForSeries(held, values);
-        return walkValues(source, [&](Variant value) { return appendConverted(std::move(value), target, values); });
+        return walkIntoList(source, values,
+                            [&](Variant value) { return appendConverted(std::move(value), target, values); });
     }
     const SpreadsheetRange range(object);
     if (!range) return refused("Passed object is not allowed.");

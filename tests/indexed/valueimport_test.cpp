@@ -154,6 +154,15 @@ TEST(ValueImport, ASeriesWithoutEndIsRefused) {
     std::vector<Variant> values;
     EXPECT_THAT(collectObjectValues(stuck.query<IUnknown>().get(), Kind::Empty, values),
                 failsWith(status::invalidArgument, "Step of series is too small."));
+    const Ref<ITARQArray> array = newArray(listOf(1));
+    for (const double end : {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        const Ref<ITARQSeries> endless = newSeries(1, end);
+        EXPECT_EQ(array->Init(listOf(endless)), status::outOfMemory);
+        EXPECT_EQ(array->Init(listOf(enumeratorOf(endless))), status::outOfMemory);
+        EXPECT_THROW((void)collectObjectValues(enumeratorOf(endless).get(), Kind::Double, values), std::bad_alloc);
+        EXPECT_THAT(array->Init(listOf(newSeries(0.5, end))), raisesAs(classid::TARQArray, status::invalidArgument,
+                                                                       "Only whole numbers allowed as index value."));
+    }
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     // The sanitizers end the process where memory runs out.
     const Ref<ITARQSeries> huge = make<CTARQSeries, ITARQSeries>();
