@@ -12,8 +12,9 @@ public:
     DynamicLibrary() = default;
 
     /// Loads `name`, a path or a plain name. A plain name is looked up beside this component's own library first, then
-    /// by the platform's ordinary search; where the literal file is not there, NAME.dll stands for libNAME.so. The
-    /// result is empty when nothing could be loaded.
+    /// by the platform's ordinary search; where the literal file is not there, NAME.dll stands for libNAME.so, in any
+    /// case of letters where that isn't there either. The result is empty when nothing could be loaded, also of a file
+    /// that was cut short, with which the loader would end the process.
     static DynamicLibrary load(const std::string& name);
 
     /// Gives back one load. True when the platform agreed.

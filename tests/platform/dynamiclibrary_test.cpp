@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -21,8 +22,8 @@ bool probeIsLoaded() {
 
 TEST(DynamicLibraryTest, LibraryBesideTheComponentIsFoundUnderItsNames) {
     for (const std::string& name :
-         {std::string("libPlatformProbe.so"), std::string("PlatformProbe.dll"), std::string("PlatformProbe.DLL"),
-          probePath, probeDirectory + "/PlatformProbe.Dll"}) {
+         {std::string("libPlatformProbe.so"), std::string("PlatformProbe.dll"), std::string("PLATFORMPROBE.DLL"),
+          probePath, probeDirectory + "/platformprobe.Dll"}) {
         DynamicLibrary library = DynamicLibrary::load(name);
         ASSERT_TRUE(library) << name;
         const auto answer = reinterpret_cast<int (*)()>(library.symbol("probeAnswer"));
@@ -49,12 +50,23 @@ TEST(DynamicLibraryTest, EveryLoadIsGivenBackOnItsOwn) {
 TEST(DynamicLibraryTest, WhatIsNoLibraryGivesAnEmptyHandle) {
     const std::string withZero("libPlatformProbe.so\0x", 21);
     for (const std::string& name :
-         {std::string(), std::string(".dll"), std::string("nosuch.dll"), withZero, std::string("platformprobe.dll"),
+         {std::string(), std::string(".dll"), std::string("nosuch.dll"), withZero, std::string("libplatformprobe.so"),
           probeDirectory, probeDirectory + "/nosuch.dll", std::string("/nowhere/PlatformProbe.dll")}) {
         const DynamicLibrary library = DynamicLibrary::load(name);
         EXPECT_FALSE(library) << name;
         EXPECT_EQ(library.symbol("probeAnswer"), nullptr);
     }
+}
+
+TEST(DynamicLibraryTest, LibraryThatWasCutShortIsRefusedAndEndsNothing) {
+    const std::string path = testing::TempDir() + "tarq-cut-library.so";
+    const std::uintmax_t whole = std::filesystem::file_size(probePath);
+    for (std::uintmax_t size = 0; size < whole * 3 / 4; size += 500) {
+        std::filesystem::copy_file(probePath, path, std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::resize_file(path, size);
+        EXPECT_FALSE(DynamicLibrary::load(path)) << size;
+    }
+    std::filesystem::remove(path);
 }
 
 TEST(DynamicLibraryTest, LiteralFileIsNotReplacedByTheNativeOne) {

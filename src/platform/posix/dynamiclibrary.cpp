@@ -4,8 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
+
+#include "platform/posix/libraryfile.h"
 
 namespace tarq {
 namespace {
@@ -29,20 +32,40 @@ const fs::path& ownDirectory() {
     return directory;
 }
 
-bool endsWithDll(std::string_view name) {
-    constexpr std::string_view extension = ".dll";
-    if (name.size() <= extension.size()) return false;
-    name.remove_prefix(name.size() - extension.size());
-    return std::ranges::equal(name, extension, [](char found, char wanted) {
-        return (found >= 'A' && found <= 'Z' ? found - 'A' + 'a' : found) == wanted;
-    });
+char lowerCase(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+
+bool isSameInAnyCase(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, {}, &lowerCase, &lowerCase);
 }
 
 /// The name that a conventional one stands for here, libNAME.so for NAME.dll; empty for other names.
 fs::path nativeName(const fs::path& path) {
+    constexpr std::size_t length = 4;
     const std::string file = path.filename().string();
-    if (!endsWithDll(file)) return {};
-    return path.parent_path() / ("lib" + file.substr(0, file.size() - 4) + ".so");
+    if (file.size() <= length || !isSameInAnyCase(file.substr(file.size() - length), ".dll")) return {};
+    return path.parent_path() / ("lib" + file.substr(0, file.size() - length) + ".so");
+}
+
+/// The file of this name, or else the one of this name in other case, the first of several; empty where there is none.
+fs::path findInAnyCase(const fs::path& path) {
+    std::error_code error;
+    if (path.empty() || fs::exists(path, error)) return path;
+    const std::string name = path.filename().string();
+    fs::path found;
+    const fs::directory_iterator end;
+    for (fs::directory_iterator entry(path.parent_path(), error); !error && entry != end; entry.increment(error)) {
+        const fs::path& present = entry->path();
+        if (!isSameInAnyCase(present.filename().string(), name)) continue;
+        if (found.empty() || present < found) found = present;
+    }
+    return found;
+}
+
+/// The same for the loader's own search, which can be asked for whole names only.
+fs::path inLowerCase(const fs::path& path) {
+    std::string name = path.string();
+    std::ranges::transform(name, name.begin(), &lowerCase);
+    return name;
 }
 
 void* open(const fs::path& path) { return path.empty() ? nullptr : dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL); }
@@ -50,20 +73,19 @@ void* open(const fs::path& path) { return path.empty() ? nullptr : dlopen(path.c
 /// Opens a file that is known to be there. The loader would wait for ever at a pipe that nobody writes to.
 void* openExisting(const fs::path& path) {
     std::error_code error;
-    return fs::is_regular_file(path, error) ? open(path) : nullptr;
+    return fs::is_regular_file(path, error) && !isCutShort(path) ? open(path) : nullptr;
 }
 
 /// Opens a path with a directory; a file that is there but no library ends the attempt.
 void* openFile(const fs::path& path, bool& isThere) {
     std::error_code error;
-    const fs::path native = nativeName(path);
-    if (fs::exists(path, error)) {
-        isThere = true;
-        return openExisting(path);
-    }
-    isThere = !native.empty() && fs::exists(native, error);
-    return isThere ? openExisting(native) : nullptr;
+    const fs::path file = fs::exists(path, error) ? path : findInAnyCase(nativeName(path));
+    isThere = !file.empty();
+    return isThere ? openExisting(file) : nullptr;
 }
+
+/// Opens a plain name by the loader's search.
+void* openSearched(const fs::path& name) { return findsCutShort(name) ? nullptr : open(name); }
 
 }  // namespace
 
@@ -78,8 +100,9 @@ DynamicLibrary DynamicLibrary::load(const std::string& name) {
     }
     if (!ownDirectory().empty()) library.handle_ = openFile(ownDirectory() / path, isThere);
     if (isThere) return library;
-    library.handle_ = open(path);
-    if (library.handle_ == nullptr) library.handle_ = open(nativeName(path));
+    for (const fs::path& searched : {path, nativeName(path), inLowerCase(nativeName(path))}) {
+        if (library.handle_ == nullptr && !searched.empty()) library.handle_ = openSearched(searched);
+    }
     return library;
 }
 

@@ -10,6 +10,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdint>
+#include <exception>
 #include <mutex>
 #include <new>
 #include <thread>
@@ -153,6 +154,8 @@ void* runBody(void* argument) {
     sigemptyset(&parkable);
     sigaddset(&parkable, parkingSignal());
     pthread_sigmask(SIG_UNBLOCK, &parkable, nullptr);
+    // Makes what the runtime keeps for a thread that throws, for which there may be no memory when it does.
+    (void)std::uncaught_exceptions();
     (*body)();
     return nullptr;
 }
