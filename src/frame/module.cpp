@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "frame/objecterror.h"
+
 namespace tarq::module {
 namespace {
 
@@ -15,7 +17,11 @@ constexpr auto acquireRelease = std::memory_order_acq_rel;
 
 }  // namespace
 
-void objectBorn() noexcept { objects.fetch_add(1, relaxed); }
+void objectBorn() noexcept {
+    objects.fetch_add(1, relaxed);
+    // The thread's record is made early: failures for lack of memory need it too.
+    (void)lastError();
+}
 // What the object's last user did must have happened before somebody unloads the module.
 void objectDied() noexcept { objects.fetch_sub(1, acquireRelease); }
 void lock() noexcept { locks.fetch_add(1, relaxed); }

@@ -1,7 +1,7 @@
 // ObjectError: the failure record of a thread, and raise, the last act of an operation that fails.
 //
 // A failure is raised once, where it is worded; callers hand its status on. The record stays until the thread's next
-// raise or clearLastError.
+// raise or clearLastError. Where there is no memory for a thread's record, its failures have no description.
 #pragma once
 
 #include <optional>
