@@ -18,14 +18,20 @@ std::vector<MemberInfo> members() {
             "Adds a column behind the last one. Bounds are clamped to infinity; a Binary column has "
             "bounds 0 and 1.",
             "LB", "UB", "Type", optional("Cost"), optional("Name")),
-        method<&ITARQModel::AddVar>(
-            "AddVar", "Adds a column from a detached column object and attaches the object to it.", "TARQVar"),
+        method<&ITARQModel::AddVar>("AddVar",
+                                    "Adds a column with the data of a column object, which may stand for a column of "
+                                    "this or another model, and "
+                                    "attaches the object to the new column.",
+                                    "TARQVar"),
         method<&ITARQModel::AddNZ>("AddNZ", "Add a nonzero to an exististing nonzero or stores a new nonzero.", "Row",
                                    "Col", "newVal"),
         method<&ITARQModel::AddRow>("AddRow", "Adds a row behind the last one, with bounds clamped to infinity.", "LB",
                                     "UB", optional("Name")),
-        method<&ITARQModel::AddRes>("AddRes", "Adds a row from a detached row object and attaches the object to it.",
-                                    "TARQRes"),
+        method<&ITARQModel::AddRes>(
+            "AddRes",
+            "Adds a row with the bounds and the name of a row object, which may stand for a row of this or another "
+            "model, and attaches the object to the new row.",
+            "TARQRes"),
         method<&ITARQModel::AttachVar>("AttachVar", "Makes a column object stand for a column.", "TARQVar", "Index"),
         method<&ITARQModel::AttachRes>("AttachRes", "Makes a row object stand for a row.", "TARQRes", "Index"),
         method<&ITARQModel::AutoRenameVariables>(
@@ -52,11 +58,7 @@ std::vector<MemberInfo> members() {
                                                 "A named value of a parameter; both numbers count from 1.",
                                                 "lParameterID", "lOptionID", "lpOptionValue", "bsOptionName"),
         flagged(blocking, method<&ITARQModel::KillThread>("KillThread",
-                                                          "Kills running thread. Dangerous function, avoid usage. The "
-                                                          "thread stops where it is, at the latest after a few "
-                                                          "seconds, and never runs again: its memory, what it holds "
-                                                          "locked and the engine stay as they are, no event "
-                                                          "comes, and later runs may fail.")),
+                                                          "Kills running thread. Dangerous function, avoid usage.")),
         flagged(blocking, method<&ITARQModel::Optimize>(
                               "Optimize",
                               "Runs the engine on the calling thread. 0x00042001: a resource limit ended it, "
