@@ -18,6 +18,7 @@
 #include "interfaces/classids.h"
 #include "interfaces/enumerations.h"
 #include "interfaces/enumerationtables.h"
+#include "interfaces/ireadingnotes.h"
 #include "interfaces/itarqarray.h"
 #include "interfaces/itarqarrayenum.h"
 #include "interfaces/itarqmodel.h"

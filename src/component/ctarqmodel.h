@@ -19,6 +19,7 @@
 #include "frame/objecterror.h"
 #include "frame/supporterrorinfo.h"
 #include "interfaces/classids.h"
+#include "interfaces/ireadingnotes.h"
 #include "interfaces/itarqmodel.h"
 #include "interfaces/itarqmodelevents.h"
 #include "model/modelstore.h"
@@ -28,14 +29,17 @@
 namespace tarq {
 
 // Two members are published with a leading underscore and a capital, and the last reference alone may delete the
-class CTARQModel final : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo>,
-                         private ModelFileTarget {
+class CTARQModel final
+    : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo, IReadingNotes>,
+      private ModelFileTarget {
 public:
     CTARQModel() = default;
     Status finalConstruct();
 
     Status FindConnectionPoint(const Guid& interfaceId, IConnectionPoint** point) override;
     Status InterfaceSupportsErrorInfo(const Guid& interfaceId) override;
+
+    ReadingNotes readingNotes() const override { return readingNotes_; }
 
     Status Test() override;
     Status AddCol(double LB, double UB, TARQColType Type, const Variant& Cost, const Variant& Name) override;
@@ -173,6 +177,7 @@ private:
     void clearModel() override;
     void setModelName(std::string name) override { modelName_ = std::move(name); }
     void setParameter(std::string_view name, std::string_view value) override;
+    void setReadingNotes(const ReadingNotes& notes) override { readingNotes_ = notes; }
 
     void resetSolution();
     RunModel runModel();
@@ -184,6 +189,7 @@ private:
 
     std::string objectName_;
     std::string modelName_;
+    ReadingNotes readingNotes_;
     std::string locationOfMathProgDll_ = "mathprog.dll";
     std::string locationOfAmplExe_ = "ampl.exe";
     std::string locationOfTarqAmplExe_ = "tarqampl.exe";

@@ -42,6 +42,7 @@ void CTARQModel::clearModel() {
     resetSolution();
     std::string().swap(amplOutputBuffer_);  // an assignment would keep the memory
     for (const std::string_view name : vectorNames) setParameter(name, "");
+    readingNotes_ = {};
 }
 
 void CTARQModel::setParameter(std::string_view name, std::string_view value) {

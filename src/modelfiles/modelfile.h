@@ -9,6 +9,7 @@
 
 #include "frame/status.h"
 #include "interfaces/enumerations.h"
+#include "interfaces/ireadingnotes.h"
 #include "model/modelstore.h"
 
 namespace tarq {
@@ -22,6 +23,8 @@ public:
     virtual void setModelName(std::string name) = 0;
     /// Stores a text in a solver parameter, through the same checks as a client's put.
     virtual void setParameter(std::string_view name, std::string_view value) = 0;
+    /// Told at the end of a file that was read whole, by readers that have something to note.
+    virtual void setReadingNotes(const ReadingNotes& /*notes*/) {}
 
 protected:
     ~ModelFileTarget() = default;

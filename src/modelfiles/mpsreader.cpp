@@ -80,6 +80,7 @@ public:
     std::size_t lineNumber() const { return scanner_.currentLineNumber(); }
     void dropText() { scanner_.dropText(); }
     void storeNonzeros() { target_.storeNonzeros(); }
+    ReadingNotes readingNotes() const { return target_.readingNotes(); }
 
 private:
     using ApplyToRow = void (MpsTarget::*)(std::int32_t rowPosition, double value);
@@ -345,6 +346,7 @@ std::optional<ParseFailure> readMps(std::string text, ModelFileTarget& model) {
     const Failure failure = reader.read();
     std::optional<ParseFailure> told;
     if (!failure.empty()) told = ParseFailure{std::string(failure), reader.lineNumber()};
+    if (!told) model.setReadingNotes(reader.readingNotes());
     // The nonzeros take their room in the store when the text has given its room back.
     reader.dropText();
     reader.storeNonzeros();

@@ -27,6 +27,8 @@ constexpr std::array<MpsBoundType, 9> boundTypes{{
 /// No file makes the reader take much memory by what it seems to hold.
 constexpr std::size_t largestGuess = 1'000'000;
 
+bool isEmptyInterval(const ColumnRecord& column) { return column.lowerBound == 0.0 && column.upperBound < 0.0; }
+
 MpsRowType typeOf(const RowRecord& row) { return static_cast<MpsRowType>(static_cast<int>(row.dual)); }
 
 }  // namespace
@@ -64,8 +66,10 @@ std::int32_t MpsTarget::findOrAddColumn(FixedName name, bool binary) {
     column.upperBound = binary ? 1.0 : store_.infinity();
     column.type = binary ? TARQColType::Binary : TARQColType::Continuous;
     // Most columns are new: the store finds out whether this one is while it adds it.
-    if (store_.addColumnRecord(std::move(column)).isOk()) return store_.columnCount() - 1;
-    return store_.findColumn(name.text());
+    if (!store_.addColumnRecord(std::move(column)).isOk()) return store_.findColumn(name.text());
+    const std::int32_t position = store_.columnCount() - 1;
+    if (binary) markUpperBound(position, UpperBound::OfIntegerBlock);
+    return position;
 }
 
 void MpsTarget::applyRightHandSide(std::int32_t rowPosition, double value) {
@@ -91,12 +95,35 @@ void MpsTarget::applyRange(std::int32_t rowPosition, double value) {
 
 void MpsTarget::applyBound(std::int32_t columnPosition, const MpsBoundType& type, double value) {
     ColumnRecord& column = store_.column(columnPosition);
+    const bool wasEmpty = isEmptyInterval(column);
     setSide(column.lowerBound, type.lower, value, -store_.infinity());
     setSide(column.upperBound, type.upper, value, store_.infinity());
     if (type.change == Change::ToBinary) column.type = TARQColType::Binary;
     const bool toInteger = type.change == Change::AnyToInteger ||
                            (type.change == Change::BinaryToInteger && column.type == TARQColType::Binary);
     if (toInteger && value != type.plainValue) column.type = TARQColType::Integer;
+    emptyIntervals_ += (isEmptyInterval(column) ? 1 : 0) - (wasEmpty ? 1 : 0);
+    if (type.upper == Side::Keep) return;
+    markUpperBound(columnPosition,
+                   type.lower == Side::Infinite && type.upper == Side::Zero ? UpperBound::OfMi : UpperBound::Told);
+}
+
+void MpsTarget::markUpperBound(std::int32_t columnPosition, UpperBound origin) {
+    const auto position = static_cast<std::size_t>(columnPosition);
+    if (position >= upperBounds_.size()) {
+        if (origin == UpperBound::Told) return;
+        upperBounds_.resize(position + 1, UpperBound::Told);
+    }
+    upperBounds_[position] = origin;
+}
+
+ReadingNotes MpsTarget::readingNotes() const {
+    const auto count = [&](UpperBound origin) {
+        return static_cast<std::int32_t>(std::count(upperBounds_.begin(), upperBounds_.end(), origin));
+    };
+    return {.upperBoundsSetByMi = count(UpperBound::OfMi),
+            .lowerBoundsAboveUpper = emptyIntervals_,
+            .integersUpToOne = count(UpperBound::OfIntegerBlock)};
 }
 
 void MpsTarget::setSide(double& bound, MpsSide side, double value, double infinite) const {

@@ -6,7 +6,9 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
+#include "interfaces/ireadingnotes.h"
 #include "model/modelstore.h"
 #include "model/nonzeroloader.h"
 #include "modelfiles/columnfinder.h"
@@ -78,13 +80,22 @@ public:
     /// The two bounds aren't compared with each other.
     void applyBound(std::int32_t columnPosition, const MpsBoundType& type, double value);
 
+    /// What other programs may read differently in the columns and bounds so far.
+    [[nodiscard]] ReadingNotes readingNotes() const;
+
 private:
+    /// Where the upper bound of a column comes from.
+    enum class UpperBound : std::uint8_t { Told, OfIntegerBlock, OfMi };
+
+    void markUpperBound(std::int32_t columnPosition, UpperBound origin);
     void setSide(double& bound, MpsSide side, double value, double infinite) const;
 
     ModelStore& store_;
     FixedNameTable rows_;
     ColumnFinder finder_{store_};
     NonzeroLoader nonzeros_;
+    std::vector<UpperBound> upperBounds_;  ///< columns behind its end have theirs from a line, or none
+    std::int32_t emptyIntervals_ = 0;      ///< columns from 0 to less than 0
 };
 
 }  // namespace tarq

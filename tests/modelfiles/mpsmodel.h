@@ -38,6 +38,8 @@ struct MpsModel final : ModelFileTarget {
         parameters.emplace_back(parameter, value);
     }
 
+    void setReadingNotes(const ReadingNotes& told) override { notes = told; }
+
     Outcome read(std::string text, TARQFileFormatType format = TARQFileFormatType::MPS) {
         return readModelText(std::move(text), format, *this);
     }
@@ -56,6 +58,7 @@ struct MpsModel final : ModelFileTarget {
     std::string name;
     std::vector<std::pair<std::string, std::string>> parameters;
     int clearings = 0;
+    ReadingNotes notes;
 };
 
 }  // namespace tarq

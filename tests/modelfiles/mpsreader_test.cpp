@@ -153,6 +153,32 @@ TEST(MpsReader, BoundsSetSidesAndType) {
     }
 }
 
+TEST(MpsReader, MattersOfDialectAreCountedUnlessTheFileSettlesThem) {
+    const std::string marker = "    M         'MARKER'                 'INTORG'\n";
+    const std::string text =
+        opening + fields({"", "X", "E1", "1"}) + marker + fields({"", "B", "E1", "1"}) + "BOUNDS\n";
+    struct Case {
+        std::vector<std::pair<const char*, const char*>> bounds;  ///< of X: type and value
+        int mi, empty;
+    };
+    const std::vector<Case> cases{{{{"MI", ""}}, 1, 0},
+                                  {{{"UP", "5"}, {"MI", ""}}, 1, 0},
+                                  {{{"MI", ""}, {"UP", "0"}}, 0, 0},
+                                  {{{"MI", ""}, {"FR", ""}}, 0, 0},
+                                  {{{"UP", "-1"}}, 0, 1},
+                                  {{{"UP", "-1"}, {"LO", "-9"}}, 0, 0},
+                                  {{{"MI", ""}, {"UP", "-1"}}, 0, 0}};
+    for (const Case& c : cases) {
+        MpsModel model;
+        std::string all = text + fields({c.mi != 0 ? "LO" : "UP", "", "B", "1"});
+        for (const auto& [type, value] : c.bounds) all += fields({type, "", "X", value});
+        ASSERT_THAT(model.read(all + "ENDATA\n"), succeeds());
+        EXPECT_EQ(model.notes.upperBoundsSetByMi, c.mi) << all;
+        EXPECT_EQ(model.notes.lowerBoundsAboveUpper, c.empty) << all;
+        EXPECT_EQ(model.notes.integersUpToOne, c.mi) << "a lower bound alone leaves the upper one at 1";
+    }
+}
+
 TEST(MpsReader, BoundWithoutANumberTakesTheLastOneReadInTheSection) {
     MpsModel model;
     ASSERT_THAT(model.read(oneColumn + fields({"", "Y", "E1", "1"}) + fields({"", "Z", "E1", "1"}) + "BOUNDS\n" +
