@@ -8,14 +8,14 @@ set(public_headers
   frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
   frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
   frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h)
-file(GLOB interface_headers RELATIVE "${CMAKE_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/interfaces/*.h")
+file(GLOB interface_headers RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/interfaces/*.h")
 list(APPEND public_headers ${interface_headers})
-set(staged "${CMAKE_BINARY_DIR}/public-headers")
+set(staged "${PROJECT_BINARY_DIR}/public-headers")
 foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
   if(header MATCHES "/")
-    set(origin "${CMAKE_SOURCE_DIR}/src/${header}")
+    set(origin "${PROJECT_SOURCE_DIR}/src/${header}")
   else()
-    set(origin "${CMAKE_SOURCE_DIR}/include/tarq/${header}")
+    set(origin "${PROJECT_SOURCE_DIR}/include/tarq/${header}")
   endif()
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${origin}")
   file(READ "${origin}" text)
@@ -35,7 +35,7 @@ install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/tarq")
 install(EXPORT tarq NAMESPACE tarq:: FILE tarqTargets.cmake DESTINATION "${package_folder}")
-file(WRITE "${CMAKE_BINARY_DIR}/tarqConfig.cmake" "include(\"\${CMAKE_CURRENT_LIST_DIR}/tarqTargets.cmake\")\n")
-write_basic_package_version_file("${CMAKE_BINARY_DIR}/tarqConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
-install(FILES "${CMAKE_BINARY_DIR}/tarqConfig.cmake" "${CMAKE_BINARY_DIR}/tarqConfigVersion.cmake"
+file(WRITE "${PROJECT_BINARY_DIR}/tarqConfig.cmake" "include(\"\${CMAKE_CURRENT_LIST_DIR}/tarqTargets.cmake\")\n")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/tarqConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/tarqConfig.cmake" "${PROJECT_BINARY_DIR}/tarqConfigVersion.cmake"
   DESTINATION "${package_folder}")

@@ -16,7 +16,7 @@ set(TARQ_PYTHON_INSTALL_FOLDER "lib/python${Python3_VERSION_MAJOR}.${Python3_VER
 # How the package is run from the build folder. A sanitizer must be loaded before the interpreter, which
 # isn't built with it; its leaks aren't
 # ours either.
-set(tarq_python_environment "PYTHONPATH=${CMAKE_BINARY_DIR}/python" "PYTHONDONTWRITEBYTECODE=1")
+set(tarq_python_environment "PYTHONPATH=${PROJECT_BINARY_DIR}/python" "PYTHONDONTWRITEBYTECODE=1")
 if(TARQ_SANITIZE)
   set(runtimes "")
   foreach(pair IN ITEMS "address:libasan.so" "undefined:libubsan.so" "thread:libtsan.so")

@@ -3,7 +3,7 @@
 # tarq_room(NAME [DEPENDS ROOM...] [LIBRARIES TARGET...])
 function(tarq_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "DEPENDS;LIBRARIES")
-  set(folder "${CMAKE_SOURCE_DIR}/src/${name}")
+  set(folder "${PROJECT_SOURCE_DIR}/src/${name}")
   file(GLOB sources CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h")
   if(UNIX)
     file(GLOB system_sources CONFIGURE_DEPENDS "${folder}/posix/*.cpp")
@@ -19,16 +19,16 @@ function(tarq_room name)
   set_property(GLOBAL APPEND PROPERTY tarq_rooms ${name})
 
   # Headers share one include root, so that an include names its room; this check is what keeps rooms apart.
-  set(stamp "${CMAKE_BINARY_DIR}/rooms/${name}.stamp")
+  set(stamp "${PROJECT_BINARY_DIR}/rooms/${name}.stamp")
   add_custom_command(OUTPUT "${stamp}"
     COMMAND "${CMAKE_COMMAND}" "-DROOM=${name}" "-DFOLDER=${folder}" "-DALLOWED=${floors_below}" "-DSTAMP=${stamp}"
-            -P "${CMAKE_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
-    DEPENDS ${sources} ${system_sources} "${CMAKE_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
+            -P "${PROJECT_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
+    DEPENDS ${sources} ${system_sources} "${PROJECT_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
     COMMENT "Checking the includes of ${name}" VERBATIM)
 
   add_library(tarq_${name} OBJECT ${sources} ${system_sources} "${stamp}")
   set_target_properties(tarq_${name} PROPERTIES LINKER_LANGUAGE CXX)
-  target_include_directories(tarq_${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/include")
+  target_include_directories(tarq_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
   target_compile_definitions(tarq_${name} PUBLIC TARQ_BUILDING_COMPONENT)
   target_link_libraries(tarq_${name} PRIVATE tarq_options PUBLIC fmt::fmt-header-only Threads::Threads ${CMAKE_DL_LIBS} ${room_LIBRARIES})
 endfunction()

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Prints the prefix under which CMake finds HiGHS 1.10 or newer; empty when the system's own package serves.
+# Prints the prefix under which CMake finds HiGHS 1.10 or newer; empty when the system's own package serves. With
+# --must-build nothing is done but to tell, by the exit code, whether it would have to be built.
 #
 # Where apt offers libhighs-dev in that version it is installed. Elsewhere HiGHS is built once from the source package
 # of the next distribution release into ${XDG_CACHE_HOME:-~/.cache}/tarq and reused by every checkout. The archive's
@@ -12,15 +13,21 @@ readonly recipe=2 # raise when the build options below change, so that older cac
 cache_root="${XDG_CACHE_HOME:-${HOME:?}/.cache}/tarq"
 readonly cache_root
 readonly prefix="$cache_root/highs-$recipe"
+tools=$(dirname "${BASH_SOURCE[0]}")
+readonly tools
 
 say() { printf '%s\n' "$*" >&2; }
 as_root() { if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi; }
 
-install_package() {
+package_serves() {
   local candidate
   candidate=$(apt-cache policy libhighs-dev 2>/dev/null | awk '/Candidate:/ {print $2}')
   [ -n "$candidate" ] && [ "$candidate" != "(none)" ] || return 1
-  dpkg --compare-versions "$candidate" ge "$minimum" || return 1
+  dpkg --compare-versions "$candidate" ge "$minimum"
+}
+
+install_package() {
+  package_serves || return 1
   dpkg -s libhighs-dev >/dev/null 2>&1 || as_root apt-get install -y --no-install-recommends libhighs-dev >&2
 }
 
@@ -62,9 +69,10 @@ build() {
   fetch_source "$work"
   cmake -S "$work/source" -B "$work/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=g++ \
     -DCMAKE_C_COMPILER=gcc -DCMAKE_POSITION_INDEPENDENT_CODE=ON -DBUILD_SHARED_LIBS=OFF -DBUILD_TESTING=OFF \
-    -DBUILD_EXAMPLES=OFF -DZLIB=OFF -DCMAKE_INSTALL_LIBDIR=lib -DCMAKE_INSTALL_PREFIX="$work/prefix" >"$work/log" 2>&1 &&
-    cmake --build "$work/build" >>"$work/log" 2>&1 && cmake --install "$work/build" >>"$work/log" 2>&1 ||
-    { tail -n 40 "$work/log" >&2; say "HiGHS could not be built"; return 1; }
+    -DBUILD_EXAMPLES=OFF -DZLIB=OFF -DCMAKE_INSTALL_LIBDIR=lib -DCMAKE_INSTALL_PREFIX="$work/prefix" >"$work/log" 2>&1 ||
+    { tail -n 40 "$work/log" >&2; say "HiGHS could not be configured"; return 1; }
+  "$tools/build-with-progress.sh" HiGHS "$work/build" || { say "HiGHS could not be built"; return 1; }
+  cmake --install "$work/build" >/dev/null
   (cd "$work/prefix" && find . -type f ! -name files.sha256 -print0 | xargs -0 sha256sum >files.sha256)
   mkdir -p "$cache_root"
   rm -rf "$prefix"
@@ -72,6 +80,10 @@ build() {
 }
 
 main() {
+  if [ "${1:-}" = --must-build ]; then
+    if package_serves || cache_is_whole; then exit 1; fi
+    exit 0
+  fi
   if install_package; then return; fi
   # One build at a time, also when two checkouts start together.
   mkdir -p "$cache_root"
