@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "console.h"
+#include "suggestion.h"
 
 namespace tarq::command {
 
@@ -26,7 +27,12 @@ constexpr auto solveFooter = R"(Formats, told by the extension of FILE or by --f
   triplet  .tri   Triplet
   lindo    .ltx   Lindo
 
---set and --profile act after the file is read, in the order given.
+--set and --profile act after the file is read, in the order given. --set takes
+a number with a decimal point, and min or max for xminmx.
+
+What other programs read differently in an MPS file is told in a note. --json
+prints its document also when reading or solving fails, with a member "error";
+what isn't known or doesn't exist in it is null.
 
 Exit codes:
   0  an optimal solution was found
@@ -49,6 +55,7 @@ Examples:
 constexpr auto parametersFooter = R"(Examples:
   tarq parameters              the whole list, by section
   tarq parameters xmxnod       limits, default and meaning of one parameter
+  tarq parameters cuts         the parameters whose meaning speaks of cuts
   tarq parameters --json       the list for a program to read
   tarq parameters --write a    a profile with all parameters, to be edited)";
 
@@ -138,7 +145,8 @@ void describeShow(CLI::App& app, ShowOptions& options) {
 }
 
 void describeParameters(CLI::App& app, ParametersOptions& options) {
-    CLI::Option* const name = app.add_option("NAME", options.name, "Explain only this parameter, in full");
+    CLI::Option* const name = app.add_option(
+        "NAME", options.name, "Explain only this parameter, in full; any other word is looked for in the list");
     name->option_text(" ");
     CLI::Option* const json = app.add_flag("--json", options.json, "Print JSON");
     app.add_option("--write", options.profile,
@@ -180,6 +188,15 @@ std::string complaintAbout(const CLI::App& app, const SolveOptions& options) {
     return isNamed ? "" : "--solution needs the name of a file; use --json to print the result";
 }
 
+/// What is wrong in words that belong to no command.
+std::string complaintAboutCommand(const std::string& word) {
+    std::vector<std::string_view> names;
+    for (const CommandRow& row : commands) names.emplace_back(row.name);
+    const std::string all = fmt::format("The commands are {}.", fmt::join(names, ", "));
+    if (word.empty()) return "no command was given. " + all;
+    return fmt::format("there is no command '{}'. {}", printable(word), suggestion(names, word, all));
+}
+
 CommandLine refused(std::string_view complaint, std::string_view command) {
     showMessage(fmt::format("{}\nTry 'tarq {}--help'.", complaint, command));
     CommandLine line;
@@ -218,7 +235,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
         line.exitCode = writeResult(app.help(), ExitCode::Success);
         return line;
     } catch (const CLI::ParseError& error) {
-        return refused(error.what(), command());
+        const std::vector<std::string> rest = app.remaining();
+        const bool isCommand = command().empty() && !rest.empty() && !rest.front().starts_with('-');
+        return refused(isCommand ? complaintAboutCommand(rest.front()) : error.what(), command());
     }
 
     if (version) {
@@ -228,9 +247,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     for (const CommandRow& row : commands) {
         if (app.got_subcommand(row.name)) line.action = row.action;
     }
-    if (line.action == Action::None) {
-        return refused("no command was given; the commands are solve, convert, show, parameters and describe", "");
-    }
+    if (line.action == Action::None) return refused(complaintAboutCommand(""), "");
     if (line.action == Action::Solve) {
         line.solve.parameters = parameterSources(solve);
         if (const std::string complaint = complaintAbout(solve, line.solve); !complaint.empty()) {

@@ -40,7 +40,7 @@ struct ShowOptions {
 };
 
 struct ParametersOptions {
-    std::string name;     ///< empty: all
+    std::string name;     ///< or a word to look for; empty: all
     std::string profile;  ///< a profile to write, "-" for standard output; empty: none
     bool json = false;
 };

@@ -6,6 +6,7 @@
 #include "modelinput.h"
 #include "modelobject.h"
 #include "modeloutput.h"
+#include "readingnotes.h"
 
 namespace tarq::command {
 
@@ -30,6 +31,7 @@ ExitCode convert(const ConvertOptions& options) {
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
     if (const auto failure = readModel(*model, options.input, from)) return show(*failure);
+    showReadingNotes(*model);
     if (options.rename) {
         if (const Status renamed = model->AutoRenameVariables(); renamed.failed()) return ExitCode::EngineFailed;
     }

@@ -9,6 +9,7 @@
 #include "parameterscommand.h"
 #include "showcommand.h"
 #include "solvecommand.h"
+#include "standardstreams.h"
 #include "versioncommand.h"
 
 namespace {
@@ -39,6 +40,7 @@ ExitCode run(int argc, const char* const* argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    fillStandardStreams();
     try {
         return static_cast<int>(run(argc, argv));
     } catch (const std::bad_alloc&) {

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -16,18 +17,6 @@
 namespace tarq::command {
 
 namespace {
-
-/// Why the system won't let us read a file, in its own words.
-std::string reasonNotReadable(const std::string& file) {
-    constexpr auto unreadable = "it could not be read to its end, or has 2 gigabytes or more";
-    std::error_code ignored;
-    if (std::filesystem::is_directory(file, ignored)) return "it is a directory";
-    // Another open of a pipe would wait for another writer.
-    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) return unreadable;
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(std::fopen(file.c_str(), "rb"), std::fclose);
-    if (opened == nullptr) return std::strerror(errno);
-    return unreadable;
-}
 
 /// True for a text in which the keyword NAME is followed by a name too early for fixed columns.
 bool looksLikeFreeColumns(const std::string& file) {
@@ -73,38 +62,50 @@ std::string mpsHint(const std::string& file, std::string_view complaint) {
 }
 
 /// "FILE, line 3: ROWS indicator expected." from "Error parsing MPS file: ROWS indicator expected. Line 3".
-std::string parseFailureText(const std::string& shown, const std::string& file, TARQFileFormatType format,
-                             std::string complaint) {
+Failure parseFailure(const std::string& shown, const std::string& file, TARQFileFormatType format,
+                     std::string complaint) {
+    Failure failure{ExitCode::InputRejected, shown, status::syntaxError};
     // The component's prefix tells the format, which the user knows.
     if (const std::size_t prefix = complaint.find(" file: "); prefix != std::string::npos)
         complaint.erase(0, prefix + 7);
-    std::string place(shown);
     if (const std::size_t line = complaint.rfind(" Line "); line != std::string::npos) {
-        place += ", line " + complaint.substr(line + 6);
+        const std::string number = complaint.substr(line + 6);
+        failure.text += ", line " + number;
+        std::from_chars(number.data(), number.data() + number.size(), failure.line);
         complaint.erase(line);
     }
-    std::string text = fmt::format("{}: {}", place, complaint);
+    failure.text += ": " + complaint;
     const std::string hint = format == TARQFileFormatType::MPS ? mpsHint(file, complaint) : std::string();
-    if (!hint.empty()) text += "\n" + hint;
-    return text;
+    if (!hint.empty()) failure.text += "\n" + hint;
+    return failure;
 }
 
 Failure explain(Status status, const std::string& shown, const std::string& file, TARQFileFormatType format) {
     const std::string complaint = lastErrorText(status);
+    if (status == status::syntaxError) return parseFailure(shown, file, format, complaint);
     std::string text;
-    if (status == status::syntaxError) {
-        text = parseFailureText(shown, file, format, complaint);
-    } else if (status == status::fileAccess) {
+    if (status == status::fileAccess) {
         text = fmt::format("{} can't be read: {}.", shown, reasonNotReadable(file));
     } else if (status == status::textTooLong) {
         text = fmt::format("{}: {} A file's name may have 255 characters.", shown, complaint);
     } else {
         text = fmt::format("{}: {}", shown, complaint);
     }
-    return {ExitCode::InputRejected, text};
+    return {ExitCode::InputRejected, text, status};
 }
 
 }  // namespace
+
+std::string reasonNotReadable(const std::string& file) {
+    constexpr auto unreadable = "it could not be read to its end, or has 2 gigabytes or more";
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file, ignored)) return "it is a directory";
+    // Another open of a pipe would wait for another writer.
+    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) return unreadable;
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(std::fopen(file.c_str(), "rb"), std::fclose);
+    if (opened == nullptr) return std::strerror(errno);
+    return unreadable;
+}
 
 std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TARQFileFormatType format) {
     std::optional<TemporaryFile> spooled;

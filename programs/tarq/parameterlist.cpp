@@ -62,6 +62,15 @@ const Parameter* findParameter(const std::vector<Parameter>& parameters, std::st
     return found == parameters.end() ? nullptr : &*found;
 }
 
+std::vector<Parameter> parametersWith(const std::vector<Parameter>& parameters, std::string_view word) {
+    const std::string wanted = lowerCase(word);
+    const auto holds = [&](std::string_view text) { return lowerCase(text).find(wanted) != std::string::npos; };
+    std::vector<Parameter> found;
+    std::copy_if(parameters.begin(), parameters.end(), std::back_inserter(found),
+                 [&](const Parameter& row) { return holds(row.name) || holds(row.description); });
+    return found;
+}
+
 std::string suggestion(const std::vector<Parameter>& parameters, std::string_view name) {
     std::vector<std::string_view> names;
     names.reserve(parameters.size());

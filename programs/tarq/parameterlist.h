@@ -41,6 +41,9 @@ struct Parameter {
 /// The parameter of this name, in any case; null when there is none.
 [[nodiscard]] const Parameter* findParameter(const std::vector<Parameter>& parameters, std::string_view name);
 
+/// Those whose name or description contains a word, in any case.
+[[nodiscard]] std::vector<Parameter> parametersWith(const std::vector<Parameter>& parameters, std::string_view word);
+
 /// "did you mean xmxnod or xmxnen?", or where to find the list.
 [[nodiscard]] std::string suggestion(const std::vector<Parameter>& parameters, std::string_view name);
 

@@ -16,29 +16,16 @@ namespace tarq::command {
 
 namespace {
 
-Json jsonOf(const Variant& value) {
-    switch (value.kind()) {
-        case Kind::Long:
-            return value.integer();
-        case Kind::Double:
-            return value.real();
-        case Kind::Text:
-            return value.text();
-        default:
-            return nullptr;
-    }
-}
-
 Json jsonOf(const Parameter& parameter) {
     Json row{{"id", parameter.id}, {"name", parameter.name}, {"type", parameter.typeName()}};
     if (parameter.type == Parameter::Type::Text) {
         row["maxLength"] = parameter.maxLength;
     } else {
-        row["min"] = jsonOf(parameter.minimum);
-        row["max"] = jsonOf(parameter.maximum);
+        row["min"] = jsonValue(parameter.minimum);
+        row["max"] = jsonValue(parameter.maximum);
     }
-    row["default"] = jsonOf(parameter.defaultValue);
-    row["value"] = jsonOf(parameter.value);
+    row["default"] = jsonValue(parameter.defaultValue);
+    row["value"] = jsonValue(parameter.value);
     row["section"] = parameter.section().empty() ? Json() : Json(parameter.section());
     row["description"] = parameter.description;
     row["options"] = Json::array();
@@ -76,6 +63,12 @@ std::string listText(const std::vector<Parameter>& parameters) {
     return text + "'tarq parameters NAME' explains a parameter in full.\n";
 }
 
+std::string listDocument(const std::vector<Parameter>& parameters) {
+    Json list = Json::array();
+    for (const Parameter& parameter : parameters) list.push_back(jsonOf(parameter));
+    return documentOf(list);
+}
+
 std::string fullText(const Parameter& parameter) {
     constexpr std::size_t widest = 100;
     const std::size_t width = std::min(terminalWidth(stdout), widest);
@@ -105,20 +98,15 @@ ExitCode explainParameters(const ParametersOptions& options) {
             [](Status) { return std::string(); });
         return failure ? show(*failure) : ExitCode::Success;
     }
-    const std::vector<Parameter> parameters = readParameters(*model);
-    if (options.name.empty()) {
-        if (!options.json) return writeResult(listText(parameters), ExitCode::Success);
-        Json list = Json::array();
-        for (const Parameter& parameter : parameters) list.push_back(jsonOf(parameter));
-        return writeResult(documentOf(list), ExitCode::Success);
+    const std::vector<Parameter> all = readParameters(*model);
+    if (const Parameter* parameter = findParameter(all, options.name); parameter != nullptr) {
+        return writeResult(options.json ? documentOf(jsonOf(*parameter)) : fullText(*parameter), ExitCode::Success);
     }
-    const Parameter* parameter = findParameter(parameters, options.name);
-    if (parameter == nullptr) {
-        showMessage(fmt::format("there is no parameter '{}'. {}", printable(options.name),
-                                suggestion(parameters, options.name)));
-        return ExitCode::WrongUsage;
-    }
-    return writeResult(options.json ? documentOf(jsonOf(*parameter)) : fullText(*parameter), ExitCode::Success);
+    const std::vector<Parameter> found = options.name.empty() ? all : parametersWith(all, options.name);
+    if (!found.empty()) return writeResult(options.json ? listDocument(found) : listText(found), ExitCode::Success);
+    showMessage(fmt::format("there is no parameter '{}', and no description speaks of it. {}", printable(options.name),
+                            suggestion(all, options.name)));
+    return ExitCode::WrongUsage;
 }
 
 }  // namespace tarq::command

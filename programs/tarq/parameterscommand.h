@@ -6,7 +6,7 @@
 
 namespace tarq::command {
 
-/// Lists all solver parameters, or explains the one that is named.
+/// Lists all solver parameters, explains the one that is named, or lists those that speak of a word.
 [[nodiscard]] ExitCode explainParameters(const ParametersOptions& options);
 
 }  // namespace tarq::command

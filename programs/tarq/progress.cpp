@@ -2,8 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
 #include "console.h"
 #include "runresult.h"
@@ -36,23 +38,42 @@ std::string gapText(double best, double bound) {
     return std::isfinite(gap) ? fmt::format("{:.2f} %", 100.0 * gap) : "-";
 }
 
+/// A part of the line. Where the line has no room for all, those with the lowest rank are left out first.
+struct Part {
+    std::string text;
+    int rank;
+};
+
+std::vector<Part> partsOf(const RunResult& now, bool integer) {
+    std::vector<Part> parts{{fmt::format("iterations {}", now.iterations), 1}};
+    if (!integer) {
+        parts.push_back({fmt::format("objective {:.8g}", now.lpObjective), 2});
+        return parts;
+    }
+    const bool found = now.integerSolutions > 0;
+    // Before the first report of branch and bound the relaxation is the best bound there is.
+    const double bound = now.bestPossible != 0.0 ? now.bestPossible : now.lpObjective;
+    parts.push_back({fmt::format("nodes {}", now.nodes), 3});
+    parts.push_back({found ? fmt::format("best {:.8g}", now.ipObjective) : "best -", 5});
+    parts.push_back({fmt::format("bound {:.8g}", bound), 2});
+    parts.push_back({fmt::format("gap {}", found ? gapText(now.ipObjective, bound) : "-"), 4});
+    return parts;
+}
+
 }  // namespace
 
-std::string progressText(ITARQModel& model, bool integer, double seconds) {
+std::string progressText(ITARQModel& model, bool integer, double seconds, std::size_t room) {
     RunResult now;
     readRunFacts(model, now);
-    std::string text = fmt::format("iterations {}", now.iterations);
-    if (!integer) {
-        text += fmt::format("  objective {:.8g}", now.lpObjective);
-    } else {
-        const bool found = now.integerSolutions > 0;
-        // Before the first report of branch and bound the relaxation is the best bound there is.
-        const double bound = now.bestPossible != 0.0 ? now.bestPossible : now.lpObjective;
-        text += fmt::format("  nodes {}  best {}  bound {:.8g}  gap {}", now.nodes,
-                            found ? fmt::format("{:.8g}", now.ipObjective) : "-", bound,
-                            found ? gapText(now.ipObjective, bound) : "-");
-    }
-    return text + "  time " + timeText(seconds);
+    const std::string time = "time " + timeText(seconds);
+    std::vector<Part> parts = partsOf(now, integer);
+    const auto joined = [&] {
+        std::string text;
+        for (const Part& part : parts) text += part.text + "  ";
+        return text + time;
+    };
+    while (joined().size() > room && !parts.empty()) parts.erase(std::ranges::min_element(parts, {}, &Part::rank));
+    return joined();
 }
 
 ProgressLine::ProgressLine(ITARQModel& model, bool integer, bool enabled)
@@ -67,9 +88,13 @@ void ProgressLine::update(bool stopping) {
     if (!enabled_ || now - shown_ < standingTime) return;
     shown_ = now;
     visible_ = true;
-    std::string line = stopping ? "stopping (Ctrl-C again quits at once)  " : "";
-    line += progressText(model_, integer_, std::chrono::duration<double>(now - start_).count());
-    put(std::string(wipe) + shortened(line, terminalWidth(stderr) - 1));
+    constexpr std::size_t wide = 60;
+    const std::size_t width = terminalWidth(stderr) - 1;
+    const std::string_view hint = width < wide ? "stopping  " : "stopping (Ctrl-C again quits)  ";
+    const std::string start(stopping ? hint : "");
+    const std::size_t room = width - start.size();
+    const double seconds = std::chrono::duration<double>(now - start_).count();
+    put(std::string(wipe) + start + progressText(model_, integer_, seconds, room));
 }
 
 }  // namespace tarq::command

@@ -4,12 +4,14 @@
 #include <tarq/tarq.h>
 
 #include <chrono>
+#include <cstddef>
 #include <string>
 
 namespace tarq::command {
 
-/// The progress of a run that is on, as one line: iterations, nodes, best, bound, gap and time.
-[[nodiscard]] std::string progressText(ITARQModel& model, bool integer, double seconds);
+/// The progress of a run that is on, as one line: iterations, nodes, best, bound, gap and time. The time always, and of
+/// the others those that there is `room` for.
+[[nodiscard]] std::string progressText(ITARQModel& model, bool integer, double seconds, std::size_t room);
 
 /// Rewrites its line on standard error at each update and wipes it at its end. Does nothing when it is not `enabled`.
 class ProgressLine {

@@ -17,9 +17,8 @@ std::string fact(std::string_view label, std::string_view value) { return fmt::f
 
 /// The run's value of the objective, where it has one to show.
 std::string objectiveFact(const RunResult& result) {
-    const SolutionKind solution = result.solution();
-    const bool answers = solution == SolutionKind::Integer || (solution == SolutionKind::Lp && result.lpIsAnswer());
-    return fact("Objective", answers ? numberText(result.objective()) : "none");
+    const std::optional<double> value = result.objective();
+    return fact("Objective", value ? numberText(*value) : "none");
 }
 
 std::string integerFacts(const RunResult& result) {
@@ -50,23 +49,6 @@ std::string columnTable(ITARQModel& model, const RunResult& result) {
     return fmt::format("\n{}{}", shown == 0 ? "" : table.text() + '\n', summary);
 }
 
-}  // namespace
-
-std::string shortReport(const RunResult& result) { return fact("Status", result.ending()) + objectiveFact(result); }
-
-std::string fullReport(ITARQModel& model, const RunResult& result) {
-    std::string text =
-        fact("Model", fmt::format("{}{}{}, {}, {}", printable(result.modelName), result.modelName.empty() ? "" : ": ",
-                                  counted(result.columns, "column"), counted(result.rows, "row"),
-                                  counted(result.nonzeros, "nonzero")));
-    text += shortReport(result);
-    text += result.integer ? integerFacts(result) : fact("Iterations", fmt::format("{}", result.iterations));
-    text += fact("Time", fmt::format("{:.2f} s (and {:.2f} s to read)", result.solveSeconds, result.readSeconds));
-    const bool answered = result.solution() == SolutionKind::Integer || result.lpIsAnswer();
-    if (answered && result.solution() != SolutionKind::None) text += columnTable(model, result);
-    return text;
-}
-
 std::string failureText(ITARQModel& model, const RunResult& result) {
     if (result.status == status::libraryNotFound) {
         std::string engine;
@@ -86,6 +68,29 @@ std::string failureText(ITARQModel& model, const RunResult& result) {
     }
     if (!result.message.empty()) text += fmt::format("\nThe engine says: {}", printable(result.message));
     return text;
+}
+
+}  // namespace
+
+std::string shortReport(const RunResult& result) { return fact("Status", result.ending()) + objectiveFact(result); }
+
+std::string fullReport(ITARQModel& model, const RunResult& result) {
+    std::string text =
+        fact("Model", fmt::format("{}{}{}, {}, {}", printable(result.modelName), result.modelName.empty() ? "" : ": ",
+                                  counted(result.columns, "column"), counted(result.rows, "row"),
+                                  counted(result.nonzeros, "nonzero")));
+    text += fact("Direction", result.maximizes ? "max" : "min");
+    text += shortReport(result);
+    text += result.integer ? integerFacts(result) : fact("Iterations", fmt::format("{}", result.iterations));
+    text += fact("Time", fmt::format("{:.2f} s (and {:.2f} s to read)", result.solveSeconds, result.readSeconds));
+    if (result.objective()) text += columnTable(model, result);
+    return text;
+}
+
+std::optional<Failure> failureOf(ITARQModel& model, const RunResult& result) {
+    const ExitCode code = result.exitCode();
+    if (code != ExitCode::EngineFailed && code != ExitCode::InputRejected) return std::nullopt;
+    return Failure{code, failureText(model, result), result.status};
 }
 
 }  // namespace tarq::command

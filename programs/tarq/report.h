@@ -3,8 +3,10 @@
 
 #include <tarq/tarq.h>
 
+#include <optional>
 #include <string>
 
+#include "failure.h"
 #include "runresult.h"
 
 namespace tarq::command {
@@ -12,10 +14,10 @@ namespace tarq::command {
 /// Two lines: status and objective.
 [[nodiscard]] std::string shortReport(const RunResult& result);
 
-/// Model, status, objective, counts and times, and a table of the columns that are not zero.
+/// Model, direction, status, objective, counts and times, and a table of the columns that are not zero.
 [[nodiscard]] std::string fullReport(ITARQModel& model, const RunResult& result);
 
-/// What a person can do about a run that failed.
-[[nodiscard]] std::string failureText(ITARQModel& model, const RunResult& result);
+/// Why a run failed, and what a person can do about it; nothing for a run that didn't.
+[[nodiscard]] std::optional<Failure> failureOf(ITARQModel& model, const RunResult& result);
 
 }  // namespace tarq::command

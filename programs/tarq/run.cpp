@@ -54,6 +54,7 @@ void runWatched(ITARQModel& model, bool showProgress, RunResult& result) {
     result.interrupted = watch.interrupted();
     result.solveSeconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     readRunFacts(model, result);
+    result.progress = Progress::Run;
 }
 
 }  // namespace tarq::command

@@ -36,7 +36,23 @@ SolutionKind RunResult::solution() const {
     }
 }
 
-double RunResult::objective() const { return solution() == SolutionKind::Integer ? ipObjective : lpObjective; }
+std::optional<double> RunResult::objective() const {
+    const std::optional<double> value = ipValue();
+    return value || !lpIsAnswer() ? value : lpValue();
+}
+
+std::optional<double> RunResult::lpValue() const {
+    return solution() == SolutionKind::None ? std::nullopt : std::optional(lpObjective);
+}
+
+std::optional<double> RunResult::ipValue() const {
+    return solution() == SolutionKind::Integer ? std::optional(ipObjective) : std::nullopt;
+}
+
+std::optional<double> RunResult::bound() const {
+    const bool isOpen = solutionStatus == IPNoSolution && !status.isOk();
+    return isOpen || solution() == SolutionKind::Integer ? std::optional(bestPossible) : std::nullopt;
+}
 
 ExitCode RunResult::exitCode() const {
     if (status.failed() && modelRefused) return ExitCode::InputRejected;
@@ -98,6 +114,13 @@ void readModelFacts(ITARQModel& model, RunResult& result) {
     result.rows = valueOf(model, &ITARQModel::get_NumberOfRows);
     result.nonzeros = valueOf(model, &ITARQModel::get_NumberOfNZ);
     result.integer = valueOf(model, &ITARQModel::get_IsIPModel) != 0;
+    result.progress = Progress::ModelRead;
+}
+
+void readDirection(ITARQModel& model, RunResult& result) {
+    Variant direction;
+    result.maximizes = model.get_Parameter("xminmx", &direction).isOk() && direction.text() == "max";
+    result.progress = Progress::ParametersSet;
 }
 
 void readRunFacts(ITARQModel& model, RunResult& result) {

@@ -3,6 +3,7 @@
 
 #include <tarq/tarq.h>
 
+#include <optional>
 #include <string>
 
 #include "exitcodes.h"
@@ -12,14 +13,19 @@ namespace tarq::command {
 /// Which of its solutions a run leaves for the user.
 enum class SolutionKind { None, Lp, Integer };
 
+/// How far a solve came, each step behind the one before.
+enum class Progress { Begun, ModelRead, ParametersSet, Run };
+
 struct RunResult {
     std::string file;
+    Progress progress = Progress::Begun;
 
     std::string modelName;
     std::int32_t columns = 0;
     std::int32_t rows = 0;
     std::int32_t nonzeros = 0;
     bool integer = false;
+    bool maximizes = false;  ///< known once the parameters are set
 
     Status status;              ///< what Optimize returned
     std::string failure;        ///< description of a failed status
@@ -43,8 +49,13 @@ struct RunResult {
     [[nodiscard]] SolutionKind solution() const;
     /// True if the LP's solution answers what was asked, and is not only a bound for an integer model.
     [[nodiscard]] bool lpIsAnswer() const { return !integer || onlyRelaxation; }
-    /// The integer solution's value if there is one, else the LP's.
-    [[nodiscard]] double objective() const;
+    // Values of the objective; nothing where the run left no such solution.
+    /// Of what was asked for: the integer solution, or the LP's where that is the answer.
+    [[nodiscard]] std::optional<double> objective() const;
+    [[nodiscard]] std::optional<double> lpValue() const;
+    [[nodiscard]] std::optional<double> ipValue() const;
+    /// The bound on every integer solution: while it has not come out that there is none.
+    [[nodiscard]] std::optional<double> bound() const;
     [[nodiscard]] ExitCode exitCode() const;
     /// How the run ended, in words: "optimal", "infeasible", "stopped at the node limit (xmxnod)".
     [[nodiscard]] std::string ending() const;
@@ -55,6 +66,9 @@ private:
 
 /// Fills in what the model is.
 void readModelFacts(ITARQModel& model, RunResult& result);
+
+/// Fills in what a run will be asked for.
+void readDirection(ITARQModel& model, RunResult& result);
 
 /// Fills in what the latest run left.
 void readRunFacts(ITARQModel& model, RunResult& result);

@@ -11,6 +11,7 @@
 #include "modelinput.h"
 #include "modelobject.h"
 #include "modeloutput.h"
+#include "readingnotes.h"
 
 namespace tarq::command {
 
@@ -44,6 +45,7 @@ ExitCode showModel(const ShowOptions& options) {
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
     if (const auto failure = readModel(*model, options.file, format)) return show(*failure);
+    showReadingNotes(*model);
     const Range rows = range(options.rows);
     const Range columns = range(options.columns);
     Status listed;

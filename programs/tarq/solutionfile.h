@@ -1,9 +1,11 @@
 // SolutionFile: the solution of a run as a table in a file.
 //
 // A file with the extension .csv is written as CSV, with quotes around a field that holds a comma, a quote or a line
-// end; any other as JSON with one line for each column and row. Without a solution the table is empty.
+// end; any other as JSON with one line for each column and row. Without a solution the table is empty. The table takes
+// the place of a file that is there when it is whole, and not before.
 #pragma once
 
+#include <sys/types.h>
 #include <tarq/tarq.h>
 
 #include <cstdio>
@@ -16,23 +18,39 @@ namespace tarq::command {
 
 class SolutionFile {
 public:
-    /// Empties the file, so that a path that can't be written is known before the run and no older solution is taken
-    /// for this run's. failure() tells why that was not possible.
+    /// Looks whether the path can be written, so that this is known before the run; failure() tells why not.
     explicit SolutionFile(const std::string& path);
+    SolutionFile(const SolutionFile&) = delete;
+    SolutionFile& operator=(const SolutionFile&) = delete;
+    ~SolutionFile();
 
-    /// Writes the run's solution and closes the file; failure() tells whether that went well.
+    /// Writes the run's solution; failure() tells whether that went well. A file that could not be written whole is as
+    /// it was. Devices and pipes are written in place, and so is a file of another owner or with several names, or in a
+    /// folder that takes no new file.
     void write(ITARQModel& model, const RunResult& result);
 
     /// Why the file could not be opened or written; empty when it could.
     [[nodiscard]] const std::string& failure() const { return failure_; }
 
 private:
+    /// How the table comes to its place: as a new file in place of the old one, in the old one itself, or behind what
+    /// this program's own output already holds.
+    enum class Way { Replace, Rewrite, Append };
+
+    /// Finds out what the path leads to; the system's number for the reason when it can't be written.
+    [[nodiscard]] int findWay();
+    [[nodiscard]] int open();
+    void close();
     void put(std::string_view text);
     void writeCsv(ITARQModel& model, SolutionKind kind);
     void writeJson(ITARQModel& model, SolutionKind kind);
 
     std::string path_;
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
+    std::string target_;  ///< the file that the path leads to
+    mode_t mode_;         ///< of a new file
+    Way way_ = Way::Replace;
+    std::string newFile_;  ///< while it is being written
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_{nullptr, std::fclose};
     std::string failure_;
 };
 

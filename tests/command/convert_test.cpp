@@ -79,6 +79,19 @@ TEST_F(CommandConvertTest, OutputThatCannotBeWrittenIsExplained) {
     EXPECT_THAT(unknown.err, AllOf(HasSubstr("--to"), HasSubstr("lindo (.ltx)")));
 }
 
+TEST_F(CommandConvertTest, OutputThatIsClosedIsMissedAndGetsIntoNoFile) {
+    const std::string model = file("model.mps", smallModel);
+    const Surroundings closed{.input = {}, .environment = {}, .noOutput = true};
+    const std::vector<std::string> commands[] = {
+        {"convert", model, "-", "--to", "mps"}, {"show", model}, {"solve", model, "--solution", path("solution.csv")}};
+    for (const auto& arguments : commands) {
+        const Output output = run(arguments, closed);
+        EXPECT_EQ(output.exitCode, 2) << arguments[0];
+        EXPECT_THAT(output.err, HasSubstr("standard output c")) << arguments[0];
+    }
+    EXPECT_THAT(contentOf(path("solution.csv")), testing::StartsWith("kind,index"));
+}
+
 TEST_F(CommandConvertTest, ShowListsTheModelOrAPartOfIt) {
     const std::string odd = oddModel();
     const Output whole = run({"show", odd});
@@ -115,7 +128,9 @@ TEST_F(CommandConvertTest, ProfilesAreWrittenAndActInTheOrderGiven) {
     const Output refused = run({"solve", model, "--profile", file("bad.txt", "xmiter = many\n")});
     EXPECT_EQ(refused.exitCode, 2);
     EXPECT_THAT(refused.err, HasSubstr("Type mismatch for parameter 'xmiter'! Error in line: xmiter = many"));
-    EXPECT_EQ(run({"solve", model, "--profile", path("none.txt")}).exitCode, 2);
+    const Output missing = run({"solve", model, "--profile", path("none.txt")});
+    EXPECT_EQ(missing.exitCode, 2);
+    EXPECT_THAT(missing.err, HasSubstr("none.txt can't be read: No such file or directory."));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "process.h"
+#include "progress.h"
 
 namespace tarq::command {
 namespace {
@@ -48,6 +49,24 @@ TEST_F(CommandInterruptTest, StopBeforeAnySolutionSaysSo) {
         EXPECT_THAT(output.out, AllOf(HasSubstr("stopped by the user, no optimal solution yet"),
                                       testing::ContainsRegex("Objective +none"), Not(HasSubstr("Reduced cost"))));
     }
+}
+
+TEST_F(CommandInterruptTest, OtherSignalIsNoStopAndLeavesAnOlderSolution) {
+    const std::string table = file("solution.csv", "an older solution");
+    for (const int signal : {SIGALRM, SIGKILL}) {
+        Process process({"solve", file("model.mps", smallModel), "--engine", PLAYED_ENGINE, "--solution", table},
+                        folder_, {.input = {}, .environment = {"PLAYED_RUN=long"}});
+        std::this_thread::sleep_for(underWay);
+        process.send(signal);
+        EXPECT_EQ(process.wait().exitCode, -signal);
+        EXPECT_EQ(contentOf(table), "an older solution");
+    }
+}
+
+TEST(CommandProgressTest, NarrowLineKeepsTheTimeAndWhatTellsMost) {
+    const auto model = createObject<ITARQModel>("TARQModel");
+    EXPECT_EQ(progressText(*model, true, 4000, 44), "nodes 0  best -  gap -  time 1:06:40 h");
+    EXPECT_EQ(progressText(*model, true, 4000, 10), "time 1:06:40 h");
 }
 
 TEST_F(CommandInterruptTest, SecondInterruptQuitsAtOnce) {

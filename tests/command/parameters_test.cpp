@@ -62,6 +62,12 @@ TEST_F(CommandParametersTest, ListIsGroupedBySectionAndTellsTheWholeMeaning) {
                            testing::ContainsRegex("\n  xmreal +0 +0 to 2000 +Memory in MB")));
 }
 
+TEST_F(CommandParametersTest, WordIsLookedForInNamesAndMeanings) {
+    const Json found = Json::parse(run({"parameters", "NODES", "--json"}).out);
+    EXPECT_THAT(found.dump(), AllOf(HasSubstr("\"xmxnod\""), testing::Not(HasSubstr("\"xmreal\""))));
+    EXPECT_THAT(run({"parameters", "nodes"}).out, HasSubstr("IP optimization will be stopped after xmxnod nodes."));
+}
+
 TEST_F(CommandParametersTest, OneParameterIsExplainedInFullWithinTheLine) {
     const std::string out = run({"parameters", "XMREAL"}).out;
     EXPECT_THAT(out, AllOf(HasSubstr("xmreal (parameter 72)"), HasSubstr("Ressource Limits"), HasSubstr("0 to 2000"),

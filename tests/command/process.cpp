@@ -50,10 +50,11 @@ Process::Process(const std::vector<std::string>& arguments, const std::filesyste
     constexpr int writing = O_WRONLY | O_CREAT | O_TRUNC;
     posix_spawn_file_actions_addopen(&files, 0, (folder_ / "stdin").c_str(), O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&files, 1, (folder_ / "stdout").c_str(), writing, 0600);
+    if (around.noOutput) posix_spawn_file_actions_addclose(&files, 1);
     int shownEnd = -1;
     if (around.terminal) {
         winsize size{};
-        size.ws_col = 100;
+        size.ws_col = 80;
         size.ws_row = 25;
         EXPECT_EQ(openpty(&terminal_, &shownEnd, nullptr, nullptr, &size), 0);
         fcntl(terminal_, F_SETFL, O_NONBLOCK);

@@ -23,7 +23,8 @@ struct Output {
 struct Surroundings {
     std::string input;                     ///< what standard input holds
     std::vector<std::string> environment;  ///< NAME=VALUE, in addition to the test's own
-    bool terminal = false;                 ///< standard error is a terminal of 100 characters
+    bool terminal = false;                 ///< standard error is a terminal of 80 characters
+    bool noOutput = false;                 ///< standard output is closed
 };
 
 /// A running command. Its streams go to files in `folder`, or to a terminal.

@@ -68,6 +68,10 @@ TEST(CommandRunResultTest, ObjectiveIsTheIntegerSolutionsOnlyWhereThereIsOne) {
     result.ipObjective = 7;
     result.solutionStatus = Solution::IPNoSolution;
     EXPECT_EQ(result.objective(), 3);
+    EXPECT_EQ(result.bound(), std::nullopt);
+    result.integer = true;
+    EXPECT_EQ(result.objective(), std::nullopt);
+    EXPECT_EQ(result.lpValue(), 3);
     result.solutionStatus = Solution::IPSubOptimalSolution;
     EXPECT_EQ(result.objective(), 7);
 }

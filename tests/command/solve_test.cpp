@@ -59,12 +59,17 @@ TEST_F(CommandSolveTest, StandardInputIsReadLikeAFile) {
 }
 
 TEST_F(CommandSolveTest, JsonHasExactlyTheMembersThatProgramsRelyOn) {
-    const Output output = run({"solve", example("crew_schedule.mps"), "--json"});
+    const Output output = run({"solve", example("crew_schedule.mps"), "--json", "--set", "xmxmin=2"});
     ASSERT_EQ(output.exitCode, 0) << output.err;
     const Json document = Json::parse(output.out);
-    EXPECT_THAT(membersOf(document), ElementsAre("file", "model", "status", "solverStatus", "solutionStatus",
-                                                 "objective", "lpObjective", "ipObjective", "bestPossible",
-                                                 "iterations", "nodes", "integerSolutions", "seconds", "message"));
+    EXPECT_THAT(membersOf(document),
+                ElementsAre("file", "version", "engine", "direction", "parameters", "model", "status", "solverStatus",
+                            "solutionStatus", "objective", "lpObjective", "ipObjective", "bestPossible", "iterations",
+                            "nodes", "integerSolutions", "seconds", "message"));
+    EXPECT_THAT(document["engine"].get<std::string>(), testing::StartsWith("HiGHS "));
+    EXPECT_EQ(document["direction"], "min");
+    EXPECT_EQ(document["parameters"]["xmxmin"], 2);
+    EXPECT_FALSE(document["parameters"].contains("xglgap"));
     EXPECT_THAT(membersOf(document["model"]), ElementsAre("name", "columns", "rows", "nonzeros", "integer"));
     EXPECT_THAT(membersOf(document["seconds"]), ElementsAre("read", "solve"));
     EXPECT_EQ(document["model"]["name"], "CREWPLAN");
@@ -114,7 +119,44 @@ TEST_F(CommandSolveTest, ModelsWithoutSolutionGiveTheirStatusAndExitCode3) {
         const Output json = run(arguments);
         EXPECT_EQ(json.exitCode, 3);
         EXPECT_EQ(Json::parse(json.out)["solutionStatus"]["name"], one.status);
+        EXPECT_TRUE(Json::parse(json.out)["objective"].is_null());
     }
+}
+
+TEST_F(CommandSolveTest, JsonOfAFailureTellsItWithItsLineAndWhatIsKnown) {
+    const std::string model = file("model.mps", smallModel);
+    const std::string broken = file("broken.mps", "NAME          X\nROW\n");
+    struct {
+        std::vector<std::string> options;
+        int exitCode;
+        Json status, line;
+        const char* text;
+        bool modelIsKnown;
+    } const cases[] = {{{broken}, 2, 0x8004102AU, 2, "ROWS indicator expected", false},
+                       {{path("none.mps")}, 2, 0x80041028U, Json(), "No such file", false},
+                       {{model, "--set", "xglgap=2"}, 1, 0x80041017U, Json(), "0 to 1", true},
+                       {{model, "--solution", path("none/a.csv")}, 2, Json(), Json(), "can't be written", true}};
+    for (const auto& one : cases) {
+        std::vector<std::string> arguments{"solve", "--json"};
+        arguments.insert(arguments.end(), one.options.begin(), one.options.end());
+        const Output output = run(arguments);
+        SCOPED_TRACE(output.out);
+        EXPECT_EQ(output.exitCode, one.exitCode);
+        const Json document = Json::parse(output.out);
+        EXPECT_EQ(document["error"]["status"], one.status);
+        EXPECT_EQ(document["error"]["line"], one.line);
+        EXPECT_THAT(document["error"]["text"].get<std::string>(), HasSubstr(one.text));
+        EXPECT_EQ(document["model"].is_object(), one.modelIsKnown);
+        EXPECT_TRUE(document["objective"].is_null() && document["solverStatus"].is_null());
+    }
+}
+
+TEST_F(CommandSolveTest, BoundsThatOtherProgramsReadDifferentlyAreNoted) {
+    const std::string model =
+        file("model.mps", smallModelWith(" MI BOUND     X\n UP BOUND     X                    3\n MI BOUND     Y\n"));
+    EXPECT_THAT(run({"solve", model}).err, HasSubstr("note: 1 MI bound also set the upper bound to 0; "));
+    EXPECT_EQ(run({"solve", model, "--quiet"}).err, "");
+    EXPECT_EQ(run({"convert", file("none.mps", smallModel), path("a.tri")}).err, "");
 }
 
 TEST_F(CommandSolveTest, LimitReportsTheBestSolutionSoFarWithExitCode4) {

@@ -20,7 +20,8 @@ TEST_F(CommandUsageTest, WrongUsageIsExplainedOnStandardErrorOnly) {
     };
     const Case cases[] = {
         {{}, "no command was given"},
-        {{"explode"}, "explode"},
+        {{"explode"}, "there is no command 'explode'. The commands are solve, convert"},
+        {{"solv", model}, "Did you mean solve?"},
         {{"solve"}, "FILE"},
         {{"solve", model, "--fast"}, "--fast"},
         {{"solve", model, "more"}, "more"},
@@ -35,7 +36,10 @@ TEST_F(CommandUsageTest, WrongUsageIsExplainedOnStandardErrorOnly) {
         {{"solve", model, "--set", "xmreal=2001"}, "Passed value is not within valid range.\nxmreal takes 0 to 2000."},
         {{"solve", model, "--set", "xmreal=much"}, "xmreal takes a whole number, 0 to 2000."},
         {{"solve", model, "--set", "xglgap=much"}, "xglgap takes a number, 0 to 1."},
-        {{"solve", model, "--set", "xminmx=downwards"}, "xminmx takes at most 8 characters."},
+        {{"solve", model, "--set", "xglgap=0,01"}, "xglgap takes a number, 0 to 1. The decimal mark is a point."},
+        {{"solve", model, "--set", "xglgap=nan"}, "xglgap takes a number"},
+        {{"solve", model, "--set", "xmxnod=1e3"}, "xmxnod takes a whole number"},
+        {{"solve", model, "--set", "xminmx=maximize"}, "xminmx takes min or max."},
         {{"solve", model, "--solution", model}, "would overwrite the model"},
         {{"solve", model, "--solution", "-"}, "--solution needs the name of a file"},
         {{"solve", model, "--engine", std::string(256, 'e')}, "255 characters"},
