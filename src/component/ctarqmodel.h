@@ -21,15 +21,15 @@
 #include "interfaces/classids.h"
 #include "interfaces/itarqmodel.h"
 #include "interfaces/itarqmodelevents.h"
+#include "languages/languagetarget.h"
 #include "model/modelstore.h"
-#include "modelfiles/modelfile.h"
 #include "parameters/parametertable.h"
 
 namespace tarq {
 
 // Two members are published with a leading underscore and a capital, and the last reference alone may delete the
 class CTARQModel final : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo>,
-                         private ModelFileTarget {
+                         private LanguageTarget {
 public:
     CTARQModel() = default;
     Status finalConstruct();
@@ -168,11 +168,15 @@ private:
     friend std::default_delete<CTARQModel>;
     ~CTARQModel() = default;
 
-    // The model that a file reader fills.
+    // The model that the readers of files and languages fill.
     ModelStore& store() override { return store_; }
     void clearModel() override;
     void setModelName(std::string name) override { modelName_ = std::move(name); }
     void setParameter(std::string_view name, std::string_view value) override;
+    [[nodiscard]] std::size_t outputLimit() const override {
+        return static_cast<std::size_t>(amplOutputBufferMaxSize_);
+    }
+    void setOutput(std::string bytes) override;
 
     void resetSolution();
     RunModel runModel();

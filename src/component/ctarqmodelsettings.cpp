@@ -1,6 +1,7 @@
 // CTARQModel: birth, clearing, names, locations and the other properties that need no room of their own.
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
@@ -48,6 +49,8 @@ void CTARQModel::setParameter(std::string_view name, std::string_view value) {
     // A refused value leaves the parameter as it was, and the reader goes on.
     (void)writeParameter(parameters_, name, Variant(value), store_.infinity());
 }
+
+void CTARQModel::setOutput(std::string bytes) { amplOutputBuffer_ = wellFormedText(std::move(bytes)); }
 
 Status CTARQModel::Test() { return status::ok; }
 

@@ -3,9 +3,8 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <exception>
-#include <string_view>
+#include <type_traits>
 
 #include "platform/dynamiclibrary.h"
 
@@ -24,13 +23,13 @@ struct FixedText {
 
 /// One function of a library, with the result that stands for a call when the library lacks it or lets an exception
 /// out of it.
-template <FixedText exportedName, class Function, std::int32_t emptyResult>
+template <FixedText exportedName, class Function, auto emptyResult>
 struct Slot {
     static constexpr const char* name = exportedName.text;
     Function* function = nullptr;
 
     template <class... Arguments>
-    std::int32_t operator()(Arguments... arguments) const {
+    std::invoke_result_t<Function*, Arguments...> operator()(Arguments... arguments) const {
         try {
             return function != nullptr ? function(arguments...) : emptyResult;
         } catch (const std::exception&) {
@@ -59,7 +58,7 @@ private:
         slot.function = reinterpret_cast<decltype(slot.function)>(library.symbol(SlotType::name));
     }
 
-    template <FixedText name, class Function, std::int32_t emptyResult>
+    template <FixedText name, class Function, auto emptyResult>
     static const Slot<name, Function, emptyResult>& find(const Slot<name, Function, emptyResult>& slot) {
         return slot;
     }
