@@ -4,14 +4,14 @@ include(CMakePackageConfigHelpers)
 
 # Inside the project a header is named by its room ("frame/variant.h"); outside, everything lies under tarq/.
 set(public_headers
-  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h
+  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h component/serverregistry.h
   frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
   frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
   frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h)
 file(GLOB interface_headers RELATIVE "${CMAKE_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/interfaces/*.h")
 list(APPEND public_headers ${interface_headers})
 set(staged "${CMAKE_BINARY_DIR}/public-headers")
-foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
+foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h)
   if(header MATCHES "/")
     set(origin "${CMAKE_SOURCE_DIR}/src/${header}")
   else()
