@@ -29,7 +29,10 @@ install(TARGETS tarqcom EXPORT tarq
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(TARGETS tarq_engine_highs LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(TARGETS tarq_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS tarq_command tarq_ampl_driver RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# Programs for the component alone, which looks for them from its own folder.
+set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
+install(TARGETS tarq_stub RUNTIME DESTINATION "${own_programs_folder}")
 install(FILES LICENSE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
 

@@ -2,46 +2,21 @@
 
 #include <dlfcn.h>
 
-#include <algorithm>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
+
+#include "platform/extension.h"
+#include "platform/owndirectory.h"
 
 namespace tarq {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Directory of the file that this code was linked into; empty when the system can't tell.
-fs::path findOwnDirectory() {
-    Dl_info info{};
-    std::error_code error;
-    if (dladdr(reinterpret_cast<const void*>(&findOwnDirectory), &info) != 0 && info.dli_fname != nullptr) {
-        const fs::path file = info.dli_fname;
-        if (file.has_parent_path()) return fs::absolute(file, error).parent_path();
-    }
-    // A program that was found through PATH is known to the loader by its plain name only.
-    return fs::read_symlink("/proc/self/exe", error).parent_path();
-}
-
-const fs::path& ownDirectory() {
-    static const fs::path directory = findOwnDirectory();
-    return directory;
-}
-
-bool endsWithDll(std::string_view name) {
-    constexpr std::string_view extension = ".dll";
-    if (name.size() <= extension.size()) return false;
-    name.remove_prefix(name.size() - extension.size());
-    return std::ranges::equal(name, extension, [](char found, char wanted) {
-        return (found >= 'A' && found <= 'Z' ? found - 'A' + 'a' : found) == wanted;
-    });
-}
-
 /// The name that a conventional one stands for here, libNAME.so for NAME.dll; empty for other names.
 fs::path nativeName(const fs::path& path) {
     const std::string file = path.filename().string();
-    if (!endsWithDll(file)) return {};
+    if (!hasExtension(file, ".dll")) return {};
     return path.parent_path() / ("lib" + file.substr(0, file.size() - 4) + ".so");
 }
 
