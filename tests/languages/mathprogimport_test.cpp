@@ -1,17 +1,9 @@
 #include "languages/mathprogimport.h"
 
-#include <gtest/gtest.h>
-#include <stdlib.h>
-
-#include <filesystem>
-#include <fstream>
-
-#include "tests/support/outcomematchers.h"
+#include "tests/languages/importfixture.h"
 
 namespace tarq {
 namespace {
-
-namespace fs = std::filesystem;
 
 struct ScriptedColumn {
     std::int32_t type, kind;
@@ -29,8 +21,8 @@ struct Script {
     std::vector<ScriptedColumn> columns;
     std::vector<ScriptedRow> rows;
     std::int32_t result = 0, problemClass = 101, direction = MP_DIR_MIN;
-    std::string listing = "listing";
-    std::string listingFile;
+    std::string listing = std::string(2000, 'l');
+    std::int32_t calls = 0;
     bool hadData = false;
 } script;
 
@@ -41,7 +33,8 @@ MathProgLibrary scriptedLibrary() {
     MathProgLibrary library;
     library.slot<"mp_read_model2">().function = [](const char*, const char* data, const char* output) {
         script.hadData = data != nullptr;
-        std::ofstream(script.listingFile = output) << script.listing;
+        ++script.calls;
+        std::ofstream(output) << script.listing;
         return script.result;
     };
     library.slot<"mp_get_class">().function = [] { return script.problemClass; };
@@ -65,32 +58,21 @@ MathProgLibrary scriptedLibrary() {
     return library;
 }
 
-class MathProgImportTest : public testing::Test, protected LanguageTarget {
+class MathProgImportTest : public ImportTest {
 protected:
-    MathProgImportTest() {
-        script = {};
-        std::ofstream(modelFile) << "end;";
-        (void)store_.addColumnRecord({.name = "old"});
-    }
-    ModelStore& store() override { return store_; }
-    void clearModel() override { store_.clear(), output_.clear(); }
-    void setModelName(std::string /*name*/) override {}
-    void setParameter(std::string_view name, std::string_view value) override { (parameter_ = name) += value; }
-    [[nodiscard]] std::size_t outputLimit() const override { return 4; }
-    void setOutput(std::string bytes) override { output_ = std::move(bytes); }
+    MathProgImportTest() { script = {}; }
 
     Outcome import(const Variant& data = Variant::missing()) {
-        return importMathProgModel(library, modelFile, data, *this);
+        return importMathProgModel(library, modelFile, data, model);
     }
     [[nodiscard]] double nonzero(std::int32_t column, std::int32_t row) const {
         double value = 0.0;
-        return store_.findNonzero(column, row, value) ? value : 0.0;
+        return store.findNonzero(column, row, value) ? value : 0.0;
     }
 
-    const std::string modelFile = testing::TempDir() + "tarq-import.mod";
+    const std::string modelFile = file("a.mod", "end;");
     MathProgLibrary library = scriptedLibrary();
-    ModelStore store_;
-    std::string parameter_, output_;
+    const ModelStore& store = model.store_;
 };
 
 TEST_F(MathProgImportTest, TypesTellTheBoundsAndTheFirstFreeRowIsTheObjective) {
@@ -106,28 +88,28 @@ TEST_F(MathProgImportTest, TypesTellTheBoundsAndTheFirstFreeRowIsTheObjective) {
     const std::pair<double, double> bounds[] = {{-none, none}, {3, none}, {-none, 4}, {0, 1}, {3, 4}, {0, 5}};
     using enum TARQColType;
     const TARQColType types[] = {Continuous, Integer, Integer, Binary, Continuous, Integer};
-    ASSERT_EQ(store_.columnCount(), 6);
+    ASSERT_EQ(store.columnCount(), 6);
     for (std::int32_t position = 0; position < 6; ++position) {
-        const ColumnRecord& column = store_.column(position);
+        const ColumnRecord& column = store.column(position);
         EXPECT_EQ(std::pair(column.lowerBound, column.upperBound), bounds[position]) << position;
         EXPECT_EQ(column.type, types[position]) << position;
     }
-    EXPECT_EQ(store_.column(3).cost, 5);
-    EXPECT_EQ(store_.column(4).name, "");
-    ASSERT_EQ(store_.rowCount(), 3);
-    EXPECT_EQ(store_.row(1).name, "second");
-    EXPECT_EQ(store_.row(1).lowerBound, -none);
-    EXPECT_EQ(store_.row(2).upperBound, 8);
-    EXPECT_EQ(store_.nonzeros().size(), 3) << "neither a zero, nor the objective's, nor of a column that isn't there";
+    EXPECT_EQ(store.column(3).cost, 5);
+    EXPECT_EQ(store.column(4).name, "");
+    ASSERT_EQ(store.rowCount(), 3);
+    EXPECT_EQ(store.row(1).name, "second");
+    EXPECT_EQ(store.row(1).lowerBound, -none);
+    EXPECT_EQ(store.row(2).upperBound, 8);
+    EXPECT_EQ(store.nonzeros().size(), 3) << "neither a zero, nor the objective's, nor of a column that isn't there";
     EXPECT_EQ(nonzero(1, 1) + nonzero(3, 2) + nonzero(4, 3), 80);
-    EXPECT_EQ(parameter_, "xminmxmax");
-    EXPECT_EQ(output_, "list") << "as much as the target keeps";
+    EXPECT_EQ(model.parameters_["xminmx"], "max");
+    EXPECT_EQ(model.output_, script.listing.substr(0, 1024)) << "as much as the target keeps";
     EXPECT_FALSE(script.hadData);
-    EXPECT_FALSE(fs::exists(script.listingFile));
+    EXPECT_TRUE(left().empty());
 
     script.problemClass = MP_CLASS_LP;
     ASSERT_TRUE(import(Variant(modelFile)).isOk());
-    EXPECT_FALSE(store_.hasIntegerColumn());
+    EXPECT_FALSE(store.hasIntegerColumn());
     EXPECT_TRUE(script.hadData);
 }
 
@@ -135,9 +117,9 @@ TEST_F(MathProgImportTest, WithoutAFreeRowTheNonzerosAreStoredOneRowUp) {
     script.columns = {{111, 160, 0, 0, 1, "x"}};
     script.rows = {{114, 1, 1, "a", {{1, 10}}}, {114, 2, 2, "b", {{1, 20}}}};
     ASSERT_TRUE(import().isOk());
-    EXPECT_EQ(store_.rowCount(), 2);
+    EXPECT_EQ(store.rowCount(), 2);
     EXPECT_EQ(nonzero(1, 1), 20);
-    EXPECT_EQ(store_.nonzeros().size(), 1);
+    EXPECT_EQ(store.nonzeros().size(), 1);
 }
 
 TEST_F(MathProgImportTest, FailuresBeforeTheCopyLeaveTheModel) {
@@ -145,23 +127,25 @@ TEST_F(MathProgImportTest, FailuresBeforeTheCopyLeaveTheModel) {
     library.slot<"mp_get_obj_dir">().function = nullptr;
     EXPECT_THAT(import(), failsWith(Status(0x80041012), "Could not get MathProg.DLL function handles."));
     library = scriptedLibrary();
-    EXPECT_THAT(importMathProgModel(library, "/nowhere/a.mod", Variant::missing(), *this),
+    EXPECT_THAT(importMathProgModel(library, "/nowhere/a.mod", Variant::missing(), model),
                 failsWith(Status(0x80041030), "Could not find .MOD file. Bad path."));
     EXPECT_THAT(import(Variant(3)), failsWith(Status(0x80041031), "Bad argument for .DAT filename."));
-    EXPECT_THAT(import(Variant(modelFile + "x")), failsWith(Status(0x80041030), "Could not find .DAT file. Bad filename."));
+    EXPECT_THAT(import(Variant(modelFile + "x")),
+                failsWith(Status(0x80041030), "Could not find .DAT file. Bad filename."));
+    const std::string folder = std::getenv("TMPDIR");
     setenv("TMPDIR", "/nowhere", 1);
     EXPECT_THAT(import(), failsWith(Status(0x80041023), "AMPL I/O Error."));
-    unsetenv("TMPDIR");
-    EXPECT_EQ(script.listingFile, "") << "the library wasn't called";
+    EXPECT_EQ(script.calls, 0);
+    setenv("TMPDIR", folder.c_str(), 1);
     script.result = 1;
     EXPECT_THAT(import(), failsWith(Status(0x80041021), "Error in MathProg model."));
-    EXPECT_EQ(output_, "list");
-    EXPECT_FALSE(fs::exists(script.listingFile));
-    EXPECT_EQ(store_.findColumn("old"), 0);
+    EXPECT_EQ(model.output_.size(), 1024U);
+    EXPECT_TRUE(left().empty());
+    EXPECT_TRUE(model.isOld());
     script.result = 0;
     script.columns = {{111, 160, 0, 0, 1, "x"}, {111, 160, 0, 0, 1, "x"}};
     EXPECT_THAT(import(), failsWith(Status(0x80041026), "Duplicate col name: x"));
-    EXPECT_EQ(store_.columnCount(), 1) << "what was added so far";
+    EXPECT_EQ(store.columnCount(), 1) << "what was added so far";
 }
 
 }  // namespace
