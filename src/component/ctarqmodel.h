@@ -22,6 +22,7 @@
 #include "interfaces/itarqmodel.h"
 #include "interfaces/itarqmodelevents.h"
 #include "languages/languagetarget.h"
+#include "languages/mplimport.h"
 #include "model/modelstore.h"
 #include "parameters/parametertable.h"
 
@@ -193,8 +194,7 @@ private:
     std::string locationOfTarqAmplExe_ = "tarqampl.exe";
     std::string amplOutputBuffer_;
     std::int32_t amplOutputBufferMaxSize_ = 0x200000;
-    std::string mplErrorMessage_;
-    std::int32_t mplErrorLine_ = 0;
+    MplError mplError_;
     std::string mplWorkingDirectory_;
     bool requiresSave_ = false;
     ConnectionPoint events_{static_cast<ITARQModel&>(*this), _ITARQModelEvents::id};

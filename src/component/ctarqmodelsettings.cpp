@@ -136,14 +136,6 @@ Status CTARQModel::put_MPLWorkingDirectory(const std::string& value) {
     return guarded(classid::TARQModel, [&] { return storePath(mplWorkingDirectory_, value); });
 }
 
-Status CTARQModel::get_MPLErrorMessage(std::string* value) {
-    return guardedGet(value, [&] { return mplErrorMessage_; });
-}
-
-Status CTARQModel::get_MPLErrorLine(std::int32_t* value) {
-    return guardedGet(value, [&] { return mplErrorLine_; });
-}
-
 Status CTARQModel::get_AMPLOutputBuffer(std::string* value) {
     return guardedGet(value, [&] { return amplOutputBuffer_; });
 }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <exception>
+#include <string_view>
 #include <type_traits>
 
 #include "platform/dynamiclibrary.h"
@@ -50,6 +51,16 @@ struct SlotTable : Slots... {
     [[nodiscard]] const auto& slot() const {
         return find<name>(*this);
     }
+    template <FixedText name>
+    [[nodiscard]] auto& slot() {
+        return find<name>(*this);
+    }
+
+    /// True when every slot is bound but, at most, those of these names.
+    template <FixedText... optionalNames>
+    [[nodiscard]] bool isBoundBut() const {
+        return (isBoundOr<Slots, optionalNames...>() && ...);
+    }
 
 private:
     template <class SlotType>
@@ -58,8 +69,18 @@ private:
         slot.function = reinterpret_cast<decltype(slot.function)>(library.symbol(SlotType::name));
     }
 
+    template <class SlotType, FixedText... optionalNames>
+    [[nodiscard]] bool isBoundOr() const {
+        const SlotType& slot = *this;
+        return slot.function != nullptr || ((std::string_view(optionalNames.text) == SlotType::name) || ...);
+    }
+
     template <FixedText name, class Function, auto emptyResult>
     static const Slot<name, Function, emptyResult>& find(const Slot<name, Function, emptyResult>& slot) {
+        return slot;
+    }
+    template <FixedText name, class Function, auto emptyResult>
+    static Slot<name, Function, emptyResult>& find(Slot<name, Function, emptyResult>& slot) {
         return slot;
     }
 };
