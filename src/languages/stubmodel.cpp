@@ -13,7 +13,7 @@ namespace tarq {
 namespace {
 
 // Room for more records is made as they come.
-constexpr std::int32_t expectedRecords = 65'536;
+constexpr std::int32_t expectedRecords = 1 << 20;
 
 bool isNonlinear(const stub::Sizes& sizes) {
     return sizes.nonlinearObjectives > 0 || sizes.nonlinearRows > 0 || sizes.nonlinearNetworkRows > 0 ||
