@@ -4,14 +4,14 @@ include(CMakePackageConfigHelpers)
 
 # Inside the project a header is named by its room ("frame/variant.h"); outside, everything lies under tarq/.
 set(public_headers
-  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h
+  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h component/serverregistry.h
   frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
   frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
   frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h)
 file(GLOB interface_headers RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/interfaces/*.h")
 list(APPEND public_headers ${interface_headers})
 set(staged "${PROJECT_BINARY_DIR}/public-headers")
-foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
+foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h)
   if(header MATCHES "/")
     set(origin "${PROJECT_SOURCE_DIR}/src/${header}")
   else()
@@ -24,12 +24,15 @@ foreach(header IN ITEMS ${public_headers} tarq.h engine.h)
 endforeach()
 install(DIRECTORY "${staged}/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 
-# The engine lies beside the component, where the component looks first.
+# The engine and the MathProg library lie beside the component, where the component looks first.
 install(TARGETS tarqcom EXPORT tarq
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
-install(TARGETS tarq_engine_highs LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(TARGETS tarq_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS tarq_engine_highs tarq_mathprog_glpk LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS tarq_command tarq_ampl_driver RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# Programs for the component alone, which looks for them from its own folder.
+set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
+install(TARGETS tarq_stub tarq_mathprog_reader RUNTIME DESTINATION "${own_programs_folder}")
 install(FILES LICENSE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
 

@@ -5,6 +5,7 @@
 #include "component/classtable.h"
 #include "component/createobject.h"
 #include "component/eventsink.h"
+#include "component/serverregistry.h"
 #include "frame/connectionpoint.h"
 #include "frame/dispatch.h"
 #include "frame/membertable.h"

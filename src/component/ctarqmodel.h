@@ -22,8 +22,9 @@
 #include "interfaces/ireadingnotes.h"
 #include "interfaces/itarqmodel.h"
 #include "interfaces/itarqmodelevents.h"
+#include "languages/languagetarget.h"
+#include "languages/mplimport.h"
 #include "model/modelstore.h"
-#include "modelfiles/modelfile.h"
 #include "parameters/parametertable.h"
 
 namespace tarq {
@@ -31,7 +32,7 @@ namespace tarq {
 // Two members are published with a leading underscore and a capital, and the last reference alone may delete the
 class CTARQModel final
     : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo, IReadingNotes>,
-      private ModelFileTarget {
+      private LanguageTarget {
 public:
     CTARQModel() = default;
     Status finalConstruct();
@@ -172,12 +173,16 @@ private:
     friend std::default_delete<CTARQModel>;
     ~CTARQModel() = default;
 
-    // The model that a file reader fills.
+    // The model that the readers of files and languages fill.
     ModelStore& store() override { return store_; }
     void clearModel() override;
     void setModelName(std::string name) override { modelName_ = std::move(name); }
     void setParameter(std::string_view name, std::string_view value) override;
     void setReadingNotes(const ReadingNotes& notes) override { readingNotes_ = notes; }
+    [[nodiscard]] std::size_t outputLimit() const override {
+        return static_cast<std::size_t>(amplOutputBufferMaxSize_);
+    }
+    void setOutput(std::string bytes) override;
 
     void resetSolution();
     RunModel runModel();
@@ -195,8 +200,7 @@ private:
     std::string locationOfTarqAmplExe_ = "tarqampl.exe";
     std::string amplOutputBuffer_;
     std::int32_t amplOutputBufferMaxSize_ = 0x200000;
-    std::string mplErrorMessage_;
-    std::int32_t mplErrorLine_ = 0;
+    MplError mplError_;
     std::string mplWorkingDirectory_;
     bool requiresSave_ = false;
     ConnectionPoint events_{static_cast<ITARQModel&>(*this), _ITARQModelEvents::id};

@@ -3,19 +3,6 @@
 
 namespace tarq {
 
-// NOLINTBEGIN(bugprone-reserved-identifier)
-Status CTARQModel::ExecuteAMPLModel(const std::string& /*MODFileName*/) { return status::notImplemented; }
-Status CTARQModel::ReadAMPLModel(const std::string& /*MODFileName*/, const ValueList& /*DATFileNames*/) {
-    return status::notImplemented;
-}
-Status CTARQModel::ReadMathProgModel(const std::string& /*MODFileName*/, const Variant& /*DATFileName*/) {
-    return status::notImplemented;
-}
-Status CTARQModel::ReadMPLModel(const std::string& /*FileName*/) { return status::notImplemented; }
 Status CTARQModel::ShowPropertyPage(std::int32_t* /*pbDirty*/) { return status::notImplemented; }
-Status CTARQModel::get_IsMPLAvailable(std::int32_t* /*value*/) { return status::notImplemented; }
-Status CTARQModel::ReadAMPLStub(const std::string& /*StubFileName*/) { return status::notImplemented; }
-Status CTARQModel::_WriteAMPLSolStub(const std::string& /*StubFileName*/) { return status::notImplemented; }
-// NOLINTEND(bugprone-reserved-identifier)
 
 }  // namespace tarq

@@ -1,6 +1,7 @@
 // CTARQModel: birth, clearing, names, locations and the other properties that need no room of their own.
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
@@ -49,6 +50,8 @@ void CTARQModel::setParameter(std::string_view name, std::string_view value) {
     // A refused value leaves the parameter as it was, and the reader goes on.
     (void)writeParameter(parameters_, name, Variant(value), store_.infinity());
 }
+
+void CTARQModel::setOutput(std::string bytes) { amplOutputBuffer_ = wellFormedText(std::move(bytes)); }
 
 Status CTARQModel::Test() { return status::ok; }
 
@@ -132,14 +135,6 @@ Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
 
 Status CTARQModel::put_MPLWorkingDirectory(const std::string& value) {
     return guarded(classid::TARQModel, [&] { return storePath(mplWorkingDirectory_, value); });
-}
-
-Status CTARQModel::get_MPLErrorMessage(std::string* value) {
-    return guardedGet(value, [&] { return mplErrorMessage_; });
-}
-
-Status CTARQModel::get_MPLErrorLine(std::int32_t* value) {
-    return guardedGet(value, [&] { return mplErrorLine_; });
 }
 
 Status CTARQModel::get_AMPLOutputBuffer(std::string* value) {

@@ -7,8 +7,8 @@
 #pragma once
 
 #include "engine/engineinterface.h"
-#include "engine/slottable.h"
 #include "platform/dynamiclibrary.h"
+#include "platform/slottable.h"
 
 namespace tarq {
 

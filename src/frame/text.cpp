@@ -24,14 +24,15 @@ bool canFollow(unsigned char lead, unsigned char second) {
     return true;
 }
 
-/// Bytes of the well-formed character that `text` begins with, 1 when it begins with none.
-std::size_t characterSize(std::string_view text) {
+/// Bytes of the well-formed character that `text` begins with, 0 when it begins with none.
+std::size_t wellFormedSize(std::string_view text) {
     const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < 0x80) return 1;
     const std::size_t size = sizeByLead(lead);
-    if (size == 1 || text.size() < size) return 1;
+    if (size == 1 || text.size() < size) return 0;
     const bool isWellFormed = std::ranges::all_of(text.substr(1, size - 1), isContinuation) &&
                               canFollow(lead, static_cast<unsigned char>(text[1]));
-    return isWellFormed ? size : 1;
+    return isWellFormed ? size : 0;
 }
 
 }  // namespace
@@ -39,11 +40,29 @@ std::size_t characterSize(std::string_view text) {
 std::size_t utf16Length(std::string_view text) {
     std::size_t length = 0;
     while (!text.empty()) {
-        const std::size_t size = characterSize(text);
+        const std::size_t size = wellFormedSize(text);
         length += size == 4 ? 2 : 1;
-        text.remove_prefix(size);
+        text.remove_prefix(std::max<std::size_t>(size, 1));
     }
     return length;
+}
+
+std::string wellFormedText(std::string bytes) {
+    constexpr std::string_view replacement = "\xEF\xBF\xBD";
+    std::string text;
+    bool anyReplaced = false;
+    std::size_t done = 0;  // bytes that are in `text` already
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t size = wellFormedSize(std::string_view(bytes).substr(at));
+        if (size == 0) {
+            text.append(bytes, done, at - done).append(replacement);
+            done = at + 1;
+            anyReplaced = true;
+        }
+        at += std::max<std::size_t>(size, 1);
+    }
+    if (!anyReplaced) return bytes;
+    return text.append(bytes, done);
 }
 
 bool equalWithoutCase(std::string_view left, std::string_view right) noexcept {

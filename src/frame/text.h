@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace tarq {
@@ -9,6 +10,10 @@ namespace tarq {
 /// Length of a UTF-8 text in UTF-16 code units, the unit of every limit on wide characters. A byte that belongs to no
 /// well-formed character counts as one, as it becomes one replacement character. Linear.
 [[nodiscard]] std::size_t utf16Length(std::string_view text);
+
+/// Bytes from outside as text: each byte that belongs to no well-formed character becomes U+FFFD, all else stays.
+/// Linear.
+[[nodiscard]] std::string wellFormedText(std::string bytes);
 
 /// An ASCII capital as its small letter; any other byte as it is.
 [[nodiscard]] constexpr char lowerCased(char character) noexcept {

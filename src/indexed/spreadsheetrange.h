@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-#include "frame/dispatch.h"
 #include "frame/guid.h"
+#include "frame/latebound.h"
 #include "frame/status.h"
 #include "frame/variant.h"
 
@@ -34,7 +34,7 @@ public:
 private:
     Outcome countOf(std::int32_t member, std::int32_t& count) const;
 
-    Ref<IDispatch> range_;
+    LateBound range_;
 };
 
 }  // namespace tarq

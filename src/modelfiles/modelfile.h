@@ -5,30 +5,15 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "frame/status.h"
 #include "interfaces/enumerations.h"
-#include "interfaces/ireadingnotes.h"
-#include "model/modelstore.h"
+#include "model/modeltarget.h"
 
 namespace tarq {
 
 /// The model that a reader fills.
-class ModelFileTarget {
-public:
-    virtual ModelStore& store() = 0;
-    /// Empties the model; called before the first record is added.
-    virtual void clearModel() = 0;
-    virtual void setModelName(std::string name) = 0;
-    /// Stores a text in a solver parameter, through the same checks as a client's put.
-    virtual void setParameter(std::string_view name, std::string_view value) = 0;
-    /// Told at the end of a file that was read whole, by readers that have something to note.
-    virtual void setReadingNotes(const ReadingNotes& /*notes*/) {}
-
-protected:
-    ~ModelFileTarget() = default;
-};
+using ModelFileTarget = ModelTarget;
 
 /// Reads `fileName` into `target`. Failures before the reader starts leave the target as it was; a parse failure leaves
 /// what was read so far.

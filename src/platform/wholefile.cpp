@@ -53,4 +53,15 @@ std::optional<std::string> readWholeFile(const std::string& fileName) {
     return text;
 }
 
+std::string readStartOfFile(const std::string& fileName, std::size_t limit) {
+    std::ifstream file(pathOf(fileName), std::ios::binary);
+    std::string text;
+    std::vector<char> piece(std::min(limit, longestPiece));
+    while (file && text.size() < limit) {
+        file.read(piece.data(), static_cast<std::streamsize>(std::min(piece.size(), limit - text.size())));
+        text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+    }
+    return text;
+}
+
 }  // namespace tarq

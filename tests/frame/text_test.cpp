@@ -26,6 +26,14 @@ TEST(TextTest, LengthCountsUtf16UnitsAndEachStrayByteOnce) {
     for (const auto& row : cases) EXPECT_EQ(utf16Length(row.text), row.length) << row.text;
 }
 
+TEST(TextTest, StrayBytesBecomeReplacementCharacters) {
+    EXPECT_EQ(wellFormedText("a\u20ac\U0001F600"), "a\u20ac\U0001F600");
+    EXPECT_EQ(wellFormedText("\xFF"
+                             "a\xE2\x82"
+                             "b\xC3"),
+              "\uFFFDa\uFFFD\uFFFDb\uFFFD");
+}
+
 TEST(TextTest, CaseOfAsciiLettersAloneIsForgiven) {
     EXPECT_TRUE(equalWithoutCase("tarq.TARQModel", "TARQ.tarqmodel"));
     EXPECT_FALSE(equalWithoutCase("model", "models"));

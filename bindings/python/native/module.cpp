@@ -13,6 +13,7 @@
 #include "interpreterlock.h"
 #include "member.h"
 #include "proxy.h"
+#include "servers.h"
 #include "sink.h"
 #include "standin.h"
 #include "values.h"
@@ -61,6 +62,12 @@ void addFunctions(py::module_& module) {
         "Subscribes to an object's events and returns the cookie that unadvise takes.\n\nsink: a callable, or an "
         "object that has a method named like the event. It may be called on another thread.");
     module.def("unadvise", unadvise, py::arg("obj"), py::arg("cookie"), "Ends a subscription to an object's events.");
+    module.def("register_server", registerServer, py::arg("prog_id"), py::arg("factory"),
+               "Enters an automation server for this process, such as \"MPLLib.OptiMax.1\".\n\nfactory: a callable "
+               "without arguments that returns a tarq.Dispatch object or one of this package. A server entered under "
+               "the name before, in any case, is replaced.");
+    module.def("unregister_server", unregisterServer, py::arg("prog_id"),
+               "Takes an automation server away; an unknown name does nothing.");
     module.def(
         "last_status", [] { return lastStatus().value(); },
         "Status of the calling thread's last call into the component, as an unsigned number.");

@@ -56,6 +56,12 @@ def unadvise(obj: Object, cookie: int) -> None:
 
 def advise(obj: Object, sink: Any) -> int:
     """{advise}"""
+
+def register_server(prog_id: str, factory: Callable[[], Dispatch | Object]) -> None:
+    """{register_server}"""
+
+def unregister_server(prog_id: str) -> None:
+    """{unregister_server}"""
 '''
 
 
@@ -71,7 +77,7 @@ def indented(lines, depth=1):
 def head():
     texts = {
         name: inspect.getdoc(getattr(tarq, name)).split("\n\n", 1)[-1].replace("\n", " ")
-        for name in ("last_status", "unadvise", "advise")
+        for name in ("last_status", "unadvise", "advise", "register_server", "unregister_server")
     }
     return HEAD.format(summary=tarq.__doc__.splitlines()[0], **texts)
 

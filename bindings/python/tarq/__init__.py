@@ -20,14 +20,14 @@ from . import _enumerations, _tarq
 from ._dispatch import Dispatch
 from ._errors import ArgumentError, Error, MemberError
 from ._missing import Missing, MissingType
-from ._tarq import Object, advise, create, last_status, unadvise
+from ._tarq import Object, advise, create, last_status, register_server, unadvise, unregister_server
 
 __version__ = _tarq.version
 
 globals().update(_tarq.class_types())
 globals().update(_enumerations.make_enumerations())
 
-for function in (advise, create, last_status, unadvise):
+for function in (advise, create, last_status, register_server, unadvise, unregister_server):
     function.__module__ = __name__
 del function
 

@@ -5,9 +5,10 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <system_error>
 
+#include "platform/extension.h"
+#include "platform/owndirectory.h"
 #include "platform/posix/libraryfile.h"
 
 namespace tarq {
@@ -15,35 +16,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Directory of the file that this code was linked into; empty when the system can't tell.
-fs::path findOwnDirectory() {
-    Dl_info info{};
-    std::error_code error;
-    if (dladdr(reinterpret_cast<const void*>(&findOwnDirectory), &info) != 0 && info.dli_fname != nullptr) {
-        const fs::path file = info.dli_fname;
-        if (file.has_parent_path()) return fs::absolute(file, error).parent_path();
-    }
-    // A program that was found through PATH is known to the loader by its plain name only.
-    return fs::read_symlink("/proc/self/exe", error).parent_path();
-}
-
-const fs::path& ownDirectory() {
-    static const fs::path directory = findOwnDirectory();
-    return directory;
-}
-
-char lowerCase(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
-
-bool isSameInAnyCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, {}, &lowerCase, &lowerCase);
-}
-
 /// The name that a conventional one stands for here, libNAME.so for NAME.dll; empty for other names.
 fs::path nativeName(const fs::path& path) {
-    constexpr std::size_t length = 4;
     const std::string file = path.filename().string();
-    if (file.size() <= length || !isSameInAnyCase(file.substr(file.size() - length), ".dll")) return {};
-    return path.parent_path() / ("lib" + file.substr(0, file.size() - length) + ".so");
+    if (!hasExtension(file, ".dll")) return {};
+    return path.parent_path() / ("lib" + file.substr(0, file.size() - 4) + ".so");
 }
 
 /// The file of this name, or else the one of this name in other case, the first of several; empty where there is none.

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 #include "platform/dynamiclibrary.h"
 #include "platform/exceptionbarrier.h"
@@ -24,15 +25,16 @@ struct FixedText {
 
 /// One function of a library, with the result that stands for a call when the library lacks it or lets an exception
 /// out of it.
-template <FixedText exportedName, class Function, std::int32_t emptyResult>
+template <FixedText exportedName, class Function, auto emptyResult>
 struct Slot {
     static constexpr const char* name = exportedName.text;
     Function* function = nullptr;
 
     template <class... Arguments>
-    std::int32_t operator()(Arguments... arguments) const {
-        return withoutException([&] { return function != nullptr ? function(arguments...) : emptyResult; },
-                                [] { return emptyResult; });
+    std::invoke_result_t<Function*, Arguments...> operator()(Arguments... arguments) const {
+        using Result = std::invoke_result_t<Function*, Arguments...>;
+        return withoutException([&]() -> Result { return function != nullptr ? function(arguments...) : emptyResult; },
+                                []() -> Result { return emptyResult; });
     }
 };
 
@@ -48,6 +50,16 @@ struct SlotTable : Slots... {
     [[nodiscard]] const auto& slot() const {
         return find<name>(*this);
     }
+    template <FixedText name>
+    [[nodiscard]] auto& slot() {
+        return find<name>(*this);
+    }
+
+    /// True when every slot is bound but, at most, those of these names.
+    template <FixedText... optionalNames>
+    [[nodiscard]] bool isBoundBut() const {
+        return (isBoundOr<Slots, optionalNames...>() && ...);
+    }
 
 private:
     template <class SlotType>
@@ -56,8 +68,18 @@ private:
         slot.function = reinterpret_cast<decltype(slot.function)>(library.symbol(SlotType::name));
     }
 
-    template <FixedText name, class Function, std::int32_t emptyResult>
+    template <class SlotType, FixedText... optionalNames>
+    [[nodiscard]] bool isBoundOr() const {
+        const SlotType& slot = *this;
+        return slot.function != nullptr || ((std::string_view(optionalNames.text) == SlotType::name) || ...);
+    }
+
+    template <FixedText name, class Function, auto emptyResult>
     static const Slot<name, Function, emptyResult>& find(const Slot<name, Function, emptyResult>& slot) {
+        return slot;
+    }
+    template <FixedText name, class Function, auto emptyResult>
+    static Slot<name, Function, emptyResult>& find(Slot<name, Function, emptyResult>& slot) {
         return slot;
     }
 };

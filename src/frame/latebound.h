@@ -1,0 +1,59 @@
+// LateBound: an object whose members the component calls by their published numbers.
+//
+// Any object will do, a client's own stand-in among them, and it may answer anything. What it answers is converted to
+// the type asked for, a by-reference answer is resolved first. A call fails with the status and the description of the
+// object; where it gives no description the status is told in words.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <utility>
+
+#include "frame/dispatch.h"
+#include "frame/object.h"
+#include "frame/status.h"
+#include "frame/variant.h"
+
+namespace tarq {
+
+class LateBound {
+public:
+    using Arguments = std::span<const Variant>;
+
+    /// Stands for no object.
+    LateBound() = default;
+    explicit LateBound(Ref<IDispatch> object) : object_(std::move(object)) {}
+    [[nodiscard]] explicit operator bool() const { return static_cast<bool>(object_); }
+
+    /// Reads a property into a Variant, LateBound, std::int32_t, double or std::string. 0x80020005 for an answer that
+    /// is none of the type, 0x80004002 for one that is no object to be called in turn.
+    template <class Value>
+    [[nodiscard]] Outcome get(std::int32_t member, Value& value, Arguments arguments = {}) const {
+        return ask(member, invoke::get, arguments, value);
+    }
+    /// Calls a method with the same results.
+    template <class Value>
+    [[nodiscard]] Outcome call(std::int32_t member, Value& value, Arguments arguments) const {
+        return ask(member, invoke::method, arguments, value);
+    }
+    [[nodiscard]] Outcome put(std::int32_t member, const Variant& value) const;
+
+private:
+    template <class Value>
+    Outcome ask(std::int32_t member, std::uint16_t kinds, Arguments arguments, Value& value) const {
+        Variant answer;
+        if (Outcome asked = invokeMember(member, kinds, arguments, &answer); !asked.isOk()) return asked;
+        return convert(std::move(answer), value);
+    }
+    Outcome invokeMember(std::int32_t member, std::uint16_t kinds, Arguments arguments, Variant* answer) const;
+    static Outcome convert(Variant answer, Variant& value);
+    static Outcome convert(Variant answer, LateBound& value);
+    static Outcome convert(Variant answer, std::int32_t& value);
+    static Outcome convert(Variant answer, double& value);
+    static Outcome convert(Variant answer, std::string& value);
+
+    Ref<IDispatch> object_;
+};
+
+}  // namespace tarq

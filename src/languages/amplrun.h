@@ -1,0 +1,22 @@
+// What every run of the AMPL translator has in common: its command file and the program itself.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/status.h"
+#include "languages/languagetarget.h"
+
+namespace tarq {
+
+/// Makes the command file, byte for byte `commands`. 0x80041023 when it can't be written.
+[[nodiscard]] Outcome writeAmplCommands(const std::string& fileName, std::string_view commands);
+
+/// Runs the translator to its end, without a limit on time, and sets `output` to what it has written, at most one byte
+/// less than the target keeps. Its exit code is not looked at. 0x80041023 without a pipe, 0x8004101D when it can't be
+/// started, `readFailure` when its output can't be read.
+[[nodiscard]] Outcome runAmplTranslator(const std::string& program, const std::vector<std::string>& arguments,
+                                        const LanguageTarget& target, Outcome readFailure, std::string& output);
+
+}  // namespace tarq

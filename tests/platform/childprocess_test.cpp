@@ -1,0 +1,115 @@
+#include "platform/childprocess.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "platform/programsearch.h"
+
+namespace tarq {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+std::string outputOf(const std::string& script, std::size_t limit = 1000) {
+    std::string output;
+    EXPECT_EQ(runProgram("/bin/sh", {"-c", script}, limit, output), RunOutcome::Done) << script;
+    return output;
+}
+
+TEST(ChildProcessTest, BothStreamsAreKeptUpToTheLimitAndNothingIsWaitedForBeyondTheEnd) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(outputOf("echo out; echo err >&2"), "out\nerr\n");
+    EXPECT_EQ(outputOf("head -c 30000000 /dev/zero | tr '\\0' x", 5), "xxxxx") << "what is thrown away doesn't block";
+    EXPECT_EQ(outputOf("sleep 60 & echo left behind"), "left behind\n");
+    EXPECT_EQ(outputOf("yes & echo $! >&2; kill -9 $$", 0), "") << "flooded by what is left behind";
+    EXPECT_EQ(outputOf("exec >&- 2>&-; sleep 0.2; exit 3"), "");
+    EXPECT_EQ(outputOf("read line; echo \"<$line>\""), "<>\n") << "the input is at its end";
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 30s);
+
+    std::string output = "old";
+    EXPECT_EQ(runProgram("/nowhere/program", {}, 9, output), RunOutcome::NotStarted);
+    EXPECT_EQ(runProgram("/etc/passwd", {}, 9, output), RunOutcome::NotStarted);
+    EXPECT_EQ(runProgram("/bin/echo", {std::string("a\0b", 3)}, 9, output), RunOutcome::NotStarted);
+    EXPECT_EQ(output, "old");
+}
+
+TEST(ChildProcessTest, HostsOfAllKindsKeepWhatIsTheirs) {
+    struct sigaction former {};
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
+    signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(outputOf("sleep 0.1 & wait $!; echo waited $?"), "waited 0\n") << "the child can wait for its own";
+    EXPECT_EQ(outputOf("(sleep 0.1; kill $$) & sleep 9"), "") << "the child hears what its host blocks";
+    sigaction(SIGCHLD, nullptr, &former);
+    EXPECT_EQ(former.sa_handler, SIG_IGN);
+    signal(SIGCHLD, SIG_DFL);
+    pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
+
+    const std::string alone = outputOf("ls /proc/self/fd");
+    const ChildProcess other("/bin/cat", {}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
+    EXPECT_EQ(outputOf("ls /proc/self/fd"), alone) << "no child gets the pipes of another";
+}
+
+TEST(ChildProcessTest, HostWithoutStandardStreamsHasChildrenWithThem) {
+    EXPECT_EXIT(
+        {
+            for (const int stream : {0, 1, 2}) close(stream);
+            std::string output;
+            const RunOutcome outcome = runProgram("/bin/sh", {"-c", "cat; echo out; echo err >&2"}, 99, output);
+            _exit(outcome == RunOutcome::Done && output == "out\nerr\n" ? 7 : 8);
+        },
+        testing::ExitedWithCode(7), "");
+}
+
+TEST(ChildProcessTest, InputIsWrittenUntilNobodyTakesIt) {
+    const std::string megabyte(1 << 20, 'x');
+    ChildProcess counting("/bin/sh", {"-c", "wc -c"}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
+    EXPECT_TRUE(counting.write(megabyte));
+    counting.closeInput();
+    std::string answer(99, '\0');
+    std::size_t count = 0;
+    EXPECT_EQ(counting.read(answer.data(), answer.size(), count), ChildProcess::Read::Bytes);
+    EXPECT_EQ(answer.substr(0, count), "1048576\n");
+    ChildProcess gone("/bin/true", {}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
+    gone.wait();
+    EXPECT_FALSE(gone.write(megabyte));
+}
+
+TEST(ProgramSearchTest, PlacesAreTakenInOrderAndOnlyFilesCount) {
+    const fs::path folder = fs::path(testing::TempDir()) / "tarq-search";
+    fs::remove_all(folder);
+    for (const char* name : {"one/tool", "two/tool.exe/", "two/tool"}) {
+        fs::create_directories((folder / name).parent_path());
+        if (!fs::path(name).has_filename()) continue;
+        std::ofstream(folder / name) << 1;
+    }
+    const std::string path = std::getenv("PATH");
+    const std::string one = folder / "one";
+    const std::string two = folder / "two";
+    setenv("PATH", (":" + two + "::" + one).c_str(), 1);
+    EXPECT_EQ(findProgram("tool.EXE"), two + "/tool");
+    std::ofstream(one + "/tool.exe") << 1;
+    EXPECT_EQ(findProgram("tool.exe"), two + "/tool") << "the first folder wins";
+    EXPECT_EQ(findProgram(one + "/tool.exe"), one + "/tool.exe");
+    EXPECT_EQ(findProgram(two + "/tool.exe"), two + "/tool");
+    EXPECT_EQ(findProgram("Platform_Tests.exe"), "Platform_Tests.exe") << "the rest of a name has a case";
+    EXPECT_EQ(findProgram("platform_tests.exe"), PROBE_DIRECTORY "/platform_tests");
+    EXPECT_EQ(findOwnProgram("tool"), "tool");
+    unsetenv("PATH");
+    EXPECT_EQ(findProgram("tool.exe"), "tool.exe");
+    setenv("PATH", path.c_str(), 1);
+    fs::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace tarq
