@@ -11,6 +11,7 @@
 #include <fstream>
 
 #include "../problem.h"
+#include "memory.h"
 #include "translation.h"
 
 namespace {
@@ -83,6 +84,7 @@ int main(int argumentCount, char** arguments) {
     constexpr int longest = 4;
     if (argumentCount < shortest || argumentCount > longest) return EXIT_FAILURE;
     standBackForOthers();
+    prepareHeap();
     Task task;
     task.problemStream = redirectOutput(arguments[1]);
     if (task.problemStream < 0) return EXIT_FAILURE;

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "availablememory.h"
+#include "memory.h"
 #include "tarq/mathprog.h"
 
 namespace tarq::mathprog {
