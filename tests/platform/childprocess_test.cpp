@@ -71,38 +71,24 @@ TEST(ChildProcessTest, HostWithoutStandardStreamsHasChildrenWithThem) {
         testing::ExitedWithCode(7), "");
 }
 
-TEST(ChildProcessTest, InputIsWrittenUntilNobodyTakesIt) {
-    const std::string megabyte(1 << 20, 'x');
-    ChildProcess counting("/bin/sh", {"-c", "wc -c"}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
-    EXPECT_TRUE(counting.write(megabyte));
-    counting.closeInput();
-    std::string answer(99, '\0');
-    std::size_t count = 0;
-    EXPECT_EQ(counting.read(answer.data(), answer.size(), count), ChildProcess::Read::Bytes);
-    EXPECT_EQ(answer.substr(0, count), "1048576\n");
+TEST(ChildProcessTest, InputThatNobodyTakesRaisesNoSignal) {
     ChildProcess gone("/bin/true", {}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
     gone.wait();
-    EXPECT_FALSE(gone.write(megabyte));
+    EXPECT_FALSE(gone.write(std::string(1 << 20, 'x')));
 }
 
 TEST(ProgramSearchTest, PlacesAreTakenInOrderAndOnlyFilesCount) {
     const fs::path folder = fs::path(testing::TempDir()) / "tarq-search";
     fs::remove_all(folder);
-    for (const char* name : {"one/tool", "two/tool.exe/", "two/tool"}) {
-        fs::create_directories((folder / name).parent_path());
-        if (!fs::path(name).has_filename()) continue;
-        std::ofstream(folder / name) << 1;
-    }
-    const std::string path = std::getenv("PATH");
     const std::string one = folder / "one";
     const std::string two = folder / "two";
+    fs::create_directories(one);
+    fs::create_directories(two + "/tool.exe");
+    for (const std::string& name : {one + "/tool.exe", two + "/tool"}) std::ofstream(name) << 1;
+    const std::string path = std::getenv("PATH");
     setenv("PATH", (":" + two + "::" + one).c_str(), 1);
-    EXPECT_EQ(findProgram("tool.EXE"), two + "/tool");
-    std::ofstream(one + "/tool.exe") << 1;
-    EXPECT_EQ(findProgram("tool.exe"), two + "/tool") << "the first folder wins";
+    EXPECT_EQ(findProgram("tool.EXE"), two + "/tool") << "the first folder wins";
     EXPECT_EQ(findProgram(one + "/tool.exe"), one + "/tool.exe");
-    EXPECT_EQ(findProgram(two + "/tool.exe"), two + "/tool");
-    EXPECT_EQ(findProgram("Platform_Tests.exe"), "Platform_Tests.exe") << "the rest of a name has a case";
     EXPECT_EQ(findProgram("platform_tests.exe"), PROBE_DIRECTORY "/platform_tests");
     EXPECT_EQ(findOwnProgram("tool"), "tool");
     unsetenv("PATH");
