@@ -28,12 +28,16 @@ install(DIRECTORY "${staged}/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(TARGETS tarqcom EXPORT tarq
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
-install(TARGETS tarq_engine_highs tarq_mathprog_glpk LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(TARGETS tarq_command tarq_ampl_driver RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# Programs for the component alone, which looks for them from its own folder.
-set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
-install(TARGETS tarq_stub tarq_mathprog_reader RUNTIME DESTINATION "${own_programs_folder}")
-install(FILES LICENSE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(TARGETS tarq_engine_highs LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS tarq_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+if(TARQ_BUILD_LANGUAGES)
+  install(TARGETS tarq_mathprog_glpk LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  install(TARGETS tarq_ampl_driver RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  # Programs for the component alone, which looks for them from its own folder.
+  set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
+  install(TARGETS tarq_stub tarq_mathprog_reader tarq_ampl_translator RUNTIME DESTINATION "${own_programs_folder}")
+endif()
+install(FILES LICENSE LICENSES/GPL-3.0.txt README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/tarq")
