@@ -17,7 +17,7 @@ Json jsonOf(const MemberParameter& parameter) {
 Json jsonOf(const MemberInfo& form) {
     Json parameters = Json::array();
     for (const MemberParameter& parameter : form.parameters) parameters.push_back(jsonOf(parameter));
-    const Json result = form.result == ValueType::None ? Json() : Json(typeName(form.result, form.resultEnumeration));
+    const Json result = form.result == ValueType::None ? Json() : Json(resultName(form));
     return {{"id", form.id},
             {"name", form.name},
             {"kind", kindName(form.kind)},

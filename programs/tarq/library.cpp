@@ -108,6 +108,11 @@ std::string_view typeName(ValueType type, const EnumerationTable* enumeration) {
     return names[static_cast<std::size_t>(type)];
 }
 
+std::string_view resultName(const MemberInfo& member) {
+    if (member.resultInterface != nullptr) return member.resultInterface().name();
+    return typeName(member.result, member.resultEnumeration);
+}
+
 std::string_view kindName(MemberKind kind) {
     return kind == MemberKind::Method ? "method" : kind == MemberKind::Get ? "get" : "put";
 }
@@ -126,7 +131,7 @@ std::string signatureOf(const MemberInfo& member) {
         return fmt::format("{} = {}", text, typeName(value.type, value.enumeration));
     }
     if (member.result == ValueType::None) return text;
-    return fmt::format("{} As {}", text, typeName(member.result, member.resultEnumeration));
+    return fmt::format("{} As {}", text, resultName(member));
 }
 
 }  // namespace tarq::command

@@ -41,6 +41,8 @@ struct EnumerationMember {
 
 /// "Long", or the enumeration's name.
 [[nodiscard]] std::string_view typeName(ValueType type, const EnumerationTable* enumeration);
+/// The same of what a member hands out, or the interface's name.
+[[nodiscard]] std::string_view resultName(const MemberInfo& member);
 /// "method", "get" or "put".
 [[nodiscard]] std::string_view kindName(MemberKind kind);
 /// "AddRow(LB As Double, UB As Double, [Name As Variant])", "ColLB(Col As Variant) As Double".

@@ -378,6 +378,19 @@ inline MemberInfo numbered(std::int32_t id, MemberInfo member) {
     return member;
 }
 
+/// The same member with the interface of its result, an object.
+template <class Interface>
+MemberInfo returning(MemberInfo member) {
+    member.resultInterface = &Interface::memberTable;
+    return member;
+}
+
+/// The same member with the one that asks it to end soon.
+inline MemberInfo stoppedBy(std::string_view stop, MemberInfo member) {
+    member.stoppedBy = stop;
+    return member;
+}
+
 /// The same member with flags.
 inline MemberInfo flagged(MemberFlags flags, MemberInfo member) {
     member.flags = flags;

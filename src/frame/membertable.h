@@ -55,6 +55,7 @@ struct MemberFlags {
     bool blocking = false;    ///< may take long, wait for another thread or call the client back
 };
 
+class InterfaceTable;
 class MemberCall;
 
 struct MemberInfo {
@@ -66,6 +67,8 @@ struct MemberInfo {
     std::vector<MemberParameter> parameters;  ///< a put's new value is the last one
     ValueType result = ValueType::None;
     const EnumerationTable* resultEnumeration = nullptr;
+    const InterfaceTable& (*resultInterface)() = nullptr;  ///< of an Object that always offers it, else null
+    std::string_view stoppedBy;  ///< the member that asks a call of this one to end soon, on any thread; else empty
     Status (*call)(IDispatch& object, MemberCall& arguments) = nullptr;
 
     [[nodiscard]] bool isDefault() const { return id == memberid::value; }

@@ -59,7 +59,8 @@ std::vector<MemberInfo> arrayMembers() {
                                                            "Indexset", "Element")),
         numbered(14, get<&ITARQArray::get_ValueByFullIndexName>(
                          "ValueByFullIndexName", "One cell by its full name, as \".a.3\".", "Indexname")),
-        numbered(15, indexedGet<&ITARQArray::get_Enum>("Enum", "A TARQArrayEnum over the selected cells.")),
+        numbered(15, returning<ITARQArrayEnum>(
+                         indexedGet<&ITARQArray::get_Enum>("Enum", "A TARQArrayEnum over the selected cells."))),
         numbered(16, get<&ITARQArray::get_Count>("Count", "Number of cells.")),
     };
 }

@@ -3,8 +3,11 @@
 #include <utility>
 
 #include "frame/memberbinding.h"
+#include "interfaces/itarqmodel.h"
+#include "interfaces/itarqres.h"
 #include "interfaces/itarqresset.h"
 #include "interfaces/itarqressetenum.h"
+#include "interfaces/itarqvar.h"
 #include "interfaces/itarqvarset.h"
 #include "interfaces/itarqvarsetenum.h"
 
@@ -76,7 +79,7 @@ Members solutionValues(std::int32_t firstId) {
     };
 }
 
-template <class Family>
+template <class Family, class Enumerator>
 Members shape(std::int32_t firstId) {
     return {
         numbered(firstId, get<&Family::get_Count>("Count", "Number of members.")),
@@ -85,19 +88,20 @@ Members shape(std::int32_t firstId) {
                                   "SizeOfIndexset", "Number of elements of a dimension from 1.", "Indexset")),
         numbered(firstId + 3, get<&Family::get_IndexsetElement>("IndexsetElement", "Name of an element, both from 1.",
                                                                 "Indexset", "Element")),
-        numbered(firstId + 4, indexedGet<&Family::get_Enum>("Enum", "An enumerator over the selected members.")),
+        numbered(firstId + 4, returning<Enumerator>(
+                                  indexedGet<&Family::get_Enum>("Enum", "An enumerator over the selected members."))),
     };
 }
 
-template <class Family>
+template <class Family, class Item>
 Members items(std::int32_t firstId) {
     constexpr std::string_view byNumber = "A member by its number from 1, or any other by its name in the model.";
     constexpr std::string_view byIndex = "The member that the indices select.";
     return {
-        numbered(firstId, get<&Family::get_Parent>("Parent", "The model.")),
-        numbered(firstId + 1, get<&Family::get_Item>("Item", byNumber, "Index")),
+        numbered(firstId, returning<ITARQModel>(get<&Family::get_Parent>("Parent", "The model."))),
+        numbered(firstId + 1, returning<Item>(get<&Family::get_Item>("Item", byNumber, "Index"))),
         numbered(firstId + 1, put<&Family::put_Item>("Item", byNumber, "Index")),
-        numbered(memberid::value, indexedGet<&Family::get_ItemByIndex>("ItemByIndex", byIndex)),
+        numbered(memberid::value, returning<Item>(indexedGet<&Family::get_ItemByIndex>("ItemByIndex", byIndex))),
         numbered(memberid::value, indexedPut<&Family::put_ItemByIndex>("ItemByIndex", byIndex)),
     };
 }
@@ -118,9 +122,9 @@ Members columnFamilyMembers() {
     append(all, solutionValues<ITARQVarSet>(15));
     append(all,
            {numbered(18, indexedGet<&ITARQVarSet::get_RedCost>("RedCost", "Reduced costs; 0x00042003 without any."))});
-    append(all, shape<ITARQVarSet>(19));
+    append(all, shape<ITARQVarSet, ITARQVarSetEnum>(19));
     append(all, {numbered(24, get<&ITARQVarSet::get_VarName>("VarName", "Name of a member, from 1.", "Index"))});
-    append(all, items<ITARQVarSet>(25));
+    append(all, items<ITARQVarSet, ITARQVar>(25));
     return all;
 }
 
@@ -137,8 +141,8 @@ Members rowFamilyMembers() {
     append(all, nameAndBounds<ITARQResSet>());
     append(all, solutionValues<ITARQResSet>(13));
     append(all, {numbered(16, indexedGet<&ITARQResSet::get_Dual>("Dual", "Shadow prices; 0x00042003 without any."))});
-    append(all, shape<ITARQResSet>(17));
-    append(all, items<ITARQResSet>(22));
+    append(all, shape<ITARQResSet, ITARQResSetEnum>(17));
+    append(all, items<ITARQResSet, ITARQRes>(22));
     return all;
 }
 

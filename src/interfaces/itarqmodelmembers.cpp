@@ -2,6 +2,8 @@
 #include "frame/memberbinding.h"
 #include "interfaces/enumerationtables.h"
 #include "interfaces/itarqmodel.h"
+#include "interfaces/itarqres.h"
+#include "interfaces/itarqvar.h"
 
 namespace tarq {
 namespace {
@@ -59,10 +61,11 @@ std::vector<MemberInfo> members() {
                                                 "lParameterID", "lOptionID", "lpOptionValue", "bsOptionName"),
         flagged(blocking, method<&ITARQModel::KillThread>("KillThread",
                                                           "Kills running thread. Dangerous function, avoid usage.")),
-        flagged(blocking, method<&ITARQModel::Optimize>(
-                              "Optimize",
-                              "Runs the engine on the calling thread. 0x00042001: a resource limit ended it, "
-                              "0x00042002: it stopped at a break; the result so far is in the model then.")),
+        stoppedBy("StopOptimizeAsync",
+                  flagged(blocking, method<&ITARQModel::Optimize>(
+                                        "Optimize",
+                                        "Runs the engine on the calling thread. 0x00042001: a resource limit ended it, "
+                                        "0x00042002: it stopped at a break; the result so far is in the model then."))),
         flagged(blocking, method<&ITARQModel::OptimizeAsync>("OptimizeAsync", "Start LP and IP run as a thread.")),
         method<&ITARQModel::AddObjSum>("AddObjSum",
                                        "Sets the costs of the columns that a list of coefficients and columns names.",
@@ -102,7 +105,7 @@ std::vector<MemberInfo> members() {
         get<&ITARQModel::get_AMPLOutputBuffer>("AMPLOutputBuffer", "Output of the last run of the AMPL translator."),
         get<&ITARQModel::get_AMPLOutputBufferMaxSize>("AMPLOutputBufferMaxSize", "Limit of AMPLOutputBuffer in bytes."),
         put<&ITARQModel::put_AMPLOutputBufferMaxSize>("AMPLOutputBufferMaxSize", "At least 1024."),
-        get<&ITARQModel::get_Var>("Var", "A new column object attached to the column.", "Index"),
+        returning<ITARQVar>(get<&ITARQModel::get_Var>("Var", "A new column object attached to the column.", "Index")),
         put<&ITARQModel::put_Var>("Var", "Copies a column object's data into the column.", "Index"),
         get<&ITARQModel::get_ColCost>("ColCost", "Objective coefficient.", "Col"),
         put<&ITARQModel::put_ColCost>("ColCost", "Stored as it stands, without clamping.", "Col"),
@@ -167,12 +170,13 @@ std::vector<MemberInfo> members() {
         put<&ITARQModel::put_NZ>("NZ", "Replaces a coefficient; 0 removes it.", "Row", "Col"),
         get<&ITARQModel::get_NZs>("NZs", "A block of coefficients.", "RowIndices", "ColIndices"),
         put<&ITARQModel::put_NZs>("NZs", "Replaces a block of coefficients.", "RowIndices", "ColIndices"),
-        get<&ITARQModel::get_ObjectNET>("ObjectNET", "Return pointer to own IDispatch for .NET clients."),
+        returning<ITARQModel>(
+            get<&ITARQModel::get_ObjectNET>("ObjectNET", "Return pointer to own IDispatch for .NET clients.")),
         get<&ITARQModel::get_Parameter>(
             "Parameter", "A parameter or a result of the engine, by name without regard to case.", "ParameterName"),
         put<&ITARQModel::put_Parameter>(
             "Parameter", "Checks and stores a parameter; it reaches the engine at the next run.", "ParameterName"),
-        get<&ITARQModel::get_Res>("Res", "A new row object attached to the row.", "Index"),
+        returning<ITARQRes>(get<&ITARQModel::get_Res>("Res", "A new row object attached to the row.", "Index")),
         put<&ITARQModel::put_Res>("Res", "Copies a row object's data into the row.", "Index"),
         get<&ITARQModel::get_RowDual>("RowDual", "Shadow price; 0x00042003 when there is none.", "Row"),
         get<&ITARQModel::get_RowIndex>("RowIndex", "Number of the row, from 1.", "Row"),

@@ -15,9 +15,9 @@ std::vector<MemberInfo> seriesMembers() {
                                                optional("Step"))),
         numbered(memberid::enumerator,
                  flagged(restricted, get<&ITARQSeries::get__NewEnum>("_NewEnum", "Enumerator over the members."))),
-        numbered(memberid::value,
-                 get<&ITARQSeries::get_Series>("Series", "Sets the sequence and hands back the series itself.", "Start",
-                                               "End", optional("Step"))),
+        numbered(memberid::value, returning<ITARQSeries>(get<&ITARQSeries::get_Series>(
+                                      "Series", "Sets the sequence and hands back the series itself.", "Start", "End",
+                                      optional("Step")))),
         numbered(10, get<&ITARQSeries::get_Count>("Count", "Number of members; 1 before Init.")),
     };
 }

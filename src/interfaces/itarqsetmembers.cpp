@@ -24,12 +24,13 @@ std::vector<MemberInfo> setMembers() {
         numbered(10, method<&ITARQSet::Multiplication>("Multiplication", "Multiplies as Addition adds.", "Value")),
         numbered(11, method<&ITARQSet::Del>("Del", "Removes every element that equals one of the values.", "varpar")),
         numbered(memberid::enumerator, get<&ITARQSet::get__NewEnum>("_NewEnum", "Enumerator over the elements.")),
-        numbered(memberid::value,
-                 get<&ITARQSet::get_Set>("Set", "Replaces the elements and hands back the set itself.", "varpar")),
+        numbered(memberid::value, returning<ITARQSet>(get<&ITARQSet::get_Set>(
+                                      "Set", "Replaces the elements and hands back the set itself.", "varpar"))),
         numbered(21, get<&ITARQSet::get_Count>("Count", "Number of elements.")),
         numbered(22, get<&ITARQSet::get_DotProduct>("DotProduct", "Sum of element times entry of a vector.", "Vector")),
-        numbered(23, get<&ITARQSet::get_Enum>("Enum", "A TARQSetEnum from an item to an item, every Step positions.",
-                                              optional("Start"), optional("End"), optional("Step"))),
+        numbered(23, returning<ITARQSetEnum>(get<&ITARQSet::get_Enum>(
+                         "Enum", "A TARQSetEnum from an item to an item, every Step positions.", optional("Start"),
+                         optional("End"), optional("Step")))),
         numbered(
             24, get<&ITARQSet::get_Index>("Index", "First position of an item from 1; 0 when it isn't there.", "Item")),
         numbered(25, get<&ITARQSet::get_Item>("Item", "Element at a position from 1.", "Index")),

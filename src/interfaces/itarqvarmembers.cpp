@@ -1,6 +1,7 @@
 // The members of column and row objects in published order.
 #include "frame/memberbinding.h"
 #include "interfaces/enumerationtables.h"
+#include "interfaces/itarqmodel.h"
 #include "interfaces/itarqres.h"
 #include "interfaces/itarqvar.h"
 
@@ -36,7 +37,7 @@ std::vector<MemberInfo> columnMembers() {
         get<&ITARQVar::get_ModelIndex>("ModelIndex", "Number of the column in its model, from 1."),
         put<&ITARQVar::put_ModelIndex>("ModelIndex", "Makes the object stand for another column; no data moves."),
         get<&ITARQVar::get_IsAttached>("IsAttached", "1 while the object stands for a column of a model, else 0."),
-        get<&ITARQVar::get_Parent>("Parent", "The model, null when detached."),
+        returning<ITARQModel>(get<&ITARQVar::get_Parent>("Parent", "The model, null when detached.")),
     };
 }
 
@@ -67,7 +68,7 @@ std::vector<MemberInfo> rowMembers() {
         get<&ITARQRes::get_ModelIndex>("ModelIndex", "Number of the row in its model, from 1."),
         put<&ITARQRes::put_ModelIndex>("ModelIndex", "Makes the object stand for another row; no data moves."),
         get<&ITARQRes::get_IsAttached>("IsAttached", "1 while the object stands for a row of a model, else 0."),
-        get<&ITARQRes::get_Parent>("Parent", "The model, null when detached."),
+        returning<ITARQModel>(get<&ITARQRes::get_Parent>("Parent", "The model, null when detached.")),
     };
 }
 

@@ -3,6 +3,7 @@
 import inspect
 import pathlib
 import pydoc
+import re
 import subprocess
 import sys
 
@@ -71,5 +72,6 @@ def test_every_listed_member_is_in_the_stubs():
     for name in dir(tarq.TARQModel()):
         assert name.startswith("__") or f"def {name}(" in stub, name
     assert "def to_frame(self: Any) -> Any:" in stub and "def __array__(self: Any, dtype: Any = None" in stub
+    assert set(re.findall(r"def (\w+)\(.*-> Object", stub)) == {"_NewEnum"}
     for name in tarq.__all__:
         assert f"def {name}(" in stub or f"class {name}" in stub or f"{name}: " in stub, name

@@ -7,6 +7,8 @@ import re
 
 import pytest
 
+from test_package import checked_by_mypy
+
 TUTORIAL = pathlib.Path(__file__).parents[2] / "docs" / "tutorial.md"
 CHAPTER = re.compile(r"^## (.+)$", re.MULTILINE)
 BLOCK = re.compile(r"^```python\n(?P<code>.*?)^```\n(?:\n```text\n(?P<output>.*?)^```\n)?", re.MULTILINE | re.DOTALL)
@@ -36,6 +38,11 @@ def test_each_block_prints_what_stands_below_it(blocks, tmp_path, monkeypatch):
             # Empty lines in front, so that a failure tells its line in the tutorial.
             exec(compile("\n" * line + code, TUTORIAL, "exec"), names)
         assert printed.getvalue() == output, f"of the block in line {line}"
+
+
+@pytest.mark.parametrize("blocks", chapters())
+def test_a_type_checker_finds_nothing_in_a_chapter(blocks, tmp_path):
+    assert checked_by_mypy(tmp_path, "\n".join(code for _, code, _ in blocks)) == []
 
 
 def test_no_output_stands_without_its_code():

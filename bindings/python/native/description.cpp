@@ -15,6 +15,14 @@ py::object nameOf(const EnumerationTable* enumeration) {
     return enumeration == nullptr ? py::object(py::none()) : py::object(text(enumeration->name));
 }
 
+/// The class that bears an interface, as its Python type is named; None where there is none.
+py::object classNameOf(const InterfaceTable& (*interface)()) {
+    for (const ClassEntry& entry : classTable()) {
+        if (interface != nullptr && entry.members == interface) return text(entry.name);
+    }
+    return py::none();
+}
+
 const char* typeName(ValueType type) {
     switch (type) {
         case ValueType::None:
@@ -61,6 +69,7 @@ py::dict described(const MemberInfo& member) {
     all["parameters"] = parameters;
     all["result"] = typeName(member.result);
     all["enumeration"] = nameOf(member.resultEnumeration);
+    all["class"] = classNameOf(member.resultInterface);
     return all;
 }
 

@@ -18,9 +18,14 @@ def input_annotation(parameter):
     return annotation
 
 
-def value_annotation(kind, enumeration):
+def value_annotation(parameter):
     """What a value handed out is."""
-    return enumeration or TYPES[kind]
+    return parameter["enumeration"] or TYPES[parameter["type"]]
+
+
+def call_annotation(call):
+    """What a call hands out apart from its outputs."""
+    return call["enumeration"] or call["class"] or TYPES[call["result"]]
 
 
 def inputs(member):
@@ -31,8 +36,8 @@ def inputs(member):
 
 def result_annotation(member):
     """What a call returns: the result, or a tuple of it and the outputs."""
-    result = value_annotation(member["result"], member["enumeration"])
-    outputs = [value_annotation(p["type"], p["enumeration"]) for p in member["parameters"] if p["out"]]
+    result = call_annotation(member)
+    outputs = [value_annotation(p) for p in member["parameters"] if p["out"]]
     if not outputs:
         return result
     if member["result"] != "None":
@@ -90,7 +95,7 @@ def documentation(call, put):
         return call["help"]
     member = call or put
     if call is not None:
-        kind = value_annotation(call["result"], call["enumeration"])
+        kind = call_annotation(call)
     else:
         kind = input_annotation(new_value(put))
     access = "" if call and put else ", read-only" if call else ", write-only"
