@@ -1,8 +1,10 @@
 """Arrays, sets and series as Python values: shown, walked, and on their way to NumPy and pandas and back."""
 
+import contextlib
 import itertools
 import subprocess
 import sys
+import types
 
 import numpy
 import openpyxl
@@ -170,6 +172,33 @@ def test_frames_become_arrays():
     assert array.to_frame().equals(frame)
     array[:, "x"] = pandas.Series([7, 8])
     assert array["b", "x"] == 8
+
+
+LABELS = [
+    (lambda d: d.a.__setitem__((), pandas.DataFrame([[1, 2], [3, 4]], ["b", "a"], ["1", "2"])), r"index=\['a', 'b'\]"),
+    (lambda d: setattr(d.x, "UB", pandas.DataFrame([[1, 2], [3, 4]], ["a", "b"], [2, 1])), r"columns=\[1, 2\]"),
+    (lambda d: d.a.__setitem__(("a",), pandas.Series([1, 2], ["2", "1"])), "Value in another order"),
+    (lambda d: d.a.ValueByNumIndex.__setitem__((slice(None), 2), pandas.Series([1, 2], ["b", "a"])), "index of this Series"),
+    (lambda d: d.x.UB.__setitem__((["b", "a"], 1), pandas.Series([1, 2], ["a", "b"])), r"index=\['b', 'a'\]"),
+    (lambda d: d.a.__setitem__((), pandas.Series({("a", 1): 1, ("b", 1): 2, ("a", 2): 3, ("b", 2): 4})), "reindex"),
+    (lambda d: d.r.SetLT(pandas.Series([1, 2], ["b", "a"]), Index2=1), "slice of SetLT"),
+    (lambda d: d.r.SetLT(Bound=pandas.Series([1, 2], ["2", "1"]), index1="a"), "slice of SetLT"),
+    (lambda d: d.a.__setitem__((), pandas.DataFrame([[1, 2], [3, 4]], ["a", "b"], [1.0, 2.0])), None),
+    (lambda d: d.a.__setitem__(("b",), pandas.Series([1, 2])), None),
+    (lambda d: d.a.__setitem__((slice(None), "1"), pandas.Series([1, 2], ["b", "c"])), None),
+    (lambda d: d.x.UB.__setitem__((["b", "a"], 1), pandas.Series([1, 2], ["b", "a"])), None),
+    (lambda d: d.x.UB.__setitem__(("b",), pandas.Series([1, 2], [False, None])), None),
+]
+
+
+@pytest.mark.parametrize("assign, message", LABELS)
+def test_labels_in_another_order_than_the_slice_are_refused(assign, message):
+    model = tarq.TARQModel()
+    data = types.SimpleNamespace(a=empty(["a", "b"], 2), x=tarq.TARQVarSet(), r=tarq.TARQResSet())
+    data.x.Init(model, "x", ["a", "b"], 2)
+    data.r.Init(model, "r", ["a", "b"], 2)
+    with contextlib.nullcontext() if message is None else pytest.raises(ValueError, match=message):
+        assign(data)
 
 
 def test_collections_are_walked_and_counted():

@@ -53,8 +53,27 @@ def test_plain_misuse_raises_what_python_raises():
         (lambda: tarq.TARQModel(1), TypeError),
         (lambda: tarq.Object(), TypeError),
         (lambda: type(_collection.make())(), TypeError),
+        (lambda: setattr(model, "__class__", tarq.TARQSet), TypeError),
+        (lambda: vars(object)["__class__"].__set__(model, tarq.TARQSet) or model[1], TypeError),
+        (lambda: type("Both", (tarq.TARQModel, tarq.TARQSet), {})(), TypeError),
     ]:
         with pytest.raises(kind) as caught:
             misuse()
         assert not isinstance(caught.value, tarq.Error)
+    model = tarq.TARQModel()
     assert not hasattr(model, "nothing") and getattr(model, "nothing", 5) == 5
+
+
+def test_a_refused_model_notes_the_reason_and_the_name():
+    model = tarq.TARQModel()
+    model.AddCol(0, 1, 0, 1, "oak")
+    model.AddCol(0, 1, 0, float("nan"), "ash")
+    model.ColUB[1] = 1
+    for _ in range(2):
+        with pytest.raises(tarq.Error) as caught:
+            model.Optimize()
+        assert caught.value.__notes__ == [f"{model.LastSolverMessage} Column 2 is 'ash'."]
+    model.LocationOfTARQDLL = "/nowhere/engine.so"
+    with pytest.raises(tarq.Error) as caught:
+        model.Optimize()
+    assert tarq.last_status() == 0x80041011 and not hasattr(caught.value, "__notes__")

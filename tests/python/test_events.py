@@ -1,6 +1,7 @@
 """Events and background runs."""
 
 import os
+import signal
 import subprocess
 import sys
 import threading
@@ -104,6 +105,13 @@ for row in range(6):
     m.RowRHS[row + 1] = half
     m.RowLHS[row + 1] = half
 """
+# As the interpreter ends it lets this go, and other threads come back meanwhile.
+SLOW_END = """
+class Slow:
+    def __del__(self, sleep=time.sleep):
+        sleep(0.5)
+slow = Slow()
+"""
 ENDINGS = {
     "with a run under way": MARKET_SPLIT + "m.OptimizeAsync(); time.sleep(0.5); assert m.IsBusy",
     "with a run that was killed": MARKET_SPLIT + "m.OptimizeAsync(); time.sleep(0.5); m.KillThread()",
@@ -112,15 +120,45 @@ ENDINGS = {
     ),
     "with a sink that is called at the end": "tarq.advise(m, lambda: time.sleep(0.2)); m.OptimizeAsync()",
     "from within a sink": "tarq.advise(m, lambda: sys.exit(3)); m.Optimize()",
+    "with a thread that comes back from the component": (
+        SLOW_END + "threading.Thread(target=_collection.make().Sleep, args=(300,), daemon=True).start()"
+    ),
+    "with a sink that never ends": "tarq.advise(m, lambda: [0 for _ in iter(int, 1)]); m.OptimizeAsync(); time.sleep(0.3)",
     "with a sink's model in a circle": "tarq.advise(m, lambda: m); m.Optimize()",
 }
 
 
 @pytest.mark.parametrize("ending", ENDINGS)
 def test_the_interpreter_can_end(ending):
-    code = "import random, sys, threading, time, tarq\nm = tarq.TARQModel()\n{}\nprint('done')\n"
+    code = "import random, sys, threading, time, tarq, _collection\nm = tarq.TARQModel()\n{}\nprint('done')\n"
     result = subprocess.run(
         [sys.executable, "-c", code.format(ENDINGS[ending])],
         env=os.environ, capture_output=True, text=True, timeout=WAIT, check=False,
     )
     assert result.stdout == "done\n" and result.returncode == 0, result.stderr
+
+
+INTERRUPTED = """
+import random, signal, socket, tarq
+m = tarq.TARQModel()
+{}
+reader, writer = socket.socketpair()
+writer.setblocking(False)
+signal.set_wakeup_fd(writer.fileno())
+tarq.advise(m, lambda: print("finished"))
+print("running", flush=True)
+try:
+    m.Optimize()
+except KeyboardInterrupt:
+    print("interrupted", m.NumberOfLPIterations > 0, reader.recv(9), signal.set_wakeup_fd(-1) == writer.fileno())
+"""
+
+
+def test_an_interrupt_stops_a_run_and_is_raised_when_it_has_ended():
+    command = [sys.executable, "-c", INTERRUPTED.format(MARKET_SPLIT)]
+    with subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as process:
+        assert process.stdout.readline() == "running\n"
+        time.sleep(1)
+        process.send_signal(signal.SIGINT)
+        told, wrong = process.communicate(timeout=WAIT)
+    assert told == "finished\ninterrupted True b'\\x02' True\n" and process.returncode == 0, wrong

@@ -97,3 +97,17 @@ def test_a_profile_keeps_what_stands_before_its_mistake(plan, tmp_path):
         plan.ReadProfile(str(path))
     assert caught.value.description == "Type mismatch for parameter 'xmiter'! Error in line: xmiter = many"
     assert (plan.Parameter["xglgap"], plan.Parameter["xabgap"]) == (0.5, 0)
+
+
+def test_names_and_paths_in_another_encoding_come_back_as_they_were(plan, tmp_path):
+    path = str(tmp_path / "gr\udcfcn")
+    plan.ColName[1] = "gr\udcfcn"
+    plan.WriteModel(path, tarq.Triplet)
+    with open(path, "rb") as file:
+        assert b"gr\xfcn" in file.read()
+    read = tarq.TARQModel()
+    read.ReadModel(path, tarq.Triplet)
+    assert read.ColName[1] == "gr\udcfcn" and read.ColUB["gr\udcfcn"] == 4
+    with pytest.raises(tarq.Error) as caught:
+        read.ColUB["\udcfc"]
+    assert caught.value.description == "Column name '\udcfc' could not be found."

@@ -26,7 +26,7 @@ class Cells(tarq.Dispatch):
     """A spreadsheet range, as far as somebody asks."""
 
     _interfaces_ = [RANGE]
-    _dispids_ = {0: "Value", 1: "Count", 2: "Cell", 3: "Total", 4: "Broken", 5: "Refused", 6: "Nothing"}
+    _dispids_ = {0: "Value", 1: "Count", 2: "Cell", 3: "Total", 4: "Broken", 5: "Refused", 6: "Nothing", 7: "Odd", 8: "Stopped"}
 
     def __init__(self, rows):
         self.rows = rows
@@ -50,6 +50,12 @@ class Cells(tarq.Dispatch):
 
     def Refused(self):
         raise tarq.Error(0x80041031, "Not this one.")
+
+    def Odd(self):
+        raise ValueError("gr\udcfcn")
+
+    def Stopped(self):
+        raise KeyboardInterrupt
 
 
 @pytest.fixture
@@ -97,6 +103,7 @@ def test_members_are_numbered_by_their_names(caller, cells):
         (4, (), 0x80004005, "KeyError: 'gone'", KeyError),
         (5, (), 0x80041031, "Not this one.", tarq.Error),
         (6, (), 0x80004005, "AttributeError", AttributeError),
+        (7, (), 0x80004005, "ValueError: gr\udcfcn", ValueError),
         (2, (), 0x80004005, "TypeError", TypeError),
         (9, (), 0x80020003, "", None),
         (1, (5,), 0x8002000E, "", None),
@@ -106,7 +113,13 @@ def test_failures_of_a_stand_in_reach_the_caller_with_their_cause(caller, cells,
     with pytest.raises(tarq.Error) as caught:
         caller.Call(cells, member, METHOD | GET, *arguments)
     assert caught.value.status == status and words in caught.value.description
+    assert str(caught.value).encode()
     assert caught.value.__cause__ is None if cause is None else isinstance(caught.value.__cause__, cause)
+
+
+def test_what_ends_the_program_passes_through(caller, cells):
+    with pytest.raises(KeyboardInterrupt):
+        caller.Call(cells, 8, METHOD)
 
 
 def test_a_stand_in_is_the_same_object_while_it_is_held_and_free_afterwards(caller):

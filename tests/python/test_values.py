@@ -1,6 +1,7 @@
 """Values on their way to the component and back, seen by an object that describes what it gets."""
 
 import array
+import sys
 
 import numpy
 import pytest
@@ -21,6 +22,12 @@ class Unknown:
 def endless_list():
     endless = []
     endless.append(endless)
+    return endless
+
+
+def endless_array(shape):
+    endless = numpy.empty(shape, object)
+    endless[(0,) * endless.ndim] = endless
     return endless
 
 
@@ -81,12 +88,23 @@ def test_python_values_become_kinds(collection, value, words):
 
 @pytest.mark.parametrize(
     "value, error",
-    [(10**400, OverflowError), ("\ud800", UnicodeEncodeError), (endless_list(), RecursionError)],
-    ids=["int", "text", "list"],
+    [
+        (10**400, OverflowError),
+        ("\ud800", UnicodeEncodeError),
+        (endless_list(), RecursionError),
+        (endless_array(1), RecursionError),
+        (endless_array(()), RecursionError),
+    ],
+    ids=["int", "text", "list", "array", "array without dimensions"],
 )
 def test_values_that_no_kind_holds_are_refused(collection, value, error):
-    with pytest.raises(error):
-        collection.Describe(value)
+    limit = sys.getrecursionlimit()
+    sys.setrecursionlimit(10**6)  # a program that wants deep recursion must not get it on the stack
+    try:
+        with pytest.raises(error):
+            collection.Describe(value)
+    finally:
+        sys.setrecursionlimit(limit)
 
 
 def test_arrays_travel_by_reference_only_in_a_variadic_list(collection):
@@ -103,7 +121,7 @@ def test_none_is_the_missing_argument_only_where_one_may_be_left_out(collection)
     assert collection.Describe(None) == str(EMPTY)
 
 
-@pytest.mark.parametrize("value", [True, -5, 2.25, "text", None, 2**40 + 0.0, [[1, 2], [3, "x"]], [1, [2]]])
+@pytest.mark.parametrize("value", [True, -5, 2.25, "text", "gr\udcfcn", None, 2**40 + 0.0, [[1, 2], [3, "x"]], [1, [2]]])
 def test_values_come_back_as_they_were(collection, value):
     same = collection.Echo(value)
     assert same == value and type(same) is type(value)

@@ -17,16 +17,31 @@
 namespace tarq::python {
 namespace {
 
-/// Nested lists of whatever depth end here rather than on the stack's last page.
+/// Nested lists and arrays of whatever depth end here rather than on the stack's last page, also where a program has
+/// raised the interpreter's own limit.
 class RecursionGuard {
 public:
     RecursionGuard() {
+        constexpr int deepest = 1000;
+        if (depth >= deepest) {
+            PyErr_SetString(PyExc_RecursionError, "lists or arrays are nested too deeply");
+            throw py::error_already_set();
+        }
         if (Py_EnterRecursiveCall(" while converting lists") != 0) throw py::error_already_set();
+        ++depth;
     }
     RecursionGuard(const RecursionGuard&) = delete;
     RecursionGuard& operator=(const RecursionGuard&) = delete;
-    ~RecursionGuard() { Py_LeaveRecursiveCall(); }
+    ~RecursionGuard() {
+        --depth;
+        Py_LeaveRecursiveCall();
+    }
+
+private:
+    static thread_local int depth;
 };
+
+thread_local int RecursionGuard::depth = 0;
 
 py::module_ numPy() { return py::module_::import("numpy"); }
 
@@ -35,6 +50,11 @@ py::object loadedNumPy() {
     static auto* const name = PyUnicode_InternFromString("numpy");
     PyObject* const found = PyDict_GetItemWithError(PyImport_GetModuleDict(), name);
     return found == nullptr ? py::none() : py::reinterpret_borrow<py::object>(found);
+}
+
+bool isNumPyScalar(py::handle value) {
+    const py::object module = loadedNumPy();
+    return !module.is_none() && checked(PyObject_IsInstance(value.ptr(), module.attr("generic").ptr())) != 0;
 }
 
 SafeArray newArray(Kind kind, std::span<const Dimension> dimensions) {
@@ -175,18 +195,16 @@ py::list nestedLists(const SafeArray& array, std::size_t dimension, std::size_t&
 }  // namespace
 
 bool isFromNumPy(py::handle value) {
-    if (const py::object module = loadedNumPy(); !module.is_none()) {
-        if (checked(PyObject_IsInstance(value.ptr(), module.attr("generic").ptr())) != 0) return true;
-    }
-    return PyType_Check(value.ptr()) == 0 && py::hasattr(value, "__array__");
+    return isNumPyScalar(value) || (PyType_Check(value.ptr()) == 0 && py::hasattr(value, "__array__"));
 }
 
 Variant numPyToVariant(py::handle value) {
+    const RecursionGuard guard;  // an array of objects may hold itself
     const py::object array = numPy().attr("asarray")(value);
     if (array.attr("ndim").cast<int>() == 0) {
         const py::object item = array.attr("item")();
-        // A kind of number that Python doesn't have, such as the long double, stays as it is; that would go on forever.
-        return isFromNumPy(item) ? toVariant(py::float_(item)) : toVariant(item);
+        // A kind of number that Python doesn't have, such as the long double, stays as it is.
+        return isNumPyScalar(item) ? toVariant(py::float_(item)) : toVariant(item);
     }
     const py::object typed = typedForm(array);
     if (!typed.is_none()) return Variant(copyBuffer(typed));

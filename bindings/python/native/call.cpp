@@ -5,26 +5,29 @@
 #include <string>
 #include <vector>
 
+#include "callwatch.h"
 #include "failures.h"
 #include "frame/ienumvariant.h"
 #include "frame/safearray.h"
+#include "labels.h"
+#include "text.h"
 #include "values.h"
 
 namespace tarq::python {
 namespace {
 
 /// Lets other Python threads run during a call that may take long.
-class OptionalRelease {
+class InterpreterRelease {
 public:
-    explicit OptionalRelease(bool release) : state_(release ? PyEval_SaveThread() : nullptr) {}
-    OptionalRelease(const OptionalRelease&) = delete;
-    OptionalRelease& operator=(const OptionalRelease&) = delete;
-    ~OptionalRelease() {
-        if (state_ != nullptr) PyEval_RestoreThread(state_);
+    InterpreterRelease() = default;
+    InterpreterRelease(const InterpreterRelease&) = delete;
+    InterpreterRelease& operator=(const InterpreterRelease&) = delete;
+    ~InterpreterRelease() {
+        withoutUnwinding([this] { PyEval_RestoreThread(state_); });
     }
 
 private:
-    PyThreadState* state_;
+    PyThreadState* state_ = PyEval_SaveThread();
 };
 
 Variant argumentOf(const MemberParameter* parameter, PyObject* value) {
@@ -41,24 +44,43 @@ std::string rejectionText(const MemberInfo& member, Status status, std::uint32_t
 }
 
 /// One call, and what became of it.
-struct Invocation {
-    const Proxy& proxy;
-    const MemberInfo& member;
+class Invocation {
+public:
+    Invocation(const Proxy& called, const MemberInfo& info) : proxy_(called), member_(info) {}
     Variant result{};
 
     Status run(const InvokeArguments& arguments) {
-        std::uint32_t rejected = 0;
-        Status ended;
         forgetException();
-        {
-            const OptionalRelease released(member.flags.blocking);
-            ended = proxy.dispatch->Invoke(member.id, static_cast<std::uint16_t>(member.kind), arguments, &result,
-                                           &rejected);
+        std::uint32_t rejected = 0;
+        const Status ended = member_.flags.blocking ? invokeReleased(arguments, rejected) : invoke(arguments, rejected);
+        if (ended.failed()) {
+            const py::handle explaining = member_.stoppedBy.empty() ? py::handle() : handleOf(proxy_);
+            throwFailure(ended, proxy_.type->source, rejectionText(member_, ended, rejected), explaining);
         }
-        setLastStatus(ended);
-        if (ended.failed()) throwFailure(ended, proxy.type->source, rejectionText(member, ended, rejected));
+        throwEnding();
         return ended;
     }
+
+private:
+    Status invoke(const InvokeArguments& arguments, std::uint32_t& rejected) {
+        const Status ended = proxy_.dispatch->Invoke(member_.id, static_cast<std::uint16_t>(member_.kind), arguments,
+                                                     &result, &rejected);
+        setLastStatus(ended);
+        return ended;
+    }
+
+    Status invokeReleased(const InvokeArguments& arguments, std::uint32_t& rejected) {
+        CallWatch watch(proxy_, member_);
+        const Status ended = [&] {
+            const InterpreterRelease released;
+            return invoke(arguments, rejected);
+        }();
+        watch.throwInterrupt();
+        return ended;
+    }
+
+    const Proxy& proxy_;
+    const MemberInfo& member_;
 };
 
 /// The arguments of a call in the general case: by position and by name, with a variadic list and with outputs.
@@ -116,7 +138,7 @@ private:
             arguments.names == nullptr ? 0 : static_cast<std::size_t>(PyTuple_GET_SIZE(arguments.names));
         for (std::size_t i = 0; i < count; ++i) {
             const py::handle name = PyTuple_GET_ITEM(arguments.names, static_cast<Py_ssize_t>(i));
-            const std::size_t parameter = parameterOf(name.cast<std::string>());
+            const std::size_t parameter = parameterOf(TextBytes(name).copy());
             names_.push_back(static_cast<std::int32_t>(parameter));
             values_.push_back(argumentOf(&member_.parameters[parameter], arguments.values[arguments.positional + i]));
         }
@@ -190,7 +212,8 @@ constexpr std::size_t mostPlain = 6;
 }  // namespace
 
 py::object callMember(const Proxy& proxy, const MemberInfo& member, const PythonArguments& arguments) {
-    Invocation call{proxy, member};
+    checkLabels(proxy, member, arguments, nullptr);
+    Invocation call(proxy, member);
     if (arguments.positional <= mostPlain && isPlain(member, arguments)) {
         const PlainArguments<mostPlain> list(member, arguments);
         const Status ended = call.run(list.get());
@@ -208,7 +231,8 @@ py::object callMember(const Proxy& proxy, const MemberInfo& member, const Python
 }
 
 void putMember(const Proxy& proxy, const MemberInfo& member, const PythonArguments& arguments, PyObject* value) {
-    Invocation call{proxy, member};
+    checkLabels(proxy, member, arguments, value);
+    Invocation call(proxy, member);
     if (arguments.positional < mostPlain && isPlain(member, arguments)) {
         PlainArguments<mostPlain> list(member, arguments);
         list.add(value);
@@ -218,6 +242,18 @@ void putMember(const Proxy& proxy, const MemberInfo& member, const PythonArgumen
     ArgumentList list(proxy, member, arguments);
     list.addPutValue(value);
     (void)call.run(list.get());
+}
+
+py::list getNumbered(const Proxy& proxy, const MemberInfo& member, std::int32_t first, std::int32_t count) {
+    py::list all;
+    std::array numbers{Variant(first), Variant()};
+    for (std::int32_t number = 1; number <= count; ++number) {
+        numbers.back() = Variant(number);
+        Invocation call(proxy, member);
+        (void)call.run({numbers, {}});
+        all.append(toPython(std::move(call.result), member.resultEnumeration));
+    }
+    return all;
 }
 
 SubscriptArguments::SubscriptArguments(PyObject* key) : single_(key) {

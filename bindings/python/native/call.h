@@ -25,6 +25,11 @@ struct PythonArguments {
 /// Puts a property. Throws tarq.Error.
 void putMember(const Proxy& proxy, const MemberInfo& member, const PythonArguments& arguments, PyObject* value);
 
+/// What a property of two numbers gives for `first` and each of 1 to `count`, without a call from Python for each.
+/// Throws tarq.Error.
+[[nodiscard]] py::list getNumbered(const Proxy& proxy, const MemberInfo& member, std::int32_t first,
+                                   std::int32_t count);
+
 /// A subscript as arguments: a tuple is several of them, a full slice the missing one.
 class SubscriptArguments {
 public:

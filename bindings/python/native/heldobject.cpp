@@ -33,8 +33,10 @@ std::uint32_t HeldObject::Release() {
     if (left > 0) return left;
     // Without the interpreter the Python object is lost with it.
     if (const InterpreterLock lock; lock) {
-        leave();
-        object_.dec_ref();
+        withoutUnwinding([this] {
+            leave();
+            object_.dec_ref();
+        });
     }
     std::default_delete<HeldObject>()(this);
     return 0;

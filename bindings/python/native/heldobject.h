@@ -58,16 +58,18 @@ private:
 template <class Body>
 Status callIn(const Body& body) noexcept {
     const InterpreterLock lock;
-    if (!lock) return status::generalFailure;
-    try {
-        return body();
-    } catch (py::error_already_set& error) {
-        return recordException(error);
-    } catch (const std::bad_alloc&) {
-        return status::outOfMemory;
-    } catch (const std::exception& error) {
-        return raise(Guid{}, error.what(), status::generalFailure);
-    }
+    if (!lock) return raise(Guid{}, "The interpreter is ending.", status::generalFailure);
+    return withoutUnwinding([&] {
+        try {
+            return body();
+        } catch (py::error_already_set& error) {
+            return recordException(error);
+        } catch (const std::bad_alloc&) {
+            return status::outOfMemory;
+        } catch (const std::exception& error) {
+            return raise(Guid{}, error.what(), status::generalFailure);
+        }
+    });
 }
 
 /// The arguments of a call as a tuple of Python values.

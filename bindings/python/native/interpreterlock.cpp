@@ -3,18 +3,20 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <thread>
 
 #include "python.h"
 
 namespace tarq::python {
 namespace {
 
-/// Who is inside, apart from threads that came from Python. Never destroyed: threads may come after the end of main.
+/// Who is inside. Never destroyed: threads may come after the end of main.
 struct Gate {
     std::mutex mutex;
     std::condition_variable left;
     int inside = 0;
     bool closed = false;
+    std::thread::id closer;
 };
 
 Gate& gate() {
@@ -24,7 +26,7 @@ Gate& gate() {
 
 bool pass() {
     const std::lock_guard lock(gate().mutex);
-    if (gate().closed) return false;
+    if (gate().closed && gate().closer != std::this_thread::get_id()) return false;
     ++gate().inside;
     return true;
 }
@@ -37,19 +39,21 @@ void leave() {
 
 }  // namespace
 
+void stopThisThread() noexcept {
+    for (;;) std::this_thread::sleep_for(std::chrono::hours(1));
+}
+
 InterpreterLock::InterpreterLock() {
-    if (Py_IsInitialized() == 0) return;
-    if (PyGILState_Check() != 0) {
-        state_ = State::AlreadyHeld;
-    } else if (pass()) {
-        token_ = PyGILState_Ensure();
-        state_ = State::Entered;
-    }
+    if (Py_IsInitialized() == 0 || !pass()) return;
+    state_ = PyGILState_Check() != 0 ? State::AlreadyHeld : State::Entered;
+    if (state_ == State::Entered) token_ = withoutUnwinding(PyGILState_Ensure);
 }
 
 InterpreterLock::~InterpreterLock() {
-    if (state_ != State::Entered) return;
-    PyGILState_Release(static_cast<PyGILState_STATE>(token_));
+    if (state_ == State::Refused) return;
+    if (state_ == State::Entered) {
+        withoutUnwinding([this] { PyGILState_Release(static_cast<PyGILState_STATE>(token_)); });
+    }
     leave();
 }
 
@@ -59,6 +63,7 @@ void closeInterpreter() {
     const py::gil_scoped_release released;
     std::unique_lock lock(gate().mutex);
     gate().closed = true;
+    gate().closer = std::this_thread::get_id();
     gate().left.wait_for(lock, longest, [] { return gate().inside == 0; });
 }
 

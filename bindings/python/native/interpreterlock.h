@@ -1,9 +1,11 @@
 // Entering the interpreter from C++, on whatever thread that is.
 //
 // A run calls its sinks on a thread that Python doesn't know, and the last reference to a Python object may be dropped
-// there. While the interpreter shuts down a thread that asks for its lock is ended on the spot, and with it the host
-// process; so from then on nobody gets in, and the shutdown waits for those who are.
+// there. While the interpreter shuts down a thread that asks for its lock is ended on the spot (see python.h); so from
+// then on nobody gets in but the thread that ends the interpreter, and the shutdown waits for those who are.
 #pragma once
+
+#include <cstdint>
 
 namespace tarq::python {
 
@@ -18,7 +20,7 @@ public:
     explicit operator bool() const { return state_ != State::Refused; }
 
 private:
-    enum class State { Refused, AlreadyHeld, Entered };
+    enum class State : std::uint8_t { Refused, AlreadyHeld, Entered };
 
     State state_ = State::Refused;
     int token_ = 0;

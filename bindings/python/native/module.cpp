@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "call.h"
 #include "component/classtable.h"
 #include "component/createobject.h"
 #include "description.h"
@@ -46,6 +47,14 @@ py::dict classTypes() {
     return all;
 }
 
+/// See getNumbered; for the package's own helpers.
+py::list numbered(const py::object& object, const std::string& property, std::int32_t first, std::int32_t count) {
+    const InterfaceType* type = isProxy(object) ? proxyOf(object).type : nullptr;
+    const MemberInfo* get = type == nullptr ? nullptr : type->table->find(property);
+    if (get == nullptr || get->kind != MemberKind::Get) throw py::type_error("no property " + property);
+    return getNumbered(proxyOf(object), *get, first, count);
+}
+
 void addTypes(py::module_& module) {
     makeMemberTypes();
     makeEnumeratorType();
@@ -74,6 +83,7 @@ void addFunctions(py::module_& module) {
     module.def("live_objects", module::liveObjects, "How many objects of the component are alive in this process.");
     module.def("adopt", adopt, py::arg("capsule"), "A proxy of the object that a capsule points to.");
     module.def("register_enumeration", registerEnumeration, py::arg("name"), py::arg("members"));
+    module.def("numbered", numbered, py::arg("object"), py::arg("property"), py::arg("first"), py::arg("count"));
     module.def("described_classes", describedClasses);
     module.def("described_enumerations", describedEnumerations);
     module.def("class_types", classTypes);

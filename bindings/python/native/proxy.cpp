@@ -11,6 +11,7 @@
 #include "failures.h"
 #include "heldobject.h"
 #include "member.h"
+#include "text.h"
 #include "values.h"
 
 namespace tarq::python {
@@ -29,17 +30,15 @@ std::unordered_map<const InterfaceTable*, std::unique_ptr<InterfaceType>>& inter
 
 Proxy& self(PyObject* object) { return *reinterpret_cast<Proxy*>(object); }
 
-std::string_view textOf(PyObject* name) {
-    Py_ssize_t size = 0;
-    const char* text = checked(PyUnicode_AsUTF8AndSize(name, &size));
-    return {text, static_cast<std::size_t>(size)};
+bool isSubtype(PyTypeObject* type, const InterfaceType& interface) {
+    return PyType_IsSubtype(type, reinterpret_cast<PyTypeObject*>(interface.type.ptr())) != 0;
 }
 
 py::module_ presentation() { return py::module_::import("tarq._presentation"); }
 
 [[noreturn]] void throwNoMember(PyObject* object, PyObject* name) {
     const py::object text = presentation().attr("unknown_member")(py::handle(object), py::handle(name));
-    throwUnknownName(text.cast<std::string>(), sourceName(object));
+    throwUnknownName(TextBytes(text).copy(), sourceName(object));
 }
 
 // Attributes. Python's own look-up comes first: it knows the members in their own spelling. The other spellings, and
@@ -51,22 +50,32 @@ PyObject* getAttribute(PyObject* object, PyObject* name) {
         return found;
     return guarded<PyObject*>(nullptr, [&] {
         py::error_already_set original;
-        const std::string_view text = textOf(name);
-        if (PyObject* const member = self(object).type->descriptor(text); member != nullptr) {
+        const TextBytes text(name);
+        if (PyObject* const member = self(object).type->descriptor(text.view()); member != nullptr) {
             return checked(Py_TYPE(member)->tp_descr_get(member, object, nullptr));
         }
         // Python itself asks for names like these and expects no long answer.
-        if (text.starts_with("__")) throw original;
+        if (text.view().starts_with("__")) throw original;
         throwNoMember(object, name);
     });
 }
 
+/// An object can become one of another class of the client's own, but not of another interface.
+void checkNewClass(PyObject* object, PyObject* newClass) {
+    const InterfaceType* type = self(object).type;
+    if (newClass == nullptr || PyType_Check(newClass) == 0) return;  // Python refuses these itself
+    if (type != nullptr && isSubtype(reinterpret_cast<PyTypeObject*>(newClass), *type)) return;
+    throw py::type_error("an object of the component keeps the class of its interface");
+}
+
 int setAttribute(PyObject* object, PyObject* name, PyObject* value) {
     return guarded(-1, [&] {
-        PyObject* const member = self(object).type == nullptr ? nullptr : self(object).type->descriptor(textOf(name));
+        PyObject* const member =
+            self(object).type == nullptr ? nullptr : self(object).type->descriptor(TextBytes(name).view());
         if (member != nullptr && Py_TYPE(member)->tp_descr_set != nullptr) {
             return checked(Py_TYPE(member)->tp_descr_set(member, object, value));
         }
+        if (PyUnicode_CompareWithASCIIString(name, "__class__") == 0) checkNewClass(object, value);
         if (PyObject_GenericSetAttr(object, name, value) == 0) return 0;
         const bool isUnknown = member == nullptr && self(object).type != nullptr;
         if (!isUnknown || PyErr_ExceptionMatches(PyExc_AttributeError) == 0) return -1;
@@ -75,28 +84,40 @@ int setAttribute(PyObject* object, PyObject* name, PyObject* value) {
     });
 }
 
+/// The member behind an operation of the object. A type that a program has put together may offer more operations than
+/// the object itself has.
+const MemberInfo& memberBehind(PyObject* object, const MemberInfo* InterfaceType::*operation) {
+    const InterfaceType* type = self(object).type;
+    if (type != nullptr && type->*operation != nullptr) return *(type->*operation);
+    throw py::type_error(std::string("this object isn't what its type ") + Py_TYPE(object)->tp_name + " tells");
+}
+
 // The default member.
 
 PyObject* subscript(PyObject* object, PyObject* key) {
     return guarded<PyObject*>(nullptr, [&] {
+        const MemberInfo& member = memberBehind(object, &InterfaceType::defaultGet);
         const SubscriptArguments arguments(key);
-        return callMember(self(object), *self(object).type->defaultGet, arguments.get()).release().ptr();
+        return callMember(self(object), member, arguments.get()).release().ptr();
     });
 }
 
 int assignSubscript(PyObject* object, PyObject* key, PyObject* value) {
     return guarded(-1, [&] {
         if (value == nullptr) throw py::type_error("an element can't be deleted");
-        const MemberInfo* put = self(object).type->defaultPut;
-        if (put == nullptr) throw py::type_error("the elements of this object can't be set");
+        const InterfaceType* type = self(object).type;
+        if (type == nullptr || type->defaultPut == nullptr) {
+            throw py::type_error("the elements of this object can't be set");
+        }
         const SubscriptArguments arguments(key);
-        putMember(self(object), *put, arguments.get(), value);
+        putMember(self(object), *type->defaultPut, arguments.get(), value);
         return 0;
     });
 }
 
 PyObject* call(PyObject* object, PyObject* arguments, PyObject* keywords) {
     return guarded<PyObject*>(nullptr, [&] {
+        const MemberInfo& member = memberBehind(object, &InterfaceType::defaultGet);
         std::vector<PyObject*> values;
         for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(arguments); ++i) values.push_back(PyTuple_GET_ITEM(arguments, i));
         const std::size_t positional = values.size();
@@ -109,27 +130,27 @@ PyObject* call(PyObject* object, PyObject* arguments, PyObject* keywords) {
         }
         const py::tuple fixedNames(names);
         PyObject* const passedNames = fixedNames.empty() ? nullptr : fixedNames.ptr();
-        return callMember(self(object), *self(object).type->defaultGet, {values.data(), positional, passedNames})
-            .release()
-            .ptr();
+        return callMember(self(object), member, {values.data(), positional, passedNames}).release().ptr();
     });
 }
 
 Py_ssize_t length(PyObject* object) {
-    return guarded<Py_ssize_t>(
-        -1, [&] { return callMember(self(object), *self(object).type->count, {}).cast<Py_ssize_t>(); });
+    return guarded<Py_ssize_t>(-1, [&] {
+        return callMember(self(object), memberBehind(object, &InterfaceType::count), {}).cast<Py_ssize_t>();
+    });
 }
 
 PyObject* iterate(PyObject* object) {
     return guarded<PyObject*>(nullptr, [&] {
-        const InterfaceType& type = *self(object).type;
+        const MemberInfo& member = memberBehind(object, &InterfaceType::enumerator);
+        const std::string& source = self(object).type->source;
         Variant enumerator;
-        const Status status = self(object).dispatch->Invoke(
-            type.enumerator->id, static_cast<std::uint16_t>(type.enumerator->kind), {}, &enumerator, nullptr);
+        const Status status =
+            self(object).dispatch->Invoke(member.id, static_cast<std::uint16_t>(member.kind), {}, &enumerator, nullptr);
         setLastStatus(status);
-        if (status.failed()) throwFailure(status, type.source);
+        if (status.failed()) throwFailure(status, source);
         if (!enumerator.isObject()) throw py::type_error("the object handed out no enumerator");
-        return iteratorOf(Ref<IUnknown>(enumerator.object()), type.source).release().ptr();
+        return iteratorOf(Ref<IUnknown>(enumerator.object()), source).release().ptr();
     });
 }
 
@@ -176,8 +197,9 @@ PyObject* create(PyTypeObject* type, PyObject* arguments, PyObject* keywords) {
     return guarded<PyObject*>(nullptr, [&] {
         const InterfaceType* found = nullptr;
         for (const auto& [table, candidate] : interfaceTypes()) {
-            if (PyType_IsSubtype(type, reinterpret_cast<PyTypeObject*>(candidate->type.ptr())) != 0)
-                found = candidate.get();
+            if (!isSubtype(type, *candidate)) continue;
+            if (found != nullptr) throw py::type_error("a class can extend one class of the component");
+            found = candidate.get();
         }
         if (found == nullptr || found->entry == nullptr) {
             throw py::type_error(std::string("a ") + type->tp_name + " can't be created, the component hands it out");
@@ -259,7 +281,7 @@ void addHelpers(InterfaceType& type) {
     const py::object name = py::str(type.table->name().data(), type.table->name().size());
     for (const py::handle helper : py::module_::import("tarq._helpers").attr("helpers_of")(name)) {
         const py::object helperName = helper.attr("__name__");
-        if (type.descriptor(textOf(helperName.ptr())) == nullptr) py::setattr(type.type, helperName, helper);
+        if (type.descriptor(TextBytes(helperName).view()) == nullptr) py::setattr(type.type, helperName, helper);
     }
 }
 

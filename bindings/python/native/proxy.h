@@ -49,6 +49,9 @@ struct Proxy {
 
 [[nodiscard]] bool isProxy(py::handle value);
 [[nodiscard]] inline Proxy& proxyOf(py::handle value) { return *reinterpret_cast<Proxy*>(value.ptr()); }
+[[nodiscard]] inline py::handle handleOf(const Proxy& proxy) {
+    return const_cast<PyObject*>(&proxy.ob_base);  // Python knows no const
+}
 /// The object behind a proxy.
 [[nodiscard]] Ref<IUnknown> objectOf(py::handle proxy);
 /// The class of a proxy's object, null when it has none of its own.

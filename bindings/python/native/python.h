@@ -1,7 +1,13 @@
 // What all sources of the extension need of Python: pybind11's owning references, and the border that C++ exceptions
 // don't cross.
+//
+// While the interpreter shuts down it ends every other thread that asks for its lock, by unwinding the thread's stack.
+// That would go through destructors that want the lock, and at the first function that lets nothing pass the process
+// would be aborted. So where the unwinding reaches this code the thread stops for good; the end of the process takes it
+// along.
 #pragma once
 
+#include <cxxabi.h>
 #include <pybind11/pybind11.h>
 #include <structmember.h>
 
@@ -12,6 +18,22 @@
 namespace tarq::python {
 
 namespace py = pybind11;
+
+/// What the stack of a thread that is ended is unwound by.
+using ThreadEnd = abi::__forced_unwind;
+
+/// Stops the calling thread for good. It must not hold the interpreter's lock.
+[[noreturn]] void stopThisThread() noexcept;
+
+/// Runs a body that calls the interpreter from where no unwinding may pass.
+template <class Body>
+auto withoutUnwinding(Body&& body) {
+    try {
+        return std::forward<Body>(body)();
+    } catch (const ThreadEnd&) {
+        stopThisThread();
+    }
+}
 
 /// Runs a slot's body and turns what it throws into a Python exception. `failure` is what the slot returns then.
 template <class Result, class Body>
@@ -26,6 +48,8 @@ Result guarded(Result failure, Body&& body) noexcept {
         error.set_error();
     } catch (const std::exception& error) {
         PyErr_SetString(PyExc_SystemError, error.what());
+    } catch (const ThreadEnd&) {
+        stopThisThread();
     }
     return failure;
 }

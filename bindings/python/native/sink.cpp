@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "callwatch.h"
 #include "component/classtable.h"
 #include "failures.h"
 #include "frame/connectionpoint.h"
@@ -44,12 +45,14 @@ private:
 
     /// Nobody waits for the outcome of an event, so Python's own hook for lost exceptions gets them.
     Status deliver(const MemberInfo& event, std::span<const Variant> values) const {
+        settleSignals();
         try {
             py::object handler = methodFor(object(), event.name);
             if (!handler) handler = py::reinterpret_borrow<py::object>(object());
             handler(*pythonArguments(values));
             return status::ok;
         } catch (py::error_already_set& error) {
+            if (keepInterrupt(error)) return status::generalFailure;
             error.restore();
             PyErr_WriteUnraisable(object().ptr());
             return status::generalFailure;

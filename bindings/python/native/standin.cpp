@@ -13,6 +13,7 @@
 #include "frame/supporterrorinfo.h"
 #include "heldobject.h"
 #include "interfaces/ifamilyidentity.h"
+#include "text.h"
 #include "values.h"
 
 namespace tarq::python {
@@ -83,7 +84,7 @@ private:
     Status findNames(std::span<const std::string_view> names, std::int32_t* ids) const {
         if (names.empty()) return status::ok;
         for (std::size_t i = 0; i < names.size(); ++i) ids[i] = memberid::unknown;
-        const py::object wanted = py::str(names.front().data(), names.front().size()).attr("lower")();
+        const py::object wanted = textToPython(names.front()).attr("lower")();
         for (const auto& [number, name] : py::dict(object().attr("_dispids_"))) {
             if (py::object(name.attr("lower")()).equal(wanted)) ids[0] = number.cast<std::int32_t>();
         }

@@ -10,6 +10,7 @@
 #include "interfaces/enumerationtables.h"
 #include "proxy.h"
 #include "standin.h"
+#include "text.h"
 
 namespace tarq::python {
 namespace {
@@ -34,20 +35,10 @@ Variant integerToVariant(PyObject* value) {
     return Variant(real);
 }
 
-Variant textToVariant(PyObject* value) {
-    Py_ssize_t size = 0;
-    const char* text = checked(PyUnicode_AsUTF8AndSize(value, &size));
-    return Variant(std::string(text, static_cast<std::size_t>(size)));
-}
-
 bool isOtherSequence(py::handle value) {
     // The protocol alone won't do: every class that can be subscripted fulfils it.
     static auto* const sequence = py::object(py::module_::import("collections.abc").attr("Sequence")).release().ptr();
     return checked(PyObject_IsInstance(value.ptr(), sequence)) != 0;
-}
-
-py::object textToPython(std::string_view text) {
-    return owned(PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace"));
 }
 
 py::object errorToPython(std::uint32_t code) {
@@ -61,7 +52,7 @@ Variant toVariant(py::handle value, NoneMeaning none) {
     if (PyFloat_CheckExact(object)) return Variant(PyFloat_AS_DOUBLE(object));
     if (PyBool_Check(object)) return Variant(object == Py_True);
     if (PyLong_Check(object)) return integerToVariant(object);
-    if (PyUnicode_Check(object)) return textToVariant(object);
+    if (PyUnicode_Check(object)) return Variant(TextBytes(value).copy());
     if (object == Py_None) return none == NoneMeaning::Missing ? Variant::missing() : Variant();
     if (isProxy(value)) return Variant(objectOf(value));
     if (PyList_Check(object) || PyTuple_Check(object)) return Variant(sequenceToArray(value));

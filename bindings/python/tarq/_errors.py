@@ -1,10 +1,15 @@
 """Failures of the component as exceptions."""
 
+import re
+
 ARGUMENT_TYPE = 0x80020005
 ARGUMENT_COUNT = 0x8002000E
 UNKNOWN_PARAMETER = 0x80020004
 UNKNOWN_NAME = 0x80020006
 GENERAL_FAILURE = 0x80004005
+
+# What stands for the bytes of texts that are no UTF-8.
+UNPRINTABLE = re.compile("[\ud800-\udfff]")
 
 
 class Error(Exception):
@@ -22,7 +27,8 @@ class Error(Exception):
         self.source = source
 
     def __str__(self):
-        return f"{self.description} (0x{self.status:08X})"
+        text = UNPRINTABLE.sub("\N{REPLACEMENT CHARACTER}", str(self.description))
+        return f"{text} (0x{self.status:08X})"
 
 
 class ArgumentError(Error, TypeError):
@@ -46,6 +52,30 @@ def error_of(status, description, source):
     """The exception for a failing status."""
     kind = ArgumentError if status in ARGUMENT_FAILURES else Error
     return kind(status, description, source)
+
+
+# Failures of a run of which the engine has told the reason, and how their descriptions begin.
+ENGINE_FAILURES = {0x80041013: "Not enough memory for model", 0x8004102E: "Input error", 0x80041024: ""}
+NUMBERED = re.compile(r"\b(column|row) ([1-9]\d{0,8})\b", re.IGNORECASE)
+
+
+def explain(error, model):
+    """Notes the engine's reason, and the names of the columns and rows whose numbers are in it."""
+    start = ENGINE_FAILURES.get(error.status)
+    message = model.LastSolverMessage if start is not None and error.description.startswith(start) else ""
+    if message:
+        error.add_note(" ".join([message, *named(model, message)]))
+
+
+def named(model, message):
+    names = {"column": model.ColName, "row": model.RowName}
+    for kind, number in dict.fromkeys(NUMBERED.findall(message)):
+        try:
+            name = names[kind.lower()][int(number)]
+        except Error:  # a number of something else
+            continue
+        if name:
+            yield f"{kind.capitalize()} {number} is {name!r}."
 
 
 def member_error(status, description, source):

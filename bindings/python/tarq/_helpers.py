@@ -12,6 +12,7 @@ import reprlib
 from typing import Any, Callable, Iterable, Iterator, Sequence
 
 from . import _optional
+from . import _tarq  # type: ignore[attr-defined]
 
 MOST_LISTED = 8
 MOST_DIMENSIONS = 6
@@ -91,8 +92,8 @@ def text_helper(text: Callable[[Any], str]) -> Callable[[Any], str]:
 def names(array: Any, dimension: int, most: int | None = None) -> list[str]:
     """The element names of an array's dimension, which is numbered from 1; the first `most` of them."""
     size = array.SizeOfIndexset[dimension]
-    element = array.IndexsetElement
-    return [element[dimension, number] for number in range(1, size + 1)[:most]]
+    found: list[str] = _tarq.numbered(array, "IndexsetElement", dimension, size if most is None else min(size, most))
+    return found
 
 
 def html_cell(value: Any, kind: str = "td") -> str:
