@@ -37,10 +37,7 @@ struct SchedulerRelease {
 }  // namespace
 
 std::int32_t EngineState::start() {
-    if (control_ && stageCaller_ == std::this_thread::get_id()) return fail(generalError, "The engine is at work.");
-    ++starts_;
-    if (control_) control_->requestStop();
-    control_.reset();
+    if (isAtWork()) return fail(generalError, "The engine is at work.");
     model_.reset();
     if (log_) log_->close();
     log_.reset();
@@ -48,28 +45,17 @@ std::int32_t EngineState::start() {
     ip_.reset();
     results_ = {};
     stopRequested_ = false;
-    line1_.clear();
-    line2_.clear();
-    return success;
-}
-
-std::int32_t EngineState::release() {
-    if (control_) return fail(generalError, "The engine is at work.");
-    start();
-    callback_ = nullptr;
-    parameters_.clear();
+    fileFailures_.clear();
+    note({});
     return success;
 }
 
 std::int32_t EngineState::fail(std::int32_t result, const std::string& text) {
-    line1_.clear();
-    line2_.clear();
     note(text);
     return result;
 }
 
 void EngineState::note(const std::string& text) {
-    if (text.empty()) return;
     std::string whole = text;
     std::replace(whole.begin(), whole.end(), '\n', ' ');
     line1_ = whole.substr(0, lineLength);
@@ -92,18 +78,15 @@ std::int32_t EngineState::setParameter(std::string_view assignment) {
 }
 
 std::optional<std::string> EngineState::parameter(std::string_view name) const {
-    const std::string lower = lowerCase(name);
-    if (lower == "xline1") return line1_;
-    if (lower == "xline2") return line2_;
-    if (lower == "xertyp") return fmt::format("{}", lp_ && lp_->result == 1 ? lp_->limit : 0);
-    if (lower == "xversn") return fmt::format("HiGHS {}", highsVersion());
-    if (auto text = resultText(results_, lower)) return text;
-    return parameters_.shown(lower);
+    if (name == "xline1") return line1_;
+    if (name == "xline2") return line2_;
+    if (name == "xertyp") return fmt::format("{}", lp_ && lp_->result == 1 ? lp_->limit : 0);
+    if (auto text = resultText(results_, name)) return text;
+    return parameters_.shown(name);
 }
 
 std::int32_t EngineState::putModel(const ModelArrays& arrays) {
-    if (control_) return fail(generalError, "The engine is at work.");
-    start();
+    if (const std::int32_t refused = start(); refused != success) return refused;
     runStart_ = std::chrono::steady_clock::now();
     BuiltModel built;
     if (const std::string failure = buildModel(arrays, parameters_.number("xdropm"), built); !failure.empty()) {
@@ -118,8 +101,8 @@ std::int32_t EngineState::putModel(const ModelArrays& arrays) {
 
     log_ = std::make_shared<LogSink>();
     const std::string logFile = parameters_.integer("xoutlv") >= 2 ? parameters_.text("xfnlog") : std::string();
-    logFailure_ = log_->open(logFile) ? std::string() : fmt::format("The log file {} can't be written.", logFile);
-    note(logFailure_);
+    if (!log_->open(logFile)) noteFileFailure("xfnlog");
+    note(fileFailures_);
     auto model = std::make_shared<SolverModel>();
     if (!model->load(std::move(built), reported_.maximize, log_)) return fail(inputError, log_->message());
     model_ = std::move(model);
@@ -127,11 +110,9 @@ std::int32_t EngineState::putModel(const ModelArrays& arrays) {
 }
 
 std::shared_ptr<Watch> EngineState::beginStage(double secondsAllowed, int nodesPerCallback) {
-    line1_.clear();
-    line2_.clear();
+    note({});
     log_->clearMessage();
-    control_ = std::make_shared<StageControl>(secondsAllowed, nodesPerCallback);
-    stageCaller_ = std::this_thread::get_id();
+    control_ = std::make_shared<StageControl>(secondsAllowed, nodesPerCallback, givenUp_);
     if (stopRequested_) control_->requestStop();
     model_->tolerance = {std::max(1e-6, parameters_.number("xtolx")), integralityTolerance(parameters_)};
     auto watch = std::make_shared<Watch>();
@@ -140,10 +121,12 @@ std::shared_ptr<Watch> EngineState::beginStage(double secondsAllowed, int nodesP
     return watch;
 }
 
-void EngineState::endStage(const StageOutcome& outcome) {
+void EngineState::endStage(const StageOutcome& outcome, const char* stage, std::string_view fileParameter) {
     stopRequested_ = false;
-    note(logFailure_);
-    note(outcome.message.empty() && log_ ? log_->message() : outcome.message);
+    writeReports(outcome, stage, fileParameter);
+    if (!log_->isWhole()) noteFileFailure("xfnlog");
+    const std::string message = outcome.message.empty() ? log_->message() : outcome.message;
+    note(message.empty() || fileFailures_.empty() ? message + fileFailures_ : message + " " + fileFailures_);
 }
 
 void EngineState::callClient() {
@@ -166,14 +149,12 @@ StageOutcome EngineState::runInThread(Stage stage, const std::shared_ptr<Watch>&
     // Left by an exception, the stage may still be at work on what it has.
     struct Guard {
         EngineState& engine;
-        const std::shared_ptr<StageControl> control;
         bool completed = false;
         ~Guard() {
-            if (engine.control_ != control) return;
             engine.control_.reset();
             if (!completed) engine.model_.reset();
         }
-    } guard{*this, watch->control};
+    } guard{*this};
     const bool brief = stage == Stage::Lp && reported_.nonzeros <= briefNonzeros;
     const StageEnd end = brief ? runShortStage(*watch->control, work, tick) : runStage(watch->control, work, tick);
     guard.completed = true;
@@ -182,10 +163,8 @@ StageOutcome EngineState::runInThread(Stage stage, const std::shared_ptr<Watch>&
     const StopReason reason = watch->control->stopReason();
     if (end == StageEnd::Abandoned) {
         watch->log->close();
-        if (log_ == watch->log) {
-            model_.reset();
-            log_ = std::make_shared<LogSink>();
-        }
+        model_.reset();
+        log_ = std::make_shared<LogSink>();
     }
     if (watch->incumbent) {
         StageOutcome best = incumbentOutcome(*watch->incumbent, reason);
@@ -233,7 +212,7 @@ void EngineState::takeIpProgress(const StageControl& control) {
 }
 
 std::int32_t EngineState::optimizeLp(int iterationFrequency, const LpOutputs& outputs) {
-    if (control_) return fail(generalError, "The engine is at work.");
+    if (isAtWork()) return fail(generalError, "The engine is at work.");
     if (!outputs.iterations || !outputs.infeasibilities || !outputs.lpStatus || !outputs.objective ||
         !outputs.sumOfInfeasibilities) {
         return fail(inputError, "OptimizeLP needs all its outputs.");
@@ -243,7 +222,6 @@ std::int32_t EngineState::optimizeLp(int iterationFrequency, const LpOutputs& ou
     ip_.reset();
     const auto watch = beginStage(secondsOf(parameters_.number("xmxtlp")), 0);
     const auto control = control_;
-    const auto starts = starts_;
     const auto showProgress = [&] {
         takeLpProgress(*control);
         show(outputs.iterations, clamped(results_.iterations));
@@ -253,18 +231,16 @@ std::int32_t EngineState::optimizeLp(int iterationFrequency, const LpOutputs& ou
     };
     show(outputs.lpStatus, 0);
     StageOutcome outcome = runInThread(Stage::Lp, watch, iterationFrequency, showProgress);
-    if (starts != starts_) return generalError;
     if (!outcome.solution.values.empty()) control->progress.objective.store(outcome.objective, relaxed);
     showProgress();
     show(outputs.lpStatus, outcome.modelStatus);
-    endStage(outcome);
     lp_ = std::move(outcome);
-    writeReports(*lp_, "LP", "xfnlps");
+    endStage(*lp_, "LP", "xfnlps");
     return lp_->result;
 }
 
 std::int32_t EngineState::optimizeIp(int nodeFrequency, const IpOutputs& outputs) {
-    if (control_) return fail(generalError, "The engine is at work.");
+    if (isAtWork()) return fail(generalError, "The engine is at work.");
     if (!outputs.nodes || !outputs.integerSolutions || !outputs.stopReason || !outputs.objective ||
         !outputs.bestPossible) {
         return fail(inputError, "OptimizeIP needs all its outputs.");
@@ -276,7 +252,6 @@ std::int32_t EngineState::optimizeIp(int nodeFrequency, const IpOutputs& outputs
     const auto watch = beginStage(secondsOf(parameters_.number("xmxmin")), std::max(0, parameters_.integer("xcbnnd")));
     watch->incumbent = std::make_shared<Incumbent>();
     const auto control = control_;
-    const auto starts = starts_;
     control->progress.bestPossible.store(lp_->objective, relaxed);
     const auto showProgress = [&] {
         takeIpProgress(*control);
@@ -287,22 +262,28 @@ std::int32_t EngineState::optimizeIp(int nodeFrequency, const IpOutputs& outputs
     };
     show(outputs.stopReason, 0);
     StageOutcome outcome = runInThread(Stage::Ip, watch, nodeFrequency, showProgress);
-    if (starts != starts_) return generalError;
     if (outcome.solutionStatus == 0 || outcome.solutionStatus == 3) {
         control->progress.bestPossible.store(outcome.bestPossible, relaxed);
     }
     showProgress();
     show(outputs.stopReason, outcome.limit);
-    endStage(outcome);
     ip_ = std::move(outcome);
-    writeReports(*ip_, "IP", "xfnips");
+    endStage(*ip_, "IP", "xfnips");
     return ip_->result;
 }
 
 void EngineState::report(std::string_view fileParameter, const std::string& content) {
     const std::string path = parameters_.text(fileParameter);
-    if (path.empty() || writeFile(path, content)) return;
-    note(fmt::format("The file {} of {} can't be written.", path, fileParameter));
+    if (!path.empty() && !writeFile(path, content)) noteFileFailure(fileParameter);
+}
+
+// Told at the end of every stage from now on, since a client may read the message of the last one only.
+void EngineState::noteFileFailure(std::string_view fileParameter) {
+    const std::string failure =
+        fmt::format("The file {} of {} can't be written.", parameters_.text(fileParameter), fileParameter);
+    if (fileFailures_.find(failure) != std::string::npos) return;
+    if (!fileFailures_.empty()) fileFailures_ += ' ';
+    fileFailures_ += failure;
 }
 
 void EngineState::writeReports(const StageOutcome& outcome, const char* stage, std::string_view fileParameter) {

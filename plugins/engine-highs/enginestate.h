@@ -1,7 +1,7 @@
-// EngineState: everything one loaded engine library holds, and the operations on it.
+// EngineState: everything the engine holds for one run, and the operations on it.
 //
-// All operations of a run come from one thread, and during a stage the callback comes on it; a state isn't for several
-// threads. The C interface in engine.cpp only forwards here.
+// All of them come from the thread of the run, also the callback during a stage; a state isn't for several threads. The
+// C interface in engine.cpp only forwards here.
 #pragma once
 
 #include <chrono>
@@ -11,7 +11,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <thread>
 
 #include "ipstage.h"
 #include "lpstage.h"
@@ -58,13 +57,17 @@ struct SolutionOutputs {
 
 class EngineState {
 public:
-    /// An empty model and no results. Parameters set before stay. Refused from the callback; from another thread a
-    /// stage that is still under way is given up.
+    /// `givenUp`, for any thread, tells that the run's thread won't come back.
+    explicit EngineState(std::function<bool()> givenUp = {}) : givenUp_(std::move(givenUp)) {}
+
+    /// Whether a stage is under way: then this is its callback, and most operations are refused.
+    [[nodiscard]] bool isAtWork() const { return control_ != nullptr; }
+
+    /// An empty model and no results. Parameters set before stay.
     std::int32_t start();
-    /// Back to the state of a new engine.
-    std::int32_t release();
 
     std::int32_t setParameter(std::string_view assignment);
+    /// Value of a parameter or result by its name in lower case; nothing when there is no such one.
     [[nodiscard]] std::optional<std::string> parameter(std::string_view name) const;
     void setCallback(TarqCallback callback) { callback_ = callback; }
 
@@ -81,24 +84,24 @@ private:
     [[nodiscard]] StageOutcome runInThread(Stage stage, const std::shared_ptr<Watch>& watch, int frequency,
                                            const std::function<void()>& showProgress);
     std::shared_ptr<Watch> beginStage(double secondsAllowed, int nodesPerCallback);
-    void endStage(const StageOutcome& outcome);
+    void endStage(const StageOutcome& outcome, const char* stage, std::string_view fileParameter);
     void callClient();
     void takeLpProgress(const StageControl& control);
     void takeIpProgress(const StageControl& control);
     void writeReports(const StageOutcome& outcome, const char* stage, std::string_view fileParameter);
     void report(std::string_view fileParameter, const std::string& content);
     std::int32_t deliver(const std::optional<StageOutcome>& outcome, const SolutionOutputs& outputs);
+    void noteFileFailure(std::string_view fileParameter);
     void note(const std::string& text);
     [[nodiscard]] double runSeconds() const;
 
+    const std::function<bool()> givenUp_;
     ParameterValues parameters_;
     TarqCallback callback_ = nullptr;
     std::shared_ptr<SolverModel> model_;  ///< null without a model, or when its stage was given up
     std::shared_ptr<LogSink> log_;
-    std::string logFailure_;                 ///< why there is no log file though there should be
+    std::string fileFailures_;               ///< which files of the run can't be written
     std::shared_ptr<StageControl> control_;  ///< of the stage that runs
-    std::thread::id stageCaller_;            ///< the thread that called for it
-    std::int64_t starts_ = 0;                ///< tells a stage whether the state is still its own
     bool stopRequested_ = false;             ///< by XCBSTP, not yet obeyed
     ReportedModel reported_{};
     std::optional<StageOutcome> lp_;

@@ -11,8 +11,8 @@ bool LogSink::open(const std::string& path) {
 void LogSink::write(LogKind kind, std::string_view text) {
     const std::lock_guard lock(mutex_);
     if (file_) {
-        std::fwrite(text.data(), 1, text.size(), file_.get());
-        std::fflush(file_.get());
+        const bool written = std::fwrite(text.data(), 1, text.size(), file_.get()) == text.size();
+        if (std::fflush(file_.get()) != 0 || !written) whole_ = false;
     }
     if (kind == LogKind::Info || kind < messageKind_) return;
     while (!text.empty() && (text.back() == '\n' || text.back() == ' ')) text.remove_suffix(1);
@@ -30,6 +30,11 @@ void LogSink::clearMessage() {
     const std::lock_guard lock(mutex_);
     message_.clear();
     messageKind_ = LogKind::Info;
+}
+
+bool LogSink::isWhole() const {
+    const std::lock_guard lock(mutex_);
+    return whole_;
 }
 
 void LogSink::close() {

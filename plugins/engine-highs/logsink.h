@@ -23,6 +23,9 @@ public:
     [[nodiscard]] std::string message() const;
     void clearMessage();
 
+    /// False when the log file lacks something that couldn't be written.
+    [[nodiscard]] bool isWhole() const;
+
     /// Writes no more: the run is over, or the thread that still logs was given up.
     void close();
 
@@ -32,6 +35,7 @@ private:
     };
     mutable std::mutex mutex_;
     std::unique_ptr<std::FILE, FileCloser> file_;
+    bool whole_ = true;
     std::string message_;
     LogKind messageKind_ = LogKind::Info;
 };

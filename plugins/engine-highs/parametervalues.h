@@ -27,8 +27,6 @@ public:
     /// Value as it was given, or the default of one that the engine reads; nothing for any other name.
     [[nodiscard]] std::optional<std::string> shown(std::string_view name) const;
 
-    void clear() { values_.clear(); }
-
 private:
     struct Value {
         std::string text;

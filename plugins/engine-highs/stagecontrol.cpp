@@ -7,8 +7,8 @@
 
 namespace tarq::engine {
 
-StageControl::StageControl(double secondsAllowed, int nodesPerCallback)
-    : secondsAllowed_(secondsAllowed), nodesPerCallback_(nodesPerCallback) {}
+StageControl::StageControl(double secondsAllowed, int nodesPerCallback, std::function<bool()> givenUp)
+    : secondsAllowed_(secondsAllowed), nodesPerCallback_(nodesPerCallback), givenUp_(std::move(givenUp)) {}
 
 double StageControl::seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
 
@@ -18,7 +18,7 @@ double StageControl::secondsLeft() const {
 }
 
 StopReason StageControl::stopReason() const {
-    if (stopRequested_.load(std::memory_order_relaxed)) return StopReason::Request;
+    if (stopRequested_.load(std::memory_order_relaxed) || isGivenUp()) return StopReason::Request;
     return secondsLeft() <= 0.0 ? StopReason::TimeLimit : StopReason::None;
 }
 
@@ -43,7 +43,9 @@ void StageControl::waitForCallback(std::int64_t nodes) {
     nodesAtCallback_ = nodes;
     callbackDue_ = true;
     changed_.notify_all();
-    changed_.wait(lock, [&] { return !callbackDue_ || abandoned_; });
+    const auto answered = [&] { return !callbackDue_ || abandoned_ || isGivenUp(); };
+    while (!changed_.wait_for(lock, callbackInterval, answered)) {
+    }
 }
 
 namespace {
@@ -90,7 +92,8 @@ StageEnd runStage(std::shared_ptr<StageControl> control, std::function<void()> w
     auto abandon = [control] {
         const std::lock_guard lock(control->mutex_);
         control->abandoned_ = true;
-        control->requestStop();
+        // The stage is to end; what has told it so before stays the reason.
+        if (control->stopReason() == StopReason::None) control->requestStop();
         control->changed_.notify_all();
     };
     StageThread thread(std::thread(std::move(body)), std::move(abandon));

@@ -40,8 +40,9 @@ class StageControl {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// `nodesPerCallback` 0: the client is called by the clock alone.
-    StageControl(double secondsAllowed, int nodesPerCallback);
+    /// `nodesPerCallback` 0: the client is called by the clock alone. `givenUp`, for any thread, tells that the stage's
+    /// caller won't come back; then it is to stop.
+    StageControl(double secondsAllowed, int nodesPerCallback, std::function<bool()> givenUp = {});
 
     Progress progress;
 
@@ -65,12 +66,14 @@ private:
     friend StageEnd runShortStage(StageControl& control, const std::function<void()>& work,
                                   const std::function<void()>& callback);
 
+    [[nodiscard]] bool isGivenUp() const { return givenUp_ && givenUp_(); }
     void waitForCallback(std::int64_t nodes);
     void callByTheClock();
 
     const Clock::time_point start_ = Clock::now();
     const double secondsAllowed_;
     const int nodesPerCallback_;
+    const std::function<bool()> givenUp_;
     std::atomic<bool> stopRequested_{false};
 
     // Stage's thread only.

@@ -122,7 +122,7 @@ TEST_F(InterfaceTest, OperationsOutOfOrderFail) {
     EXPECT_NE(lpSolution(&whole, nullptr, values.data(), values.data(), states.data()), 0);
     EXPECT_NE(lpSolution(&whole, &real, nullptr, values.data(), states.data()), 0);
     EXPECT_EQ(lpSolution(&whole, &real, values.data(), values.data(), states.data()), 0);
-    operation<decltype(FreeMemory)>("FreeMemory")();
+    startAnew();
     EXPECT_NE(lpSolution(&whole, &real, values.data(), values.data(), states.data()), 0);
     for (const char* unused : {"Break", "GetDim", "NewModel", "Optimize", "SetMaxIPDim"}) {
         EXPECT_NE(operation<std::int32_t()>(unused)(), 0) << unused;
@@ -133,6 +133,8 @@ TEST_F(InterfaceTest, TheOlderStartWorksToo) {
     std::int32_t rows = 0;
     std::int32_t columns = 0;
     std::int32_t nonzeros = 0;
+    EXPECT_EQ(operation<decltype(FreeMemory)>("FreeMemory")(), 0);
+    EXPECT_NE(operation<decltype(AllocateMemory)>("AllocateMemory")(-1), 0);
     EXPECT_EQ(operation<decltype(AllocateMemory)>("AllocateMemory")(300), 0);
     EXPECT_EQ(operation<decltype(GetMaxDim)>("GetMaxDim")(&rows, &columns, &nonzeros), 0);
     EXPECT_GE(rows, 2);
@@ -140,7 +142,6 @@ TEST_F(InterfaceTest, TheOlderStartWorksToo) {
     EXPECT_EQ(operation<decltype(InitModel)>("InitModel")(), 0);
     ASSERT_EQ(put(smallLp()), 0);
     EXPECT_NEAR(solveLp().objective, -5, 1e-9);
-    EXPECT_NE(operation<decltype(AllocateMemory)>("AllocateMemory")(-1), 0);
     EXPECT_NE(operation<decltype(SetMaxLPDim)>("SetMaxLPDim")(-1, 0, 0, 0, 0, 0, 0, 0), 0);
     EXPECT_NE(operation<decltype(GetMaxDim)>("GetMaxDim")(nullptr, &columns, &nonzeros), 0);
 }
@@ -171,7 +172,7 @@ TEST_F(InterfaceTest, AssignmentsAreTakenAndShownAgain) {
     EXPECT_NE(getParameter("xnever", buffer), 0);
     EXPECT_NE(getParameter(nullptr, buffer), 0);
     EXPECT_NE(getParameter("xtolx", nullptr), 0);
-    operation<decltype(FreeMemory)>("FreeMemory")();
+    startAnew();
     EXPECT_EQ(get("xglgap"), "0.0001");
 }
 

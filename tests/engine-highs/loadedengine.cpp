@@ -46,11 +46,15 @@ void* EngineTest::symbol(const char* name) {
 
 void EngineTest::SetUp() {
     ASSERT_NE(symbol("Initialize"), nullptr) << dlerror();
-    operation<decltype(FreeMemory)>("FreeMemory")();
-    ASSERT_EQ(operation<decltype(Initialize)>("Initialize")(), 0);
+    startAnew();
 }
 
 void EngineTest::TearDown() { EXPECT_EQ(operation<decltype(FreeMemory)>("FreeMemory")(), 0); }
+
+void EngineTest::startAnew() {
+    operation<decltype(FreeMemory)>("FreeMemory")();
+    EXPECT_EQ(operation<decltype(Initialize)>("Initialize")(), 0);
+}
 
 std::int32_t EngineTest::set(const std::string& assignment) const {
     return operation<decltype(SetParameter)>("SetParameter")(assignment.c_str());
@@ -114,8 +118,7 @@ StageResult EngineTest::solveIp(std::int32_t nodeFrequency) const {
 }
 
 StageResult EngineTest::optimizeLp(const TestModel& model, const std::vector<std::string>& parameters) {
-    operation<decltype(FreeMemory)>("FreeMemory")();
-    EXPECT_EQ(operation<decltype(Initialize)>("Initialize")(), 0);
+    startAnew();
     for (const std::string& parameter : parameters) EXPECT_EQ(set(parameter), 0) << parameter;
     EXPECT_EQ(put(model), 0) << message();
     return solveLp();

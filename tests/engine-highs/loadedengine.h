@@ -52,11 +52,14 @@ struct StageResult {
     std::vector<std::int32_t> states;
 };
 
-/// A fixture with a fresh engine.
+/// A fixture with a fresh engine. All of it is for one thread, since a run is.
 class EngineTest : public testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
+
+    /// Ends the run that there may be, and starts the next one.
+    static void startAnew();
 
     std::int32_t set(const std::string& assignment) const;
     /// Value of a parameter or result; the empty text when the engine refuses the name.
@@ -75,7 +78,7 @@ protected:
     void onCallback(std::function<void()> action) const;
 
     template <typename Operation>
-    [[nodiscard]] Operation* operation(const char* name) const {
+    [[nodiscard]] static Operation* operation(const char* name) {
         return reinterpret_cast<Operation*>(symbol(name));
     }
 
