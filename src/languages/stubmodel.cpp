@@ -42,7 +42,7 @@ public:
 
         target_.clearModel();
         store_.loadNonzeros(nonzeros_);
-        target_.store() = std::move(store_);
+        target_.store().take(std::move(store_));
         if (failure_) return *std::move(failure_);
         target_.setParameter("xminmx", direction_ == 0 ? "min" : "max");
         return {};

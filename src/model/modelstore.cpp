@@ -119,6 +119,14 @@ void ModelStore::autoRename() {
     rows_.autoRename('R', std::move(rowNames));
 }
 
+void ModelStore::take(ModelStore&& other) noexcept {
+    const auto held = gate_.edit();
+    columns_ = std::move(other.columns_);
+    rows_ = std::move(other.rows_);
+    nonzeros_ = std::move(other.nonzeros_);
+    infinity_ = other.infinity_;
+}
+
 void ModelStore::clear() noexcept {
     const auto held = gate_.edit();
     columns_.clear();

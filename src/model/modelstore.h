@@ -110,6 +110,8 @@ public:
     [[nodiscard]] bool hasIntegerColumn() const;
     /// Renames all columns to C1, C2 and so on, and all rows to R1, R2 and so on.
     void autoRename();
+    /// Takes over the model of another store, which is of no use then. What was here before is gone.
+    void take(ModelStore&& other) noexcept;
     /// Empties the store and gives its memory back. `infinity` stays.
     void clear() noexcept;
 
