@@ -76,9 +76,8 @@ int32_t FreeMemory(void) {
 }
 
 int32_t Initialize(void) {
-    return guarded(tarq::engine::generalError, [] {
-        return tarq::engine::beginRun() ? tarq::engine::success : tarq::engine::generalError;
-    });
+    return guarded(tarq::engine::generalError,
+                   [] { return tarq::engine::beginRun() ? tarq::engine::success : tarq::engine::generalError; });
 }
 
 int32_t AllocateMemory(int32_t megabytes) { return megabytes < 0 ? tarq::engine::inputError : Initialize(); }

@@ -19,7 +19,8 @@ namespace tarq::engine {
 /// Ends the run of the calling thread, if there is one.
 void endRun() noexcept;
 
-/// Gives up the run of a thread that won't come back to end it, wherever it is. False when it has none. From any thread.
+/// Gives up the run of a thread that won't come back to end it, wherever it is. False when it has none. From any
+/// thread.
 bool abandonRun(std::int32_t thread) noexcept;
 
 }  // namespace tarq::engine

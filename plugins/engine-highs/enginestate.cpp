@@ -14,8 +14,6 @@ namespace {
 
 constexpr auto relaxed = std::memory_order_relaxed;
 constexpr std::size_t lineLength = 254;
-// The presolve of an LP with so few nonzeros takes so little time that nobody waits for a stop.
-constexpr std::int64_t briefNonzeros = 50'000;
 
 // Another thread may read the outputs while a stage runs.
 template <typename Number>
@@ -155,7 +153,7 @@ StageOutcome EngineState::runInThread(Stage stage, const std::shared_ptr<Watch>&
             if (!completed) engine.model_.reset();
         }
     } guard{*this};
-    const bool brief = stage == Stage::Lp && reported_.nonzeros <= briefNonzeros;
+    const bool brief = stage == Stage::Lp && isBrief(reported_.rows, reported_.columns, reported_.nonzeros);
     const StageEnd end = brief ? runShortStage(*watch->control, work, tick) : runStage(watch->control, work, tick);
     guard.completed = true;
     if (end == StageEnd::Finished) return std::move(*outcome);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "freerows.h"
 #include "optionmapping.h"
 
 namespace tarq::engine {
@@ -36,8 +37,9 @@ public:
 
 private:
     [[nodiscard]] HighsModelStatus attempt(bool presolve);
+    [[nodiscard]] HighsModelStatus runOn(Highs& highs, bool presolve);
     [[nodiscard]] HighsModelStatus settle();
-    [[nodiscard]] bool takeSolution();
+    void takeSolution(const HighsSolution& solution);
     void polish();
     [[nodiscard]] StageOutcome ended(HighsModelStatus status);
     [[nodiscard]] StageOutcome failed(HighsModelStatus status);
@@ -63,6 +65,8 @@ private:
 bool IpStage::beatsCutoff(double objective) const { return model_.sense() * objective < model_.objectiveBound; }
 
 HighsModelStatus IpStage::attempt(bool presolve) {
+    found_ = false;
+    // What HiGHS holds before a run is the point of the LP.
     if (control_.stopReason() != StopReason::None) return HighsModelStatus::kInterrupt;
     if (mostSolutions_ == 0) return HighsModelStatus::kSolutionLimit;
     watch_->log->clearMessage();
@@ -70,30 +74,39 @@ HighsModelStatus IpStage::attempt(bool presolve) {
     highs_.resetOptions();
     observe(highs_, watch_, &model_);
     highs_.changeColsIntegrality(0, highs_.getLp().num_col_ - 1, model_.integrality.data());
-    applyOptions(parameters_, Stage::Ip, highs_);
-    if (!presolve) highs_.setOptionValue("presolve", "off");
+    // Branch and bound uses the interior point method at the root, and presolve is what takes such rows away.
+    const auto freeRows = presolve ? std::vector<HighsInt>() : freeRowsOf(highs_.getLp());
+    if (freeRows.empty()) return runOn(highs_, presolve);
+    Highs apart;
+    observe(apart, watch_, &model_);
+    if (apart.passModel(highs_.getLp()) == HighsStatus::kError) return HighsModelStatus::kModelError;
+    apart.deleteRows(static_cast<HighsInt>(freeRows.size()), freeRows.data());
+    return runOn(apart, presolve);
+}
 
-    highs_.setOptionValue("objective_bound", model_.objectiveBound);
+HighsModelStatus IpStage::runOn(Highs& highs, bool presolve) {
+    applyOptions(parameters_, Stage::Ip, highs);
+    if (!presolve) highs.setOptionValue("presolve", "off");
+    highs.setOptionValue("objective_bound", model_.objectiveBound);
     const int nodes = nodeLimit_ - static_cast<int>(std::min<std::int64_t>(nodeLimit_, watch_->nodesBefore));
-    highs_.setOptionValue("mip_max_nodes", nodes);
-    highs_.setOptionValue("mip_max_improving_sols", mostSolutions_);
-    allowTimeLeft(highs_, control_);
-    highs_.run();
+    highs.setOptionValue("mip_max_nodes", nodes);
+    highs.setOptionValue("mip_max_improving_sols", mostSolutions_);
+    allowTimeLeft(highs, control_);
+    highs.run();
 
-    const HighsInfo& info = highs_.getInfo();
+    const HighsInfo& info = highs.getInfo();
     watch_->nodesBefore += std::max<std::int64_t>(0, info.mip_node_count);
     watch_->iterationsBefore += std::max<HighsInt>(0, info.simplex_iteration_count);
     progress_.nodes.store(watch_->nodesBefore, relaxed);
     progress_.iterations.store(watch_->iterationsBefore, relaxed);
     if (info.valid && std::isfinite(info.mip_dual_bound)) progress_.bestPossible.store(info.mip_dual_bound, relaxed);
-    return highs_.getModelStatus();
+    takeSolution(highs.getSolution());
+    return highs.getModelStatus();
 }
 
-// Keeps HiGHS's solution when it is one of the model. False when it has to be refused.
-bool IpStage::takeSolution() {
-    found_ = false;
-    const HighsSolution& solution = highs_.getSolution();
-    if (!solution.value_valid) return false;
+// Keeps HiGHS's solution when it is one of the model.
+void IpStage::takeSolution(const HighsSolution& solution) {
+    if (!solution.value_valid) return;
     std::vector<double> rowValues;
     check_ = checkPoint(highs_.getLp(), model_.integrality, solution.col_value, model_.tolerance, rowValues);
     if (!check_.feasible) {
@@ -101,24 +114,22 @@ bool IpStage::takeSolution() {
                            fmt::format("WARNING: The solution violates bounds by {:.3g}, rows by {:.3g} and "
                                        "integrality by {:.3g}.\n",
                                        check_.bounds, check_.rows, check_.integrality));
-        return false;
+        return;
     }
     found_ = true;
     solution_.values = solution.col_value;
     solution_.values.insert(solution_.values.end(), rowValues.begin(), rowValues.end());
     solution_.reducedCosts.assign(solution_.values.size(), 0.0);
     solution_.states.assign(solution_.values.size(), 0);
-    return true;
 }
 
 HighsModelStatus IpStage::settle() {
     const bool presolve = parameters_.integer("xnopre") != 0;
     HighsModelStatus status = attempt(presolve);
     const auto settled = [&] {
-        const bool taken = takeSolution();
         switch (status) {
             case HighsModelStatus::kOptimal:
-                return taken;
+                return found_;
             case HighsModelStatus::kTimeLimit:
             case HighsModelStatus::kIterationLimit:
             case HighsModelStatus::kSolutionLimit:
@@ -169,7 +180,7 @@ void IpStage::polish() {
     const double worse = model_.sense() * (check.objective - check_.objective);
     if (!check.feasible || worse > 1e-6 * std::max(1.0, std::abs(check_.objective))) return;
     check_ = check;
-    solution_ = arraysOf(fixed);
+    solution_ = arraysOf(fixed.getLp(), fixed.getSolution(), fixed.getBasis());
 }
 
 void IpStage::describe(StageOutcome& outcome) {

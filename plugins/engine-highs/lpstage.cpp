@@ -5,12 +5,17 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
+#include "freerows.h"
 #include "optionmapping.h"
 
 namespace tarq::engine {
 
 namespace {
+
+// No LP that the interior point method can solve takes it as long; on others it may go on for ever.
+constexpr int mostInteriorIterations = 500;
 
 class LpStage {
 public:
@@ -26,20 +31,32 @@ public:
     StageOutcome run();
 
 private:
-    [[nodiscard]] HighsModelStatus attempt(bool presolve, bool primalSimplex);
+    // The simplex method as the parameters say, or its primal form.
+    enum class Method { Interior, Simplex, PrimalSimplex };
+
+    struct Point {
+        HighsModelStatus status = HighsModelStatus::kSolveError;
+        HighsSolution solution;
+        HighsBasis basis;
+    };
+
+    [[nodiscard]] HighsModelStatus attempt(bool presolve, Method method);
     [[nodiscard]] bool isOverAtOnce() const;
-    [[nodiscard]] HighsModelStatus runAtOnce();
-    [[nodiscard]] HighsModelStatus solvePresolved(bool primalSimplex);
-    [[nodiscard]] HighsModelStatus runWhole();
+    [[nodiscard]] HighsModelStatus solvePresolved(Method method);
+    [[nodiscard]] HighsModelStatus runWhole(Method method);
+    [[nodiscard]] HighsModelStatus runOn(Highs& highs, Method method, const char* presolve);
+    [[nodiscard]] Point solveApart(HighsLp lp, Method method, const std::vector<HighsInt>& freeRows);
     void returnToModel(const HighsSolution& solution, HighsBasis basis, bool optimal);
-    void setOptions(Highs& highs, bool primalSimplex);
+    void setOptions(Highs& highs, Method method);
     void setIterationLimit(Highs& highs);
-    void countIterations(const Highs& highs);
+    void countIterations(const Highs& highs, HighsInt simplexBegin = 0);
     [[nodiscard]] HighsModelStatus settle();
     [[nodiscard]] StageOutcome solved();
     [[nodiscard]] StageOutcome ended(HighsModelStatus status);
     [[nodiscard]] StageOutcome withoutColumns();
     [[nodiscard]] bool checkPrimal();
+    [[nodiscard]] const HighsSolution& solution() const { return apart_ ? apart_->solution : highs_.getSolution(); }
+    [[nodiscard]] SolutionArrays arrays() const;
     void showInfeasibilities();
     [[nodiscard]] bool losesDualsInPresolve() const;
 
@@ -52,6 +69,10 @@ private:
     const int frequency_;
     std::int64_t simplexIterations_ = 0;  // of all attempts; a break counts no others
     PointCheck check_;
+    std::optional<Point> apart_;  // of the latest attempt, where it isn't in highs_
+    // To the interior point method, which finds infeasible also what is feasible within the tolerances; so this counts
+    // only where the simplex method comes to no end.
+    bool looksInfeasible_ = false;
 };
 
 bool isStopped(HighsModelStatus status) {
@@ -59,13 +80,11 @@ bool isStopped(HighsModelStatus status) {
            status == HighsModelStatus::kIterationLimit;
 }
 
-void LpStage::setOptions(Highs& highs, bool primalSimplex) {
+void LpStage::setOptions(Highs& highs, Method method) {
     applyOptions(parameters_, Stage::Lp, highs);
     highs.setOptionValue("allow_unbounded_or_infeasible", true);
-    if (primalSimplex) {
-        highs.setOptionValue("solver", "simplex");
-        highs.setOptionValue("simplex_strategy", kSimplexStrategyPrimal);
-    }
+    if (method != Method::Interior) highs.setOptionValue("solver", "simplex");
+    if (method == Method::PrimalSimplex) highs.setOptionValue("simplex_strategy", kSimplexStrategyPrimal);
     setIterationLimit(highs);
     allowTimeLeft(highs, control_);
 }
@@ -73,18 +92,19 @@ void LpStage::setOptions(Highs& highs, bool primalSimplex) {
 void LpStage::setIterationLimit(Highs& highs) {
     const auto used = static_cast<int>(std::min<std::int64_t>(watch_->iterationsBefore, mostIterations_));
     int left = mostIterations_ - used;
-    highs.setOptionValue("ipm_iteration_limit", left);
+    highs.setOptionValue("ipm_iteration_limit", std::min(left, mostInteriorIterations));
     if (frequency_ > 0) {
         left = std::min(left, frequency_ - static_cast<int>(std::min<std::int64_t>(simplexIterations_, frequency_)));
     }
     highs.setOptionValue("simplex_iteration_limit", left);
 }
 
-void LpStage::countIterations(const Highs& highs) {
+// `simplexBegin` is where HiGHS began to count the iterations of the simplex method.
+void LpStage::countIterations(const Highs& highs, HighsInt simplexBegin) {
     const HighsInfo& info = highs.getInfo();
-    simplexIterations_ += std::max<HighsInt>(0, info.simplex_iteration_count);
-    for (const HighsInt count :
-         {info.simplex_iteration_count, info.ipm_iteration_count, info.crossover_iteration_count}) {
+    const HighsInt simplexIterations = info.simplex_iteration_count - simplexBegin;
+    simplexIterations_ += std::max<HighsInt>(0, simplexIterations);
+    for (const HighsInt count : {simplexIterations, info.ipm_iteration_count, info.crossover_iteration_count}) {
         watch_->iterationsBefore += std::max<HighsInt>(0, count);
     }
     const std::int64_t known = control_.progress.iterations.load(std::memory_order_relaxed);
@@ -92,43 +112,66 @@ void LpStage::countIterations(const Highs& highs) {
     control_.progress.iterations.store(watch_->iterationsBefore, std::memory_order_relaxed);
 }
 
-HighsModelStatus LpStage::runWhole() {
-    highs_.setOptionValue("presolve", "off");
-    highs_.run();
-    countIterations(highs_);
-    return highs_.getModelStatus();
+HighsModelStatus LpStage::runOn(Highs& highs, Method method, const char* presolve) {
+    highs.setOptionValue("presolve", presolve);
+    highs.run();
+    countIterations(highs);
+    const HighsModelStatus status = highs.getModelStatus();
+    if (method != Method::Interior) return status;
+    const bool lost = status == HighsModelStatus::kIterationLimit && watch_->iterationsBefore < mostIterations_ &&
+                      highs.getInfo().ipm_iteration_count >= mostInteriorIterations;
+    if (status == HighsModelStatus::kInfeasible) looksInfeasible_ = true;
+    return lost || status == HighsModelStatus::kInfeasible ? HighsModelStatus::kUnknown : status;
+}
+
+HighsModelStatus LpStage::runWhole(Method method) {
+    const auto freeRows = method == Method::Interior ? freeRowsOf(highs_.getLp()) : std::vector<HighsInt>();
+    if (freeRows.empty()) return runOn(highs_, method, "off");
+    apart_ = solveApart(highs_.getLp(), method, freeRows);
+    if (apart_->solution.value_valid) {
+        highs_.getLp().a_matrix_.product(apart_->solution.row_value, apart_->solution.col_value);
+    }
+    return apart_->status;
+}
+
+LpStage::Point LpStage::solveApart(HighsLp lp, Method method, const std::vector<HighsInt>& freeRows) {
+    Highs highs;
+    observe(highs, watch_, nullptr);
+    setOptions(highs, method);
+    if (highs.passModel(std::move(lp)) == HighsStatus::kError) return {};
+    highs.deleteRows(static_cast<HighsInt>(freeRows.size()), freeRows.data());
+    Point point;
+    point.status = runOn(highs, method, "off");
+    point.solution = highs.getSolution();
+    point.basis = highs.getBasis();
+    insertFreeRows(freeRows, point.solution, point.basis);
+    return point;
 }
 
 // An LP that is solved before anybody could stop it, and that no limit is meant to end early.
 bool LpStage::isOverAtOnce() const {
-    constexpr std::int64_t fewNonzeros = 10'000;
     constexpr int manyIterations = 100'000;
-    return model_.highs.getLp().a_matrix_.numNz() <= fewNonzeros && frequency_ == 0 &&
+    const HighsLp& lp = highs_.getLp();
+    return isBrief(lp.num_row_, lp.num_col_, lp.a_matrix_.numNz()) && frequency_ == 0 &&
            mostIterations_ >= manyIterations && control_.secondsLeft() == std::numeric_limits<double>::infinity();
-}
-
-HighsModelStatus LpStage::runAtOnce() {
-    highs_.setOptionValue("presolve", "on");
-    highs_.run();
-    countIterations(highs_);
-    return highs_.getModelStatus();
 }
 
 // Presolve, the presolved model and the way back are separate steps here: when HiGHS does them in one go and has to end
 // early, it throws away where it was.
-HighsModelStatus LpStage::attempt(bool presolve, bool primalSimplex) {
+HighsModelStatus LpStage::attempt(bool presolve, Method method) {
     if (control_.stopReason() != StopReason::None) return HighsModelStatus::kInterrupt;
     watch_->log->clearMessage();
+    apart_.reset();
     highs_.clearSolver();
-    setOptions(highs_, primalSimplex);
-    if (!presolve || highs_.getLp().num_row_ == 0) return runWhole();
-    if (isOverAtOnce()) {
-        const HighsModelStatus status = runAtOnce();
+    setOptions(highs_, method);
+    if (!presolve || highs_.getLp().num_row_ == 0) return runWhole(method);
+    if (isOverAtOnce() && method != Method::Interior) {
+        const HighsModelStatus status = runOn(highs_, method, "on");
         if (!isStopped(status)) return status;
         // It did end early, so where it was is looked for again.
         if (control_.stopReason() != StopReason::None) return status;
         highs_.clearSolver();
-        setOptions(highs_, primalSimplex);
+        setOptions(highs_, method);
     }
     highs_.presolve();
     switch (highs_.getModelPresolveStatus()) {
@@ -140,13 +183,13 @@ HighsModelStatus LpStage::attempt(bool presolve, bool primalSimplex) {
             return HighsModelStatus::kTimeLimit;
         case HighsPresolveStatus::kReduced:
         case HighsPresolveStatus::kReducedToEmpty:
-            return solvePresolved(primalSimplex);
+            return solvePresolved(method);
         default:
-            return runWhole();
+            return runWhole(method);
     }
 }
 
-HighsModelStatus LpStage::solvePresolved(bool primalSimplex) {
+HighsModelStatus LpStage::solvePresolved(Method method) {
     if (highs_.getModelPresolveStatus() == HighsPresolveStatus::kReducedToEmpty) {
         HighsSolution solution;
         solution.value_valid = true;
@@ -158,25 +201,14 @@ HighsModelStatus LpStage::solvePresolved(bool primalSimplex) {
         returnToModel(solution, std::move(basis), true);
         return highs_.getModelStatus();
     }
-    HighsSolution solution;
-    HighsBasis basis;
-    HighsModelStatus status = HighsModelStatus::kSolveError;
-    {
-        Highs reduced;  // gives its memory back before the way back needs as much
-        observe(reduced, watch_, nullptr);
-        setOptions(reduced, primalSimplex);
-        reduced.setOptionValue("presolve", "off");
-        if (reduced.passModel(highs_.getPresolvedLp()) == HighsStatus::kError) return status;
-        reduced.run();
-        countIterations(reduced);
-        status = reduced.getModelStatus();
-        solution = reduced.getSolution();
-        basis = reduced.getBasis();
+    // Presolve leaves no row without bounds.
+    Point point = solveApart(highs_.getPresolvedLp(), method, {});
+    const bool optimal = point.status == HighsModelStatus::kOptimal;
+    const bool stopped = isStopped(point.status) || control_.stopReason() != StopReason::None;
+    if (optimal || (stopped && point.solution.value_valid)) {
+        returnToModel(point.solution, std::move(point.basis), optimal);
     }
-    const bool optimal = status == HighsModelStatus::kOptimal;
-    const bool stopped = isStopped(status) || control_.stopReason() != StopReason::None;
-    if (optimal || (stopped && solution.value_valid)) returnToModel(solution, std::move(basis), optimal);
-    return optimal ? highs_.getModelStatus() : status;
+    return optimal ? highs_.getModelStatus() : point.status;
 }
 
 // Takes a solution of the presolved model back to the model itself. HiGHS follows it up with the simplex method, which
@@ -192,15 +224,20 @@ void LpStage::returnToModel(const HighsSolution& solution, HighsBasis basis, boo
         control_.hold(true);
     }
     if (!basis.valid) basis.clear();
+    const HighsInt countBegin = std::min<HighsInt>(0, highs_.getInfo().simplex_iteration_count);
     highs_.postsolve(solution, basis);
     control_.hold(false);
-    if (optimal) countIterations(highs_);
+    if (optimal) countIterations(highs_, countBegin);
 }
 
 bool LpStage::checkPrimal() {
     std::vector<double> rowValues;
-    check_ = checkPoint(highs_.getLp(), {}, highs_.getSolution().col_value, model_.tolerance, rowValues);
+    check_ = checkPoint(highs_.getLp(), {}, solution().col_value, model_.tolerance, rowValues);
     return check_.feasible;
+}
+
+SolutionArrays LpStage::arrays() const {
+    return arraysOf(highs_.getLp(), solution(), apart_ ? apart_->basis : highs_.getBasis());
 }
 
 void LpStage::showInfeasibilities() {
@@ -215,10 +252,12 @@ bool LpStage::losesDualsInPresolve() const {
     return model_.sense() < 0.0 && parameters_.integer("xlptyp") == 4 && parameters_.integer("xipxov") == 0;
 }
 
-// Tries what the parameters say, then without presolve where the outcome calls for it.
+// Tries what the parameters say, and where the outcome calls for it the simplex method, with presolve the other way
+// about, and its primal form.
 HighsModelStatus LpStage::settle() {
     const bool presolve = parameters_.integer("xrduce") != 0 && !losesDualsInPresolve();
-    HighsModelStatus status = attempt(presolve, false);
+    const bool interior = parameters_.integer("xlptyp") == 4;
+    HighsModelStatus status = attempt(presolve, interior ? Method::Interior : Method::Simplex);
     const auto settled = [&] {
         if (control_.stopReason() != StopReason::None || isStopped(status)) return true;
         if (status == HighsModelStatus::kOptimal) return checkPrimal();
@@ -226,11 +265,13 @@ HighsModelStatus LpStage::settle() {
                status == HighsModelStatus::kMemoryLimit;
     };
     if (settled()) return status;
-    if (presolve && status != HighsModelStatus::kUnboundedOrInfeasible) {
-        status = attempt(false, false);
+    for (const bool other : {presolve, !presolve}) {
+        if ((other == presolve && !interior) || status == HighsModelStatus::kUnboundedOrInfeasible) continue;
+        status = attempt(other, Method::Simplex);
         if (settled()) return status;
     }
-    return status == HighsModelStatus::kOptimal ? status : attempt(false, true);
+    if (status != HighsModelStatus::kOptimal) status = attempt(false, Method::PrimalSimplex);
+    return status == HighsModelStatus::kUnknown && looksInfeasible_ ? HighsModelStatus::kInfeasible : status;
 }
 
 StageOutcome LpStage::solved() {
@@ -239,7 +280,7 @@ StageOutcome LpStage::solved() {
     const bool feasible = checkPrimal();
     outcome.solutionStatus = feasible ? 0 : 4;
     outcome.objective = check_.objective;
-    outcome.solution = arraysOf(highs_);
+    outcome.solution = arrays();
     showInfeasibilities();
     if (!feasible) {
         outcome.message =
@@ -261,12 +302,12 @@ StageOutcome LpStage::ended(HighsModelStatus status) {
         outcome.limit = status == HighsModelStatus::kIterationLimit ? 1 : 2;
     }
     outcome.solutionStatus = nothingFeasible;
-    if (!highs_.getSolution().value_valid) return outcome;
+    if (!solution().value_valid) return outcome;
     const bool primal = checkPrimal();
     const bool dual = highs_.getInfo().valid && highs_.getInfo().num_dual_infeasibilities == 0;
     outcome.solutionStatus = primal ? 3 : dual ? 4 : nothingFeasible;
     outcome.objective = check_.objective;
-    outcome.solution = arraysOf(highs_);
+    outcome.solution = arrays();
     showInfeasibilities();
     return outcome;
 }
@@ -316,55 +357,14 @@ StageOutcome LpStage::run() {
     }
 }
 
-std::int32_t stateOf(HighsBasisStatus status, double lower, double upper) {
-    if (status == HighsBasisStatus::kBasic) return 1;
-    if (lower == upper) return 4;
-    switch (status) {
-        case HighsBasisStatus::kLower:
-            return 2;
-        case HighsBasisStatus::kUpper:
-            return 3;
-        default:
-            return 5;
-    }
-}
-
-std::int32_t stateAt(double value, double lower, double upper) {
-    constexpr double tolerance = 1e-7;
-    const auto at = [&](double bound) {
-        return std::isfinite(bound) && std::abs(value - bound) <= tolerance * std::max(1.0, std::abs(bound));
-    };
-    if (lower == upper) return 4;
-    if (at(lower)) return 2;
-    return at(upper) ? 3 : 5;
-}
-
 }  // namespace
 
-SolutionArrays arraysOf(const Highs& highs) {
-    const HighsLp& lp = highs.getLp();
-    const HighsSolution& solution = highs.getSolution();
-    const HighsBasis& basis = highs.getBasis();
-    SolutionArrays arrays;
-    const auto append = [&](const std::vector<double>& values, const std::vector<double>& duals,
-                            const std::vector<HighsBasisStatus>& states, const std::vector<double>& lower,
-                            const std::vector<double>& upper) {
-        for (std::size_t position = 0; position < lower.size(); ++position) {
-            const double value = position < values.size() ? values[position] : 0.0;
-            arrays.values.push_back(value);
-            arrays.reducedCosts.push_back(solution.dual_valid && position < duals.size() ? duals[position] : 0.0);
-            arrays.states.push_back(basis.valid && position < states.size()
-                                        ? stateOf(states[position], lower[position], upper[position])
-                                        : stateAt(value, lower[position], upper[position]));
-        }
-    };
-    const std::size_t count = lp.col_lower_.size() + lp.row_lower_.size();
-    arrays.values.reserve(count);
-    arrays.reducedCosts.reserve(count);
-    arrays.states.reserve(count);
-    append(solution.col_value, solution.col_dual, basis.col_status, lp.col_lower_, lp.col_upper_);
-    append(solution.row_value, solution.row_dual, basis.row_status, lp.row_lower_, lp.row_upper_);
-    return arrays;
+// HiGHS's time grows about with the product: presolve compares the columns of a row with each other, and the simplex
+// method takes about as many iterations as there are rows, each of which may look at all that there is.
+bool isBrief(std::int64_t rows, std::int64_t columns, std::int64_t nonzeros) {
+    constexpr std::int64_t mostWork = 10'000'000;
+    const std::int64_t length = rows + columns;
+    return length < mostWork && length * (length + nonzeros) <= mostWork;
 }
 
 StageOutcome solveLp(SolverModel& model, const ParameterValues& parameters, const std::shared_ptr<Watch>& watch,

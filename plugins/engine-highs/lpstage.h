@@ -4,19 +4,12 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "parametervalues.h"
+#include "solutionarrays.h"
 #include "solvermodel.h"
 
 namespace tarq::engine {
-
-/// Values, duals and states of all columns, then of all rows, in the form of the engine's interface.
-struct SolutionArrays {
-    std::vector<double> values;
-    std::vector<double> reducedCosts;
-    std::vector<std::int32_t> states;
-};
 
 /// What a stage ended with, as the operations of the interface report it.
 struct StageOutcome {
@@ -35,13 +28,11 @@ inline constexpr std::int32_t resultStopped = 999;
 /// GetLPSolution's status for a point that is neither primal nor dual feasible, or no point at all.
 inline constexpr std::int32_t nothingFeasible = 6;
 
+/// Whether an LP of this size is over in well under a second, so that nobody waits for a stop.
+[[nodiscard]] bool isBrief(std::int64_t rows, std::int64_t columns, std::int64_t nonzeros);
+
 /// Solves the LP within the limits of `parameters`; `iterationFrequency` above 0 ends it after so many iterations of
 /// the simplex method. Runs on the stage's thread.
 [[nodiscard]] StageOutcome solveLp(SolverModel& model, const ParameterValues& parameters,
                                    const std::shared_ptr<Watch>& watch, int iterationFrequency);
-
-/// The solution of a Highs object in the form of the interface; states come from the basis, or from the values when
-/// there is none.
-[[nodiscard]] SolutionArrays arraysOf(const Highs& highs);
-
 }  // namespace tarq::engine

@@ -1,5 +1,6 @@
 #include "solvermodel.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <utility>
@@ -79,7 +80,9 @@ void onCallback(int type, const std::string& message, const HighsCallbackDataOut
     Progress& progress = watch.control->progress;
     switch (type) {
         case kCallbackSimplexInterrupt:
-            progress.iterations.store(watch.iterationsBefore + out.simplex_iteration_count, relaxed);
+            // On the way back from presolve HiGHS counts from -1.
+            progress.iterations.store(watch.iterationsBefore + std::max<HighsInt>(0, out.simplex_iteration_count),
+                                      relaxed);
             break;
         case kCallbackIpmInterrupt:
             if (out.ipm_iteration_count > 0) {

@@ -51,7 +51,7 @@ std::uint32_t numberOfThisThread() noexcept {
 #endif
 }
 
-TurnQueue::Turn TurnQueue::take() noexcept {
+TurnQueue::Turn TurnQueue::take() {
     const std::uint32_t thread = numberOfThisThread();
     std::uint32_t ticket = nextTicket_++;
     Turn seen = now_.load();

@@ -22,7 +22,7 @@ public:
     using Turn = std::uint64_t;
 
     /// Waits until the turn comes to the calling thread, which mustn't have it already.
-    [[nodiscard]] Turn take() noexcept;
+    [[nodiscard]] Turn take();
 
     /// Passes the turn on. False when it had been ended or given up before.
     bool end(Turn turn) noexcept;

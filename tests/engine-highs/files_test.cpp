@@ -11,6 +11,7 @@
 
 namespace tarq::test {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -100,7 +101,10 @@ TEST_F(FilesTest, UnwritableFilesDontStopTheRun) {
     ASSERT_EQ(optimizeLp(model, names({"xoutlv=2"})).result, 0);
     EXPECT_THAT(message(), HasSubstr("can't be written"));
     EXPECT_EQ(solveIp().solutionStatus, 0);
-    EXPECT_THAT(message(), HasSubstr("can't be written"));
+    // Also what the LP stage could not write.
+    EXPECT_THAT(message() + get("xline2"), AllOf(HasSubstr("xfnlog"), HasSubstr("xfnlps"), HasSubstr("xfnips")));
+    ASSERT_EQ(optimizeLp(smallLp(), {"xoutlv=2", "xfnlog='/dev/full'"}).result, 0);
+    EXPECT_EQ(message(), "The file /dev/full of xfnlog can't be written.");
 }
 
 TEST_F(FilesTest, TheStandardStreamsStayEmpty) {

@@ -121,6 +121,27 @@ TEST_F(IntegerTest, LimitsEndBranchAndBoundWithWhatItHas) {
     }
 }
 
+// What HiGHS holds then is the point of the LP, here an integral one and here a fractional one.
+TEST_F(IntegerTest, AStageThatEndsBeforeItsStartHasNoSolution) {
+    const TestModel integral = TestModel{}.column(0, 3, -1, 1).row(-infinite, {1}, 5);
+    for (const char* limit : {"xmxint=0", "xmxmin=0"}) {
+        for (const TestModel& model : {integral, knapsack(-1)}) {
+            EXPECT_EQ(optimizeIp(model, {limit}).solutionStatus, 4) << limit;
+            EXPECT_EQ(message(), "") << limit;
+        }
+    }
+}
+
+// Without presolve: the interior point method at the root mustn't see the last rows.
+TEST_F(IntegerTest, RowsWithoutBoundsChangeNothing) {
+    TestModel model = hardIp();
+    for (int row = 0; row < 40; ++row) model.row(-infinite, {1, 1}, infinite);
+    optimizeLp(model, {"xnopre=0", "xmxnod=20"});
+    const StageResult best = solveIp();
+    EXPECT_EQ(best.stopReason, 6);
+    EXPECT_EQ(best.values.back(), best.values[0] + best.values[1]);
+}
+
 TEST_F(IntegerTest, EachRunHasItsWholeTime) {
     ASSERT_EQ(optimizeLp(hardIp(), {"xmxmin=0.01", "xmxtlp=0.01"}).result, 0);
     for (int run = 0; run < 3; ++run) {
