@@ -49,8 +49,8 @@ std::optional<std::string> prepare(ITARQModel& model, const DriverOptions& optio
 /// What AMPL shows of the solve. The component's model doesn't have the constant of AMPL's objective.
 std::string messageOf(const RunResult& result) {
     std::string message = fmt::format("TARQ {}: {}", TARQ_VERSION, result.ending());
-    if (result.solution() != SolutionKind::None) {
-        message += fmt::format("; objective {}, constant terms not counted", numberText(result.objective()));
+    if (const auto objective = result.objective()) {
+        message += fmt::format("; objective {}, constant terms not counted", numberText(*objective));
     }
     message += "\n" + counted(result.iterations, "iteration");
     if (result.integer) message += ", " + counted(result.nodes, "node");
