@@ -16,7 +16,7 @@ CASES = [
     (lambda m: m.Optimise(), AttributeError, 0x80020006, "TARQModel has no member 'Optimise'. Did you mean 'Optimize'?"),
     (lambda m: setattr(m, "zzz", 1), AttributeError, 0x80020006, "TARQModel has no member 'zzz'."),
     (lambda m: m.ReadModel("/nowhere/model.mps", tarq.MPS), tarq.Error, 0x80041028, None),
-    (lambda m: m.ReadMPLModel("m.mpl"), tarq.Error, 0x80004001, "not implemented"),
+    (lambda m: m.ShowPropertyPage(), tarq.Error, 0x80004001, "not implemented"),
 ]
 
 
