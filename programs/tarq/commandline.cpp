@@ -26,6 +26,13 @@ constexpr auto solveFooter = R"(Formats, told by the extension of FILE or by --f
   mps      .mps   MPS in fixed columns
   triplet  .tri   Triplet
   lindo    .ltx   Lindo
+  mathprog .mod   GNU MathProg, with one data file or none
+  ampl            AMPL, with any number of data files
+  nl       .nl    AMPL's stub files
+  mpl      .mpl   MPL, where its server is at hand
+
+--data names data files of a language. What its translator says is shown when
+the reading fails, and with --listing always.
 
 --set and --profile act after the file is read, in the order given. --set takes
 a number with a decimal point, and min or max for xminmx.
@@ -50,6 +57,7 @@ Examples:
   tarq solve plan.mps
   tarq solve plan.mps --set xminmx=max --set xmxmin=5
   tarq solve plan.mps --json --solution plan.csv
+  tarq solve plan.mod --data plan.dat
   gunzip -c plan.mps.gz | tarq solve - --format mps)";
 
 constexpr auto parametersFooter = R"(Examples:
@@ -60,13 +68,15 @@ constexpr auto parametersFooter = R"(Examples:
   tarq parameters --write a    a profile with all parameters, to be edited)";
 
 constexpr auto convertFooter = R"(The format of a file is told by its extension (.mps, .tri, .ltx) or by --from and
---to; - as a file is standard input or output. A model that the format can't hold
-leaves no file. MPS and Lindo take names of up to 8 characters, Lindo takes no
-row with two bounds, Triplet holds everything but the model's name.
+--to; - as a file is standard input or output. IN may be a text in a language, as
+'tarq solve --help' lists them. A model that the format can't hold leaves no
+file. MPS and Lindo take names of up to 8 characters, Lindo takes no row with two
+bounds, Triplet holds everything but the model's name.
 
 Examples:
   tarq convert plan.mps plan.tri
   tarq convert plan.tri plan.ltx --rename
+  tarq convert plan.mod plan.mps --data plan.dat --rename
   gunzip -c plan.mps.gz | tarq convert - plan.tri --from mps)";
 
 constexpr auto showFooter = R"(A range is FIRST:LAST, by number from 1 or by name; either may be left out, and a
@@ -101,12 +111,22 @@ void addEngineOption(CLI::App& app, std::string& engine) {
         ->option_text("FILE");
 }
 
+constexpr auto readFormats = "mps|triplet|lindo|mathprog|ampl|nl|mpl";
+
+void addLanguageOptions(CLI::App& app, LanguageOptions& options) {
+    app.add_option("--data", options.dataFiles, "Data file of a model in a language; may be repeated")
+        ->option_text("FILE")
+        ->allow_extra_args(false);
+    app.add_flag("--listing", options.listing, "Show what the translator of a language says");
+}
+
 void describeSolve(CLI::App& app, SolveOptions& options) {
     app.add_option("FILE", options.file, "Model file; - is standard input and needs --format")
         ->option_text(" ")
         ->required();
     app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
-        ->option_text("mps|triplet|lindo");
+        ->option_text(readFormats);
+    addLanguageOptions(app, options.language);
     app.add_option("--set", "Set a solver parameter; may be repeated")
         ->option_text("NAME=VALUE")
         ->expected(1)
@@ -127,8 +147,9 @@ void describeSolve(CLI::App& app, SolveOptions& options) {
 void describeConvert(CLI::App& app, ConvertOptions& options) {
     app.add_option("IN", options.input, "Model file to read")->option_text(" ")->required();
     app.add_option("OUT", options.output, "Model file to write")->option_text(" ")->required();
-    app.add_option("--from", options.from, "Format of IN")->option_text("mps|triplet|lindo");
+    app.add_option("--from", options.from, "Format of IN")->option_text(readFormats);
     app.add_option("--to", options.to, "Format of OUT")->option_text("mps|triplet|lindo");
+    addLanguageOptions(app, options.language);
     app.add_flag("--rename", options.rename, "Name the columns C1, C2 and so on, and the rows R1, R2 and so on");
     app.footer(convertFooter);
 }
@@ -138,7 +159,8 @@ void describeShow(CLI::App& app, ShowOptions& options) {
         ->option_text(" ")
         ->required();
     app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
-        ->option_text("mps|triplet|lindo");
+        ->option_text(readFormats);
+    addLanguageOptions(app, options.language);
     app.add_option("--rows", options.rows, "Only these rows")->option_text("FIRST:LAST");
     app.add_option("--cols", options.columns, "Only these columns")->option_text("FIRST:LAST");
     app.footer(showFooter);

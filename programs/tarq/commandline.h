@@ -14,9 +14,16 @@ struct ParameterSource {
     std::string text;
 };
 
+/// What goes with a model text in a language.
+struct LanguageOptions {
+    std::vector<std::string> dataFiles;
+    bool listing = false;  ///< show what the translator says also when it succeeds
+};
+
 struct SolveOptions {
-    std::string file;                         ///< "-" for standard input
-    std::string format;                       ///< empty: told by the file's extension
+    std::string file;    ///< "-" for standard input
+    std::string format;  ///< empty: told by the file's extension
+    LanguageOptions language;
     std::vector<ParameterSource> parameters;  ///< in the order given
     std::string solutionFile;                 ///< empty: none
     std::string engine;                       ///< empty: the component's own choice
@@ -29,13 +36,15 @@ struct ConvertOptions {
     std::string output;  ///< "-" for standard output
     std::string from;    ///< formats; empty: told by the file's extension
     std::string to;
+    LanguageOptions language;
     bool rename = false;
 };
 
 struct ShowOptions {
     std::string file;    ///< "-" for standard input
     std::string format;  ///< empty: told by the file's extension
-    std::string rows;    ///< "FIRST:LAST", by number or by name, either may be empty; empty: all
+    LanguageOptions language;
+    std::string rows;  ///< "FIRST:LAST", by number or by name, either may be empty; empty: all
     std::string columns;
 };
 

@@ -24,13 +24,13 @@ std::string advice(Status status, const ConvertOptions& options) {
 }  // namespace
 
 ExitCode convert(const ConvertOptions& options) {
-    TARQFileFormatType from{};
+    InputFormat from;
     TARQFileFormatType to{};
     if (const auto failure = chooseFormat(options.input, options.from, "--from", from)) return show(*failure);
     if (const auto failure = chooseFormat(options.output, options.to, "--to", to)) return show(*failure);
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
-    if (const auto failure = readModel(*model, options.input, from)) return show(*failure);
+    if (const auto failure = readModel(*model, options.input, from, options.language)) return show(*failure);
     showReadingNotes(*model);
     if (options.rename) {
         if (const Status renamed = model->AutoRenameVariables(); renamed.failed()) return ExitCode::EngineFailed;

@@ -10,7 +10,7 @@
 #include <fstream>
 #include <memory>
 
-#include "fileformat.h"
+#include "languageinput.h"
 #include "lasterror.h"
 #include "temporaryfile.h"
 
@@ -107,7 +107,10 @@ std::string reasonNotReadable(const std::string& file) {
     return unreadable;
 }
 
-std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TARQFileFormatType format) {
+std::optional<Failure> readModel(ITARQModel& model, const std::string& file, const InputFormat& format,
+                                 const LanguageOptions& options) {
+    if (auto failure = checkDataFiles(format.language, options)) return failure;
+    if (format.language != nullptr) return readModelText(model, file, *format.language, options);
     std::optional<TemporaryFile> spooled;
     std::string path = file;
     if (file == "-") {
@@ -118,9 +121,9 @@ std::optional<Failure> readModel(ITARQModel& model, const std::string& file, TAR
         }
         path = spooled->path();
     }
-    const Status status = model.ReadModel(path, format);
+    const Status status = model.ReadModel(path, format.file);
     if (status.isOk()) return std::nullopt;
-    return explain(status, shownName(file), path, format);
+    return explain(status, shownName(file), path, format.file);
 }
 
 }  // namespace tarq::command

@@ -40,11 +40,11 @@ Range range(std::string_view text) {
 }  // namespace
 
 ExitCode showModel(const ShowOptions& options) {
-    TARQFileFormatType format{};
+    InputFormat format;
     if (const auto failure = chooseFormat(options.file, options.format, "--format", format)) return show(*failure);
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
-    if (const auto failure = readModel(*model, options.file, format)) return show(*failure);
+    if (const auto failure = readModel(*model, options.file, format, options.language)) return show(*failure);
     showReadingNotes(*model);
     const Range rows = range(options.rows);
     const Range columns = range(options.columns);

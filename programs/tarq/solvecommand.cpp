@@ -22,26 +22,28 @@ namespace tarq::command {
 
 namespace {
 
-/// Refuses a solution file that is the model file itself, which opening it would empty.
+/// Refuses a solution file that is the model file itself, or one of its data, which opening it would empty.
 std::optional<Failure> checkSolutionFile(const SolveOptions& options) {
-    const std::string input = options.file == "-" ? "/dev/stdin" : options.file;
-    std::error_code notThere;
-    const bool isRegular = std::filesystem::is_regular_file(input, notThere);
-    if (options.solutionFile.empty() || !isRegular ||
-        !std::filesystem::equivalent(options.solutionFile, input, notThere)) {
-        return std::nullopt;
+    if (options.solutionFile.empty()) return std::nullopt;
+    std::vector<std::string> inputs{options.language.dataFiles};
+    inputs.push_back(options.file == "-" ? "/dev/stdin" : options.file);
+    for (const std::string& input : inputs) {
+        std::error_code notThere;
+        const bool isRegular = std::filesystem::is_regular_file(input, notThere);
+        if (!isRegular || !std::filesystem::equivalent(options.solutionFile, input, notThere)) continue;
+        return Failure{ExitCode::WrongUsage,
+                       fmt::format("--solution {}: this would overwrite the model.", printable(options.solutionFile))};
     }
-    return Failure{ExitCode::WrongUsage,
-                   fmt::format("--solution {}: this would overwrite the model.", printable(options.solutionFile))};
+    return std::nullopt;
 }
 
 std::optional<Failure> prepare(ITARQModel& model, const SolveOptions& options, RunResult& result) {
     if (auto failure = useEngine(model, options.engine)) return failure;
-    TARQFileFormatType format{};
+    InputFormat format;
     if (auto failure = chooseFormat(options.file, options.format, "--format", format)) return failure;
     if (auto failure = checkSolutionFile(options)) return failure;
     const auto start = std::chrono::steady_clock::now();
-    if (auto failure = readModel(model, options.file, format)) return failure;
+    if (auto failure = readModel(model, options.file, format, options.language)) return failure;
     result.readSeconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     readModelFacts(model, result);
     if (!options.quiet) showReadingNotes(model);

@@ -39,19 +39,31 @@ ssize_t readPiece(int file, std::vector<char>& piece) {
 }  // namespace
 
 TemporaryFile::TemporaryFile() {
-    std::error_code noFolder;
-    std::string name = (std::filesystem::temp_directory_path(noFolder) / "tarq-XXXXXX").string();
-    file_ = mkstemp(name.data());
-    if (file_ < 0) {
-        failure_ = fmt::format("no temporary file can be made: {}", std::strerror(errno));
-        return;
-    }
+    std::string name;
+    make(name, 0);
+    if (file_ < 0) return;
     unlink(name.c_str());
     path_ = fmt::format("/dev/fd/{}", file_);
 }
 
+TemporaryFile::TemporaryFile(const std::string& extension) {
+    std::string name = extension;
+    make(name, extension.size());
+    isNamed_ = file_ >= 0;
+    path_.swap(name);
+}
+
 TemporaryFile::~TemporaryFile() {
+    if (isNamed_) unlink(path_.c_str());
     if (file_ >= 0) close(file_);
+}
+
+/// Makes the file; `name` holds the extension and gets the whole name.
+void TemporaryFile::make(std::string& name, std::size_t extensionLength) {
+    std::error_code noFolder;
+    name = (std::filesystem::temp_directory_path(noFolder) / ("tarq-XXXXXX" + name)).string();
+    file_ = mkstemps(name.data(), static_cast<int>(extensionLength));
+    if (file_ < 0) failure_ = fmt::format("no temporary file can be made: {}", std::strerror(errno));
 }
 
 void TemporaryFile::copyStandardInput() {

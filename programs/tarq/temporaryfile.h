@@ -1,15 +1,18 @@
 // TemporaryFile: a standard stream as a file that can be opened by name.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace tarq::command {
 
-/// A file without a name in any directory, so that nothing stays behind, however the process ends. It can be opened by
-/// path() while the object lives.
+/// A file that can be opened by path() while the object lives; without a name in any directory unless it is asked for,
+/// so that nothing stays behind, however the process ends.
 class TemporaryFile {
 public:
     TemporaryFile();
+    /// With a name that ends with `extension`, for other processes; only the object's end takes it away.
+    explicit TemporaryFile(const std::string& extension);
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
@@ -24,7 +27,10 @@ public:
     void copyToStandardOutput();
 
 private:
+    void make(std::string& name, std::size_t extensionLength);
+
     int file_ = -1;
+    bool isNamed_ = false;
     std::string path_;
     std::string failure_;
 };

@@ -1,0 +1,128 @@
+#include "languageinput.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <string_view>
+
+#include "console.h"
+#include "fileformat.h"
+#include "lasterror.h"
+#include "temporaryfile.h"
+
+namespace tarq::command {
+
+namespace {
+
+/// A translator's complaint: "plan.mod:12: syntax error".
+struct Complaint {
+    std::string file;
+    std::int32_t line = 0;
+    std::string words;
+};
+
+/// Reads a line of a listing as a complaint about one of the files.
+std::optional<Complaint> complaintIn(std::string_view line, const std::vector<std::string>& files) {
+    for (const std::string& file : files) {
+        if (!line.starts_with(file) || line.substr(file.size(), 1) != ":") continue;
+        Complaint complaint{.file = file, .line = 0, .words = {}};
+        const char* const end = line.data() + line.size();
+        const auto [stop, error] = std::from_chars(line.data() + file.size() + 1, end, complaint.line);
+        if (error != std::errc{} || !std::string_view(stop, end).starts_with(": ")) continue;
+        complaint.words.assign(stop + 2, end);
+        return complaint;
+    }
+    return std::nullopt;
+}
+
+/// The last complaint of a listing, as warnings come before what ends the translation.
+std::optional<Complaint> lastComplaint(std::string_view listing, const std::vector<std::string>& files) {
+    std::optional<Complaint> last;
+    while (!listing.empty()) {
+        const std::size_t end = std::min(listing.find('\n'), listing.size());
+        if (auto found = complaintIn(listing.substr(0, end), files)) last = std::move(found);
+        listing.remove_prefix(std::min(end + 1, listing.size()));
+    }
+    return last;
+}
+
+/// What the MPL server has said, which has no listing.
+std::optional<Complaint> serverComplaint(ITARQModel& model, const std::string& file) {
+    Complaint complaint{.file = file, .line = 0, .words = {}};
+    const bool isTold = model.get_MPLErrorMessage(&complaint.words).isOk() &&
+                        model.get_MPLErrorLine(&complaint.line).isOk() && complaint.line > 0;
+    return isTold ? std::optional(complaint) : std::nullopt;
+}
+
+/// A listing as it may be shown on a terminal: lines and tabs stay.
+void showListing(std::string listing) {
+    for (char& character : listing) {
+        const bool isControl = static_cast<unsigned char>(character) < ' ' || character == '\x7F';
+        if (isControl && character != '\n' && character != '\t') character = '?';
+    }
+    if (!listing.empty() && listing.back() != '\n') listing += '\n';
+    (void)std::fwrite(listing.data(), 1, listing.size(), stderr);
+}
+
+void replaceAll(std::string& text, std::string_view what, std::string_view with) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += with.size()) {
+        text.replace(at, what.size(), with);
+    }
+}
+
+/// The file that a complaint of the component without a place is about.
+std::string_view fileOf(std::string_view text, const std::string& file, const LanguageOptions& options) {
+    const bool isAboutData = text.find(".DAT file") != std::string_view::npos && options.dataFiles.size() == 1;
+    return isAboutData ? std::string_view(options.dataFiles.front()) : file;
+}
+
+Failure explain(Status status, const std::string& text, const std::optional<Complaint>& complaint,
+                std::string_view file) {
+    if (!complaint) return {ExitCode::InputRejected, fmt::format("{}: {}", file, text), status};
+    return {ExitCode::InputRejected,
+            fmt::format("{}, line {}: {} {}", printable(complaint->file), complaint->line, text,
+                        printable(complaint->words)),
+            status, complaint->line};
+}
+
+}  // namespace
+
+std::optional<Failure> checkDataFiles(const Language* language, const LanguageOptions& options) {
+    const std::size_t most = language != nullptr ? language->mostDataFiles : 0;
+    if (options.dataFiles.size() <= most) return std::nullopt;
+    return Failure{ExitCode::WrongUsage,
+                   fmt::format("--data {}: {}", printable(options.dataFiles[most]),
+                               most == 0 ? "this format takes no data file." : "this format takes one data file.")};
+}
+
+std::optional<Failure> readModelText(ITARQModel& model, const std::string& file, const Language& language,
+                                     const LanguageOptions& options) {
+    std::optional<TemporaryFile> spooled;
+    std::string path = file;
+    if (file == "-") {
+        // Translators are programs of their own, so it must be a file for them too.
+        spooled.emplace(fmt::format(".{}", language.name)).copyStandardInput();
+        if (!spooled->failure().empty()) {
+            return Failure{ExitCode::InputRejected,
+                           fmt::format("standard input can't be read: {}.", spooled->failure())};
+        }
+        path = spooled->path();
+    }
+    const std::string shown = shownName(file);
+    const Status status = language.read(model, path, options.dataFiles);
+    const std::string text = status.isOk() ? std::string() : lastErrorText(status);
+    std::string listing;
+    (void)model.get_AMPLOutputBuffer(&listing);
+    if (spooled) replaceAll(listing, path, shown);
+    if (options.listing || !status.isOk()) showListing(listing);
+    if (status.isOk()) return std::nullopt;
+    std::vector<std::string> files{options.dataFiles};
+    files.push_back(shown);
+    auto complaint = lastComplaint(listing, files);
+    if (!complaint) complaint = serverComplaint(model, shown);
+    return explain(status, text, complaint, printable(fileOf(text, shown, options)));
+}
+
+}  // namespace tarq::command

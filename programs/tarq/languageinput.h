@@ -1,0 +1,23 @@
+// Reading a model text in a modelling language, and telling what its translator has said.
+#pragma once
+
+#include <tarq/tarq.h>
+
+#include <optional>
+#include <string>
+
+#include "commandline.h"
+#include "failure.h"
+#include "language.h"
+
+namespace tarq::command {
+
+/// Fails with WrongUsage for more data files than a language takes; null stands for a model file, which takes none.
+[[nodiscard]] std::optional<Failure> checkDataFiles(const Language* language, const LanguageOptions& options);
+
+/// Reads a model text, or standard input for "-". The translator's listing goes to standard error when the reading
+/// fails, or when it is asked for. The failure names the file and the line where the translator tells them.
+[[nodiscard]] std::optional<Failure> readModelText(ITARQModel& model, const std::string& file, const Language& language,
+                                                   const LanguageOptions& options);
+
+}  // namespace tarq::command
