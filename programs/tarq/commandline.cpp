@@ -71,7 +71,7 @@ constexpr auto convertFooter = R"(The format of a file is told by its extension 
 --to; - as a file is standard input or output. IN may be a text in a language, as
 'tarq solve --help' lists them. A model that the format can't hold leaves no
 file. MPS and Lindo take names of up to 8 characters, Lindo takes no row with two
-bounds, Triplet holds everything but the model's name.
+bounds, Triplet holds everything but the model's name and its direction.
 
 Examples:
   tarq convert plan.mps plan.tri

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -43,8 +44,8 @@ public:
 
 class ImportTest : public testing::Test {
 protected:
-    ImportTest() : folder_(std::filesystem::path(testing::TempDir()) / "tarq-import") {
-        std::filesystem::remove_all(folder_);
+    // Tests run beside each other.
+    ImportTest() : folder_(std::filesystem::path(testing::TempDir()) / ("tarq-import-" + std::to_string(getpid()))) {
         std::filesystem::create_directories(folder_ / "temporary");
         setenv("TMPDIR", (folder_ / "temporary").c_str(), 1);
     }
