@@ -29,12 +29,16 @@ private:
     tarq::ModelStore store_;
 };
 
-tarq::stub::Sizes sizesIn(const std::uint8_t* data, std::size_t size) {
+constexpr std::size_t headerLength = sizeof(tarq::stub::hello) + sizeof(tarq::stub::Sizes);
+
+tarq::stub::Sizes sizesIn(const std::uint8_t* data) {
     tarq::stub::Sizes sizes;
-    if (size >= sizeof(tarq::stub::hello) + sizeof sizes) {
-        std::memcpy(&sizes, data + sizeof(tarq::stub::hello), sizeof sizes);
-    }
+    std::memcpy(&sizes, data + sizeof(tarq::stub::hello), sizeof sizes);
     return sizes;
+}
+
+bool hasSizes(const std::uint8_t* data, std::size_t size) {
+    return size >= headerLength && std::memcmp(data, &tarq::stub::hello, sizeof(tarq::stub::hello)) == 0;
 }
 
 void checkBounds(double lower, double upper, double infinity) {
@@ -71,8 +75,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const tarq::Outcome outcome = tarq::receiveStubModel(source, model);
     check(outcome.isOk() == outcome.description().empty(), "a failure has a message, a success none");
     using namespace tarq::status;
+    check((outcome.status() == temporaryFile) == !hasSizes(data, size), "an answer without sizes is told apart");
     if (outcome.isOk()) {
-        checkModel(model.store(), sizesIn(data, size));
+        checkModel(model.store(), sizesIn(data));
     } else if (outcome.status() != badColumnName && outcome.status() != badRowName) {
         check(model.isOld(), "a failure leaves the old model");
     }

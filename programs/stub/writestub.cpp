@@ -70,18 +70,26 @@ void putStates(ASL* problem, Solution& solution) {
     suf_iput_ASL(problem, basisName, ASL_Sufkind_con, solution.rowStates.data());
 }
 
-/// Copies a file in memory to `fileName`; true when all of it lies there.
-bool copyTo(const std::string& fileName, int memory) {
+bool copyAll(int file, int memory) {
     struct stat about {};
-    constexpr mode_t readAndWrite = 0666;
-    const int file = ::open(fileName.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, readAndWrite);
-    if (file < 0 || ::fstat(memory, &about) != 0) return false;
+    if (::fstat(memory, &about) != 0) return false;
     off_t copied = 0;
     while (copied < about.st_size) {
         const auto left = static_cast<std::size_t>(about.st_size - copied);
         if (::sendfile(file, memory, &copied, left) <= 0) return false;
     }
-    return ::close(file) == 0;
+    return true;
+}
+
+/// Copies a file in memory to `fileName`; false, with nothing left there, when it has no room.
+bool copyTo(const std::string& fileName, int memory) {
+    constexpr mode_t readAndWrite = 0666;
+    const int file = ::open(fileName.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, readAndWrite);
+    if (file < 0) return false;
+    const bool copied = copyAll(file, memory);
+    if (::close(file) == 0 && copied) return true;
+    ::unlink(fileName.c_str());
+    return false;
 }
 
 /// The library doesn't say whether its writes succeeded, so it writes where they do.

@@ -55,6 +55,14 @@ TEST_F(AmplStubTest, StubsThatCantBeReadLeaveTheOldModel) {
     EXPECT_TRUE(model.isOld());
 }
 
+TEST_F(AmplStubTest, NameThatIsTakenEndsTheReadingThere) {
+    (void)file("s.col", "a\nb\na\n");
+    EXPECT_THAT(read(sampleStub), failsWith(status::badColumnName, "Duplicate col name: a"));
+    EXPECT_EQ(model.store_.columnCount(), 2);
+    EXPECT_EQ(model.store_.rowCount(), 0);
+    EXPECT_TRUE(model.parameters_.empty());
+}
+
 TEST_F(AmplStubTest, NoDamageReachesThisProcess) {
     std::minstd_rand random(12);
     for (int round = 0; round < 60; ++round) {
