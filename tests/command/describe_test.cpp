@@ -56,6 +56,7 @@ TEST_F(CommandDescribeTest, AMemberTellsItsFormsParametersAndFlags) {
                       HasSubstr("may be left out")));
     EXPECT_THAT(run({"describe", "ColLB"}).out, AllOf(HasSubstr("get     ColLB(Col As Variant) As Double\n"),
                                                       HasSubstr("put     ColLB(Col As Variant) = Double\n")));
+    EXPECT_THAT(run({"describe", "ITARQVarSet.Enum"}).out, HasSubstr(") As ITARQVarSetEnum\n"));
     EXPECT_THAT(run({"describe", "Optimize"}).out, HasSubstr("may take long"));
     EXPECT_THAT(run({"describe", "AddObjSum"}).out, HasSubstr("any number of values"));
 
