@@ -1,7 +1,8 @@
 // Addressing: from the value by which a client names a column or row to a position in the store.
 //
 // A text is a name, also when it reads as a number; everything else is converted to a number from 1. The address itself
-// is never changed.
+// is never changed. An object is asked for its number, which calls a client: a position that was found before may be
+// gone afterwards.
 #pragma once
 
 #include <cstdint>
