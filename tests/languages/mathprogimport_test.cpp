@@ -66,8 +66,8 @@ protected:
         return importMathProgModel(library, modelFile, data, model);
     }
     [[nodiscard]] double nonzero(std::int32_t column, std::int32_t row) const {
-        double value = 0.0;
-        return store.findNonzero(column, row, value) ? value : 0.0;
+        const double* const value = store.nonzeros().find(column, row);
+        return value != nullptr ? *value : 0.0;
     }
 
     const std::string modelFile = file("a.mod", "end;");

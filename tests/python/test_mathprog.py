@@ -1,6 +1,6 @@
 """Models in GNU MathProg, read through GLPK."""
 
-import threading
+import concurrent.futures
 
 import pytest
 
@@ -70,28 +70,21 @@ def test_recursion_goes_deep(read):
 
 
 def test_two_threads_get_each_their_own(tmp_path):
-    sizes = {}
-
-    def read_size(size):
+    def columns_of(size):
         file = tmp_path / f"{size}.mod"
         file.write_text(f"var x{{1..{size}}}; minimize z: sum{{i in 1..{size}}} x[i]; end;")
         model = tarq.TARQModel()
         model.ReadMathProgModel(str(file))
-        sizes[size] = model.NumberOfCols
+        return model.NumberOfCols
 
-    threads = [threading.Thread(target=read_size, args=[size]) for size in (1, 300, 20_000, 50)]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
-    assert sizes == {size: size for size in sizes} and len(sizes) == 4
+    sizes = [1, 300, 20_000, 50]
+    with concurrent.futures.ThreadPoolExecutor(4) as threads:
+        assert list(threads.map(columns_of, sizes)) == sizes
 
 
 def test_the_library_is_found_by_its_location(read):
     model = tarq.TARQModel()
-    model.LocationOfMathProgDLL = "nosuch.dll"
-    with pytest.raises(tarq.Error, match="Could not find MathProg.DLL."):
-        read(MODEL, DATA, model)
-    model.LocationOfMathProgDLL = "tarq.dll"
-    with pytest.raises(tarq.Error, match="Could not get MathProg.DLL function handles."):
-        read(MODEL, DATA, model)
+    for name, text in (("nosuch", "Could not find MathProg.DLL."), ("tarq", "Could not get MathProg.DLL function handles.")):
+        model.LocationOfMathProgDLL = f"{name}.dll"
+        with pytest.raises(tarq.Error, match=text):
+            read(MODEL, DATA, model)
