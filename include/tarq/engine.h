@@ -4,10 +4,10 @@
  * Strings are 8-bit and null-terminated, indices are 1-based, and every array of n + m entries holds the n columns
  * first and the m rows behind them. A result of 0 means success unless an operation says otherwise.
  *
- * Threads: one library works on one run at a time, with one model and one set of parameters. A run belongs to the thread
- * that starts it, by Initialize or AllocateMemory, until that thread calls FreeMemory. All operations of the run come
- * from this thread, and the callback is called on it. A thread that wants to start a run while another one has its own
- * waits in the start for its turn; one that has a run already is refused. An operation of a thread that has no run
+ * Threads: one library works on one run at a time, with one model and one set of parameters. A run belongs to the
+ * thread that starts it, by Initialize or AllocateMemory, until that thread calls FreeMemory. All operations of the run
+ * come from this thread, and the callback is called on it. A thread that wants to start a run while another one has its
+ * own waits in the start for its turn; one that has a run already is refused. An operation of a thread that has no run
  * answers with a general error (5) and changes nothing, with one exception: GetParameter for xversn is always served. A
  * thread that ends gives its run up.
  */
@@ -89,8 +89,8 @@ TARQ_ENGINE_API int32_t OptimizeIP(int32_t nodeFrequency, int32_t* nodes, int32_
 TARQ_ENGINE_API int32_t GetIPSolution(int32_t* status, double* objective, double* values, double* reducedCosts,
                                       int32_t* basisStatus);
 
-/* Beyond the operations above, and may be left out: gives up the run of a thread that was stopped for good and won't end
- * it, so that others get their turn; a stage still under way ends at its next opportunity. `thread` is the system's
+/* Beyond the operations above, and may be left out: gives up the run of a thread that was stopped for good and won't
+ * end it, so that others get their turn; a stage still under way ends at its next opportunity. `thread` is the system's
  * number of that thread: gettid() on Linux, GetCurrentThreadId() on Windows. From any thread, at any time. A general
  * error (5) when the thread has no run. */
 TARQ_ENGINE_API int32_t AbandonRun(int32_t thread);
