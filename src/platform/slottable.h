@@ -33,8 +33,9 @@ struct Slot {
     template <class... Arguments>
     std::invoke_result_t<Function*, Arguments...> operator()(Arguments... arguments) const {
         using Result = std::invoke_result_t<Function*, Arguments...>;
-        return withoutException([&]() -> Result { return function != nullptr ? function(arguments...) : emptyResult; },
-                                []() -> Result { return emptyResult; });
+        constexpr auto empty = static_cast<Result>(emptyResult);
+        return withoutException([&]() -> Result { return function != nullptr ? function(arguments...) : empty; },
+                                []() -> Result { return empty; });
     }
 };
 
