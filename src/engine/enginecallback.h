@@ -10,6 +10,7 @@ struct RunModel;
 /// Notes a run as that of the calling thread and as the latest one; at its end the thread's is again what it was.
 class NotedRun {
 public:
+    /// Throws std::bad_alloc where the thread has no memory for the note.
     explicit NotedRun(RunModel& model);
     NotedRun(const NotedRun&) = delete;
     NotedRun& operator=(const NotedRun&) = delete;

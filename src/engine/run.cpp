@@ -83,10 +83,10 @@ private:
 };
 
 Status Run::execute() {
-    noted_.emplace(model_);
     model_.stopRequested.store(false, std::memory_order_relaxed);
     const auto steps = [this] {
         try {
+            noted_.emplace(model_);
             return runSteps();
         } catch (const std::bad_alloc&) {
             return end(status::outOfMemory);

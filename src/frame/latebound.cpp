@@ -18,7 +18,7 @@ Outcome LateBound::invokeMember(std::int32_t member, std::uint16_t kinds, Argume
     const Status status = object_->Invoke(member, kinds, {.values = arguments, .names = {}}, answer, nullptr);
     if (!status.failed()) return {};
     const ObjectError* const error = lastError();
-    return error != nullptr ? Outcome(status, error->description) : failure(status);
+    return error != nullptr && error->status == status ? Outcome(status, error->description) : failure(status);
 }
 
 Outcome LateBound::convert(Variant answer, Variant& value) {

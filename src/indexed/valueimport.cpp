@@ -180,8 +180,8 @@ Outcome appendArrayCells(std::span<const Variant> cells, Kind target, std::vecto
 
 Outcome checkArrayShape(ITARQArray& array, std::span<const std::size_t> shape) {
     std::int32_t dimensions = 0;
-    if (Outcome asked = askObject([&] { return array.get_NumberOfIndexsets(&dimensions); }); !asked.isOk())
-        return asked;
+    Outcome counted = askObject([&] { return array.get_NumberOfIndexsets(&dimensions); });
+    if (!counted.isOk()) return counted;
     if (static_cast<std::size_t>(dimensions) != shape.size()) return refused("Dimension of TARQArray does not fit.");
     for (std::size_t i = 0; i < shape.size(); ++i) {
         std::int32_t size = 0;

@@ -7,7 +7,7 @@ namespace tarq {
 /// thread_local one the system would end the process. Slots are few and stay for good.
 class ThreadSlot {
 public:
-    /// `drop` is called on each thread that ends, with its pointer where that isn't null.
+    /// `drop`, where there is one, is called on each thread that ends, with its pointer where that isn't null.
     explicit ThreadSlot(void (*drop)(void* pointer)) noexcept;
 
     /// The calling thread's pointer, null until it is set.

@@ -19,7 +19,8 @@ namespace tarq::python {
 
 namespace py = pybind11;
 
-/// What the stack of a thread that is ended is unwound by.
+/// What the stack of a thread that is ended is unwound by. A handler gets it as a reference to nothing, hence the
+/// attribute of the functions that have one.
 using ThreadEnd = abi::__forced_unwind;
 
 /// Stops the calling thread for good. It must not hold the interpreter's lock.
@@ -27,7 +28,7 @@ using ThreadEnd = abi::__forced_unwind;
 
 /// Runs a body that calls the interpreter from where no unwinding may pass.
 template <class Body>
-auto withoutUnwinding(Body&& body) {
+__attribute__((no_sanitize("null"))) auto withoutUnwinding(Body&& body) {
     try {
         return std::forward<Body>(body)();
     } catch (const ThreadEnd&) {
@@ -37,7 +38,7 @@ auto withoutUnwinding(Body&& body) {
 
 /// Runs a slot's body and turns what it throws into a Python exception. `failure` is what the slot returns then.
 template <class Result, class Body>
-Result guarded(Result failure, Body&& body) noexcept {
+__attribute__((no_sanitize("null"))) Result guarded(Result failure, Body&& body) noexcept {
     try {
         return std::forward<Body>(body)();
     } catch (py::error_already_set& error) {
