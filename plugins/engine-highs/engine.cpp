@@ -10,10 +10,6 @@
 #include <optional>
 #include <string>
 
-#if defined(__GLIBCXX__)
-#include <cxxabi.h>
-#endif
-
 #include "enginerun.h"
 #include "enginestate.h"
 
@@ -21,10 +17,9 @@ namespace {
 
 using tarq::engine::EngineState;
 
-// What `operation` throws becomes a result, and the message of the run, if there is one. The handler of a thread's end
-// gets a reference to nothing, hence the attribute.
+// What `operation` throws becomes a result, and the message of the run, if there is one.
 template <typename Operation>
-__attribute__((no_sanitize("null"))) std::int32_t guarded(std::int32_t memoryResult, Operation operation) {
+std::int32_t guarded(std::int32_t memoryResult, Operation operation) {
     const auto failed = [](std::int32_t result, const char* text) {
         try {
             EngineState* const engine = tarq::engine::ownRun();
@@ -35,17 +30,13 @@ __attribute__((no_sanitize("null"))) std::int32_t guarded(std::int32_t memoryRes
     };
     try {
         return operation();
-    }
-#if defined(__GLIBCXX__)
-    catch (const abi::__forced_unwind&) {
-        throw;  // the thread is being cancelled, which mustn't be held up
-    }
-#endif
-    catch (const std::bad_alloc&) {
+    } catch (const std::bad_alloc&) {
         return failed(memoryResult, "Not enough memory.");
     } catch (const std::exception& exception) {
         return failed(tarq::engine::internalError, exception.what());
     } catch (...) {
+        // What is no exception is the end of the thread, which mustn't be held up.
+        if (std::current_exception() == nullptr) throw;
         return failed(tarq::engine::internalError, "The engine failed for an unknown reason.");
     }
 }

@@ -7,7 +7,6 @@
 // along.
 #pragma once
 
-#include <cxxabi.h>
 #include <pybind11/pybind11.h>
 #include <structmember.h>
 
@@ -19,26 +18,26 @@ namespace tarq::python {
 
 namespace py = pybind11;
 
-/// What the stack of a thread that is ended is unwound by. A handler gets it as a reference to nothing, hence the
-/// attribute of the functions that have one.
-using ThreadEnd = abi::__forced_unwind;
+/// In a handler of everything: whether it holds the unwinding of a thread that is ended, which is no exception.
+inline bool holdsThreadEnd() { return std::current_exception() == nullptr; }
 
 /// Stops the calling thread for good. It must not hold the interpreter's lock.
 [[noreturn]] void stopThisThread() noexcept;
 
 /// Runs a body that calls the interpreter from where no unwinding may pass.
 template <class Body>
-__attribute__((no_sanitize("null"))) auto withoutUnwinding(Body&& body) {
+auto withoutUnwinding(Body&& body) {
     try {
         return std::forward<Body>(body)();
-    } catch (const ThreadEnd&) {
-        stopThisThread();
+    } catch (...) {
+        if (holdsThreadEnd()) stopThisThread();
+        throw;
     }
 }
 
 /// Runs a slot's body and turns what it throws into a Python exception. `failure` is what the slot returns then.
 template <class Result, class Body>
-__attribute__((no_sanitize("null"))) Result guarded(Result failure, Body&& body) noexcept {
+Result guarded(Result failure, Body&& body) noexcept {
     try {
         return std::forward<Body>(body)();
     } catch (py::error_already_set& error) {
@@ -49,8 +48,9 @@ __attribute__((no_sanitize("null"))) Result guarded(Result failure, Body&& body)
         error.set_error();
     } catch (const std::exception& error) {
         PyErr_SetString(PyExc_SystemError, error.what());
-    } catch (const ThreadEnd&) {
-        stopThisThread();
+    } catch (...) {
+        if (holdsThreadEnd()) stopThisThread();
+        PyErr_SetString(PyExc_SystemError, "an unknown exception");
     }
     return failure;
 }
