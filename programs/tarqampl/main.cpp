@@ -10,6 +10,7 @@
 #include "component/amplsolutionfile.h"
 #include "console.h"
 #include "driveroptions.h"
+#include "languageinput.h"
 #include "lasterror.h"
 #include "parameterscommand.h"
 #include "report.h"
@@ -34,12 +35,19 @@ std::optional<std::string> complaint(const std::string& about, Status status) {
     return about + ": " + lastErrorText(status);
 }
 
+std::optional<std::string> complaintOfStub(const std::string& stub, Status status) {
+    auto wrong = complaint(stub, status);
+    if (!wrong) return wrong;
+    if (const std::string reason = reasonOfStub(stub, status); !reason.empty()) *wrong += " " + reason;
+    return wrong;
+}
+
 /// Everything that precedes the solve, each step with a say over those before.
 std::optional<std::string> prepare(ITARQModel& model, const DriverOptions& options) {
     std::optional<std::string> wrong;
     if (!options.engine.empty()) wrong = complaint(options.engine, model.put_LocationOfTARQDLL(options.engine));
     if (!wrong && !options.profile.empty()) wrong = complaint(options.profile, model.ReadProfile(options.profile));
-    if (!wrong) wrong = complaint(options.stub, model.ReadAMPLStub(options.stub));
+    if (!wrong) wrong = complaintOfStub(options.stub, model.ReadAMPLStub(options.stub));
     for (const auto& [name, value] : options.assignments) {
         if (!wrong) wrong = complaint(name + "=" + value, model.put_Parameter(name, Variant(value)));
     }
