@@ -15,6 +15,7 @@
 #include "parameterscommand.h"
 #include "report.h"
 #include "run.h"
+#include "standardstreams.h"
 #include "terminal.h"
 
 namespace {
@@ -49,7 +50,7 @@ std::optional<std::string> prepare(ITARQModel& model, const DriverOptions& optio
     if (!wrong && !options.profile.empty()) wrong = complaint(options.profile, model.ReadProfile(options.profile));
     if (!wrong) wrong = complaintOfStub(options.stub, model.ReadAMPLStub(options.stub));
     for (const auto& [name, value] : options.assignments) {
-        if (!wrong) wrong = complaint(name + "=" + value, model.put_Parameter(name, Variant(value)));
+        if (!wrong) wrong = complaint(fmt::format("{}={}", name, value), model.put_Parameter(name, Variant(value)));
     }
     return wrong;
 }
@@ -103,9 +104,13 @@ int run(int count, char** arguments) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    fillStandardStreams();
     try {
         return run(count, arguments);
     } catch (const std::exception& failure) {
-        return fail(failure.what());
+        (void)std::fputs("tarqampl: ", stderr);
+        (void)std::fputs(failure.what(), stderr);
+        (void)std::fputs("\n", stderr);
     }
+    return 1;
 }
