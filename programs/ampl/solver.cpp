@@ -11,11 +11,11 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "console.h"
+#include "platform/programsearch.h"
 
 namespace tarq::translator {
 
@@ -23,15 +23,12 @@ namespace {
 
 constexpr int notStarted = 127;
 
-bool isProgram(const std::string& path) {
+// Where this program is installed, or was built, solvers are here.
+constexpr const char* ownFolders[] = {"../../bin"};
+
+bool isProgram(const std::filesystem::path& path) {
     std::error_code missing;
     return std::filesystem::is_regular_file(path, missing) && access(path.c_str(), X_OK) == 0;
-}
-
-/// The folder for programs where this one is installed, or was built.
-std::filesystem::path ownPrograms() {
-    std::error_code unknown;
-    return std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path() / "../../bin";
 }
 
 /// A break from the keyboard reaches the solver too, which ends with the best that it has; this process waits for that.
@@ -55,6 +52,7 @@ private:
 
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) pointers.push_back(text.data());
     pointers.push_back(nullptr);
     return pointers;
@@ -63,18 +61,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
 }  // namespace
 
 std::optional<std::string> findSolver(const std::string& name) {
-    if (name.find('/') != std::string::npos) return isProgram(name) ? std::optional(name) : std::nullopt;
-    if (name.empty()) return std::nullopt;
-    const char* folders = std::getenv("PATH");
-    std::string_view rest = folders != nullptr ? folders : "";
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(':'), rest.size());
-        const std::string path = fmt::format("{}/{}", rest.substr(0, end), name);
-        if (end > 0 && isProgram(path)) return path;
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    const std::string own = (ownPrograms() / name).lexically_normal().string();
-    return isProgram(own) ? std::optional(own) : std::nullopt;
+    return findProgram(name, {.counts = &isProgram, .ownFolders = ownFolders});
 }
 
 std::string runSolver(const std::string& program, const std::string& stub, const Options& options) {

@@ -9,7 +9,8 @@
 namespace tarq::translator {
 
 /// The file that a solver's name stands for: a name with a directory is that file, another is looked for in the folders
-/// of PATH and then among the programs installed with this one. Nothing when there is no such program.
+/// of PATH and then among the programs installed with this one; NAME.exe stands for NAME. Nothing when there is no such
+/// program.
 [[nodiscard]] std::optional<std::string> findSolver(const std::string& name);
 
 /// Runs `program STUB -AMPL` with the options in its environment and waits until it has ended, however long that takes

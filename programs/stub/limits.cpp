@@ -57,9 +57,10 @@ void prepareHeap(std::uintmax_t size) {
     constexpr std::size_t beyondTheFirstHeap = 256U << 10U;
     void* volatile const first = std::malloc(beyondTheFirstHeap);  // or the compiler would leave it out
     std::free(first);
-    const auto end = reinterpret_cast<std::uintptr_t>(::sbrk(0));
-    const auto start = (end - static_cast<std::uintptr_t>(room)) / pageSize * pageSize;
-    (void)::madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
+    auto* const end = static_cast<char*>(::sbrk(0));
+    char* start = end - room;
+    start -= reinterpret_cast<std::uintptr_t>(start) % pageSize;
+    (void)::madvise(start, static_cast<std::size_t>(end - start), MADV_HUGEPAGE);
 }
 
 }  // namespace

@@ -24,10 +24,10 @@ Status readMpl(ITARQModel& model, const std::string& file, const std::vector<std
 
 constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
 constexpr Language rows[] = {
-    {"mathprog", ".mod", 1, readMathProg},
-    {"ampl", "", any, readAmpl},
-    {"nl", ".nl", 0, readStub},
-    {"mpl", ".mpl", 0, readMpl},
+    {"mathprog", ".mod", 1, false, readMathProg},
+    {"ampl", "", any, false, readAmpl},
+    {"nl", ".nl", 0, true, readStub},
+    {"mpl", ".mpl", 0, false, readMpl},
 };
 
 }  // namespace

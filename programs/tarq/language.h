@@ -15,6 +15,7 @@ struct Language {
     std::string_view name;       ///< as a format
     std::string_view extension;  ///< of model texts; empty where none tells the language
     std::size_t mostDataFiles;
+    bool isStub;  ///< a text's translation, with no translator to tell what is wrong
     Status (*read)(ITARQModel& model, const std::string& file, const std::vector<std::string>& dataFiles);
 };
 

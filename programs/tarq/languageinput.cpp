@@ -5,11 +5,15 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <string_view>
+#include <system_error>
 
 #include "console.h"
 #include "fileformat.h"
 #include "lasterror.h"
+#include "modelinput.h"
 #include "temporaryfile.h"
 
 namespace tarq::command {
@@ -97,6 +101,19 @@ std::optional<Failure> checkDataFiles(const Language* language, const LanguageOp
                                most == 0 ? "this format takes no data file." : "this format takes one data file.")};
 }
 
+std::string reasonOfStub(const std::string& stub, Status status) {
+    if (status == status::externalProcess) return "The stub is damaged, or was cut off.";
+    if (status != status::temporaryFile) return {};
+    constexpr std::string_view extension = ".nl";
+    std::error_code ignored;
+    // A stub is named with its extension or without.
+    const bool isWhole = stub.ends_with(extension) && !std::filesystem::exists(stub + ".nl", ignored);
+    const std::string file = isWhole ? stub : stub + ".nl";
+    const bool isRead = std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
+    if (isRead) return "This is no stub, or its header is damaged.";
+    return fmt::format("{} can't be read: {}.", printable(file), reasonNotReadable(file));
+}
+
 std::optional<Failure> readModelText(ITARQModel& model, const std::string& file, const Language& language,
                                      const LanguageOptions& options) {
     std::optional<TemporaryFile> spooled;
@@ -112,7 +129,9 @@ std::optional<Failure> readModelText(ITARQModel& model, const std::string& file,
     }
     const std::string shown = shownName(file);
     const Status status = language.read(model, path, options.dataFiles);
-    const std::string text = status.isOk() ? std::string() : lastErrorText(status);
+    std::string text = status.isOk() ? std::string() : lastErrorText(status);
+    if (const std::string reason = language.isStub ? reasonOfStub(path, status) : ""; !reason.empty())
+        text += " " + reason;
     std::string listing;
     (void)model.get_AMPLOutputBuffer(&listing);
     if (spooled) replaceAll(listing, path, shown);

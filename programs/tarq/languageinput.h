@@ -20,4 +20,7 @@ namespace tarq::command {
 [[nodiscard]] std::optional<Failure> readModelText(ITARQModel& model, const std::string& file, const Language& language,
                                                    const LanguageOptions& options);
 
+/// What lies behind the component's failure to read a stub, as a sentence; empty where its own words tell.
+[[nodiscard]] std::string reasonOfStub(const std::string& stub, Status status);
+
 }  // namespace tarq::command

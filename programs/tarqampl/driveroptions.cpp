@@ -6,6 +6,7 @@ namespace tarq::driver {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
+constexpr const char* usage = "usage: tarqampl STUB [-AMPL] [NAME=VALUE...], tarqampl -v, tarqampl -=";
 
 std::string fromEnvironment(const char* name) {
     const char* const value = std::getenv(name);
@@ -35,6 +36,8 @@ void readWord(const std::string& word, DriverOptions& options) {
         options.task = DriverOptions::Task::ShowVersion;
     } else if (word == "-=") {
         options.task = DriverOptions::Task::ListParameters;
+    } else if (options.stub.empty() && word.starts_with('-')) {
+        options.wrong = "there is no option '" + word + "'; " + usage;
     } else if (options.stub.empty()) {
         options.stub = word;
     } else {
@@ -73,7 +76,7 @@ DriverOptions readOptions(int count, const char* const* arguments) {
     for (int index = 1; index < count; ++index) readWord(arguments[index], options);
     if (options.task != DriverOptions::Task::WrongUsage) return options;
     if (options.wrong.empty() && options.stub.empty()) {
-        options.wrong = "usage: tarqampl STUB [-AMPL] [NAME=VALUE...], tarqampl -v, tarqampl -=";
+        options.wrong = usage;
     }
     if (options.wrong.empty()) options.task = DriverOptions::Task::Solve;
     return options;

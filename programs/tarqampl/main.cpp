@@ -10,10 +10,12 @@
 #include "component/amplsolutionfile.h"
 #include "console.h"
 #include "driveroptions.h"
+#include "languageinput.h"
 #include "lasterror.h"
 #include "parameterscommand.h"
 #include "report.h"
 #include "run.h"
+#include "standardstreams.h"
 #include "terminal.h"
 
 namespace {
@@ -34,14 +36,21 @@ std::optional<std::string> complaint(const std::string& about, Status status) {
     return about + ": " + lastErrorText(status);
 }
 
+std::optional<std::string> complaintOfStub(const std::string& stub, Status status) {
+    auto wrong = complaint(stub, status);
+    if (!wrong) return wrong;
+    if (const std::string reason = reasonOfStub(stub, status); !reason.empty()) *wrong += " " + reason;
+    return wrong;
+}
+
 /// Everything that precedes the solve, each step with a say over those before.
 std::optional<std::string> prepare(ITARQModel& model, const DriverOptions& options) {
     std::optional<std::string> wrong;
     if (!options.engine.empty()) wrong = complaint(options.engine, model.put_LocationOfTARQDLL(options.engine));
     if (!wrong && !options.profile.empty()) wrong = complaint(options.profile, model.ReadProfile(options.profile));
-    if (!wrong) wrong = complaint(options.stub, model.ReadAMPLStub(options.stub));
+    if (!wrong) wrong = complaintOfStub(options.stub, model.ReadAMPLStub(options.stub));
     for (const auto& [name, value] : options.assignments) {
-        if (!wrong) wrong = complaint(name + "=" + value, model.put_Parameter(name, Variant(value)));
+        if (!wrong) wrong = complaint(fmt::format("{}={}", name, value), model.put_Parameter(name, Variant(value)));
     }
     return wrong;
 }
@@ -95,9 +104,13 @@ int run(int count, char** arguments) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    fillStandardStreams();
     try {
         return run(count, arguments);
     } catch (const std::exception& failure) {
-        return fail(failure.what());
+        (void)std::fputs("tarqampl: ", stderr);
+        (void)std::fputs(failure.what(), stderr);
+        (void)std::fputs("\n", stderr);
     }
+    return 1;
 }

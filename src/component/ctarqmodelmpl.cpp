@@ -12,10 +12,12 @@ Ref<IDispatch> createMplServer() { return createServer(mplServerProgId).query<ID
 
 Status CTARQModel::ReadMPLModel(const std::string& FileName) {
     return guarded(classid::TARQModel, [&] {
-        // What the server does may drop the last reference but this one, or set another directory.
+        // What the server does may drop the last reference but this one, set another directory, or change the caller's
+        // text.
         const Ref<IUnknown> held(static_cast<ITARQModel*>(this));
         const std::string directory = mplWorkingDirectory_;
-        return readMplModel(FileName, directory, createMplServer, mplError_, *this);
+        const std::string fileName = FileName;
+        return readMplModel(fileName, directory, createMplServer, mplError_, *this);
     });
 }
 

@@ -26,7 +26,7 @@ Outcome LateBound::convert(Variant answer, Variant& value) {
     return {};
 }
 
-Outcome LateBound::convert(Variant answer, LateBound& value) {
+Outcome LateBound::convert(const Variant& answer, LateBound& value) {
     const Variant plain = answer.copyDereferenced();
     if (plain.isObject()) value = LateBound(Ref<IUnknown>(plain.object()).query<IDispatch>());
     return plain.isObject() && value ? Outcome() : failure(status::wrongClass);

@@ -48,7 +48,7 @@ private:
     }
     Outcome invokeMember(std::int32_t member, std::uint16_t kinds, Arguments arguments, Variant* answer) const;
     static Outcome convert(Variant answer, Variant& value);
-    static Outcome convert(Variant answer, LateBound& value);
+    static Outcome convert(const Variant& answer, LateBound& value);
     static Outcome convert(Variant answer, std::int32_t& value);
     static Outcome convert(Variant answer, double& value);
     static Outcome convert(Variant answer, std::string& value);

@@ -143,10 +143,12 @@ Outcome writeAmplActivities(const std::string& stubName, const ModelStore& store
                             TARQSolutionStatusTyp solution) {
     const bool hasLpValues = solver < IPFinished;
     std::vector<double> values;
+    values.reserve(static_cast<std::size_t>(store.columnCount()));
     for (std::int32_t j = 0; j < store.columnCount(); ++j) {
         values.push_back(hasLpValues ? store.column(j).lpValue : store.column(j).ipValue);
     }
     std::vector<double> activities;
+    activities.reserve(static_cast<std::size_t>(store.rowCount()));
     for (std::int32_t i = 0; i < store.rowCount(); ++i) {
         activities.push_back(hasLpValues ? store.row(i).lpValue : store.row(i).ipValue);
     }

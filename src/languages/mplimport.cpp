@@ -226,8 +226,8 @@ void readThroughServer(const LateBound& server, const std::string& fileName, con
 
 }  // namespace
 
-Outcome readMplModel(std::string fileName, const std::string& workingDirectory, const CreateMplServer& createServer,
-                     MplError& error, LanguageTarget& target) {
+Outcome readMplModel(const std::string& fileName, const std::string& workingDirectory,
+                     const CreateMplServer& createServer, MplError& error, LanguageTarget& target) {
     if (!createServer()) return {status::languageInterface, "MPL is not available."};
     const LateBound server(createServer());
     if (!server) return {status::languageInterface, "Error initializing MPL Optimax."};

@@ -31,7 +31,7 @@ struct MplError {
 /// description for what is told in words: no server, a file that it refuses, a nonlinear model, a record that can't be
 /// added. A call that the server fails ends the reading with its status and description. A failure leaves the old model
 /// up to the point at which the server had read a linear one, and a part of the new model after it.
-[[nodiscard]] Outcome readMplModel(std::string fileName, const std::string& workingDirectory,
+[[nodiscard]] Outcome readMplModel(const std::string& fileName, const std::string& workingDirectory,
                                    const CreateMplServer& createServer, MplError& error, LanguageTarget& target);
 
 }  // namespace tarq

@@ -55,7 +55,8 @@ TEST_F(DriverTest, LaterOptionsWinAndWhatFailsBeforeTheSolveIsOneLine) {
     EXPECT_EQ(solve(integer, "-AMPL xmiter=some"),
               "tarqampl: xmiter=some: Variant argument is of wrong type.\nexit 1\n");
     EXPECT_EQ(solve(integer, "-AMPL", "LocationOfTARQDLL=none.dll"), "tarqampl: Could not find TARQ.DLL.\nexit 1\n");
-    EXPECT_EQ(solve("g", "-AMPL"), "tarqampl: " + path("s") + ": AMPL I/O Error.\nexit 1\n");
+    EXPECT_EQ(solve("g", "-AMPL"),
+              "tarqampl: " + path("s") + ": AMPL I/O Error. This is no stub, or its header is damaged.\nexit 1\n");
     EXPECT_FALSE(std::filesystem::exists(path("s.sol")));
 }
 

@@ -88,6 +88,9 @@ TEST(ProgramSearchTest, PlacesAreTakenInOrderAndOnlyFilesCount) {
     const std::string path = std::getenv("PATH");
     setenv("PATH", (":" + two + "::" + one).c_str(), 1);
     EXPECT_EQ(findProgram("tool.EXE"), two + "/tool") << "the first folder wins";
+    for (const std::string& name : {std::string("TOOL.Exe"), two + "/TooL.exe"}) {
+        EXPECT_EQ(findProgram(name), two + "/tool") << "where there is no TOOL";
+    }
     EXPECT_EQ(findProgram(one + "/tool.exe"), one + "/tool.exe");
     EXPECT_EQ(findProgram("platform_tests.exe"), PROBE_DIRECTORY "/platform_tests");
     EXPECT_EQ(findOwnProgram("tool"), "tool");

@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/anycase.h"
 #include "platform/extension.h"
 #include "platform/owndirectory.h"
 #include "platform/posix/libraryfile.h"
@@ -23,22 +24,18 @@ fs::path nativeName(const fs::path& path) {
     return path.parent_path() / ("lib" + file.substr(0, file.size() - 4) + ".so");
 }
 
-/// The file of this name, or else the one of this name in other case, the first of several; empty where there is none.
-fs::path findInAnyCase(const fs::path& path) {
+bool isThere(const fs::path& path) {
     std::error_code error;
-    if (path.empty() || fs::exists(path, error)) return path;
-    const std::string name = path.filename().string();
-    fs::path found;
-    const fs::directory_iterator end;
-    for (fs::directory_iterator entry(path.parent_path(), error); !error && entry != end; entry.increment(error)) {
-        const fs::path& present = entry->path();
-        if (!isSameInAnyCase(present.filename().string(), name)) continue;
-        if (found.empty() || present < found) found = present;
-    }
-    return found;
+    return fs::exists(path, error);
 }
 
-/// The same for the loader's own search, which can be asked for whole names only.
+/// The native file that a conventional name stands for; empty where there is none.
+fs::path nativeFile(const fs::path& path) {
+    const fs::path native = nativeName(path);
+    return native.empty() ? native : findInAnyCase(native, &isThere);
+}
+
+/// For the loader's own search, which can be asked for whole names only.
 fs::path inLowerCase(const fs::path& path) {
     std::string name = path.string();
     std::ranges::transform(name, name.begin(), &lowerCase);
@@ -54,11 +51,10 @@ void* openExisting(const fs::path& path) {
 }
 
 /// Opens a path with a directory; a file that is there but no library ends the attempt.
-void* openFile(const fs::path& path, bool& isThere) {
-    std::error_code error;
-    const fs::path file = fs::exists(path, error) ? path : findInAnyCase(nativeName(path));
-    isThere = !file.empty();
-    return isThere ? openExisting(file) : nullptr;
+void* openFile(const fs::path& path, bool& isFound) {
+    const fs::path file = isThere(path) ? path : nativeFile(path);
+    isFound = !file.empty();
+    return isFound ? openExisting(file) : nullptr;
 }
 
 /// Opens a plain name by the loader's search.
@@ -70,13 +66,13 @@ DynamicLibrary DynamicLibrary::load(const std::string& name) {
     DynamicLibrary library;
     if (name.empty() || name.find('\0') != std::string::npos) return library;
     const fs::path path = name;
-    bool isThere = false;
+    bool isFound = false;
     if (path.has_parent_path()) {
-        library.handle_ = openFile(path, isThere);
+        library.handle_ = openFile(path, isFound);
         return library;
     }
-    if (!ownDirectory().empty()) library.handle_ = openFile(ownDirectory() / path, isThere);
-    if (isThere) return library;
+    if (!ownDirectory().empty()) library.handle_ = openFile(ownDirectory() / path, isFound);
+    if (isFound) return library;
     for (const fs::path& searched : {path, nativeName(path), inLowerCase(nativeName(path))}) {
         if (library.handle_ == nullptr && !searched.empty()) library.handle_ = openSearched(searched);
     }
