@@ -19,8 +19,8 @@ namespace fs = std::filesystem;
 
 // Several times what the library was ever seen to need for a byte: 95 bytes and a microsecond, where a stub has nothing
 // but columns.
-constexpr std::uintmax_t memoryBase = std::uintmax_t{256} << 20U;
-constexpr std::uintmax_t memoryPerByte = 256;
+[[maybe_unused]] constexpr std::uintmax_t memoryBase = std::uintmax_t{256} << 20U;
+[[maybe_unused]] constexpr std::uintmax_t memoryPerByte = 256;
 constexpr std::uintmax_t secondsBase = 20;
 constexpr std::uintmax_t bytesPerSecond = 100'000;
 
