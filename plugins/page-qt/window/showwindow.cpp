@@ -1,0 +1,16 @@
+#include "showwindow.h"
+
+#include <QtGlobal>
+
+#include "pagewindow.h"
+
+using namespace tarq::page;
+
+extern "C" Q_DECL_EXPORT std::int32_t tarqShowPageWindow(const TARQPage* origin) {
+    const auto page = readPage(*origin);
+    if (!page) return 0;
+    PageWindow window(*page, [origin](const std::vector<Edit>& edits) { return applyTo(*origin, edits); });
+    window.exec();
+    // A host that ends leaves the window open.
+    return window.isVisible() ? 0 : 1;
+}
