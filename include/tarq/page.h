@@ -16,7 +16,7 @@ enum TARQPageItemKind {
     TARQPageRadioGroup = 1,  ///< one entry per option
     TARQPageCheckBox = 2,    ///< text and value of option 0 when ticked, value of option 1 when not
     TARQPageComboBox = 3,    ///< one entry per option
-    TARQPageEdit = 4,        ///< a field for a text or a number
+    TARQPageEditField = 4,   ///< a field for a text or a number
     TARQPageFileEdit = 5     ///< a field for a file name, with a browse button
 };
 
