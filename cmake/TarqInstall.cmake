@@ -11,7 +11,7 @@ set(public_headers
 file(GLOB interface_headers RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/interfaces/*.h")
 list(APPEND public_headers ${interface_headers})
 set(staged "${PROJECT_BINARY_DIR}/public-headers")
-foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h)
+foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h page.h)
   if(header MATCHES "/")
     set(origin "${PROJECT_SOURCE_DIR}/src/${header}")
   else()
