@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
+#include <QStylePainter>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
@@ -33,8 +34,12 @@ public:
     ButtonText(const QString& text, QAbstractButton* button, QWidget* parent) : QLabel(text, parent), button_(button) {
         setTextFormat(Qt::PlainText);
         setWordWrap(true);
-        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     }
+    /// One line if there is room. A label that breaks its lines asks for several in any case.
+    [[nodiscard]] QSize sizeHint() const override {
+        return {fontMetrics().horizontalAdvance(text()), fontMetrics().lineSpacing()};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, fontMetrics().lineSpacing()}; }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override { event->accept(); }
@@ -48,18 +53,29 @@ private:
     QAbstractButton* button_;
 };
 
-/// A wheel that turns the page must not change what it passes over.
+/// Shows as much of an entry as there is room for. A wheel that turns the page must not change what it passes over.
 class ComboBox final : public QComboBox {
 public:
     using QComboBox::QComboBox;
 
 protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr int margins = 8;  // that a style may leave around the text
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        const QString text = currentIndex() < 0 ? placeholderText() : option.currentText;
+        option.currentText = fontMetrics().elidedText(text, Qt::ElideRight, room.width() - margins);
+        QStylePainter painter(this);
+        painter.drawComplexControl(QStyle::CC_ComboBox, option);
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
 void addButton(QVBoxLayout* place, QAbstractButton* button, const QString& text, QWidget* parent) {
     auto* const line = makeOwned<QHBoxLayout>();
-    line->setSpacing(0);
+    line->setSpacing(6);
     line->addWidget(button, 0, Qt::AlignTop);
     line->addWidget(makeOwned<ButtonText>(text, button, parent), 1);
     place->addLayout(line);
@@ -128,6 +144,7 @@ void COptionTreeItemCheckBox::display(const std::string& value) {
 
 COptionTreeItemComboBox::COptionTreeItemComboBox(const Item& item, QWidget* parent)
     : COptionTreeItem(item, parent), box_(makeOwned<ComboBox>(this)) {
+    box_->setFocusPolicy(Qt::StrongFocus);  // the wheel doesn't bring the keyboard along either
     constexpr int fewestLetters = 16;
     constexpr int widestList = 720;
     box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -137,8 +154,8 @@ COptionTreeItemComboBox::COptionTreeItemComboBox(const Item& item, QWidget* pare
         box_->addItem(withDefaultMark(option, item));
         box_->setItemData(box_->count() - 1, fromText(option.text), Qt::ToolTipRole);
     }
-    box_->view()->setMinimumWidth(
-        std::min(box_->view()->sizeHintForColumn(0) + 2 * box_->frameSize().height() / 2, widestList));
+    constexpr int margins = 24;
+    box_->view()->setMinimumWidth(std::min(box_->view()->sizeHintForColumn(0) + margins, widestList));
     body()->addWidget(box_);
     display(item.value);
     connect(box_, &QComboBox::activated, this,
@@ -167,13 +184,14 @@ COptionTreeItemEdit::COptionTreeItemEdit(const Item& item, QWidget* parent)
     if (isNumber) field_->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * numberLetters);
     const int signSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
     hintSign_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(signSize));
+    line_->setSpacing(8);
     line_->addWidget(field_, isNumber ? 0 : 2);
     line_->addWidget(hintSign_);
     line_->addWidget(hint_, 1);
     body()->addLayout(line_);
     display(item.value);
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& typed) {
-        take(toText(typed));
+        take(toText(this->item().type == TARQPageText ? typed : typed.trimmed()));
         giveHint();
     });
 }
@@ -188,7 +206,7 @@ void COptionTreeItemEdit::display(const std::string& value) {
 }
 
 void COptionTreeItemEdit::giveHint() {
-    const std::string doubt = doubtAbout(item(), toText(field_->text()));
+    const std::string doubt = doubtAbout(item(), value());
     hintSign_->setVisible(!doubt.empty());
     std::string hint = doubt;
     if (doubt.empty()) {

@@ -36,7 +36,7 @@ COptionTree::COptionTree(const Page& page, QWidget* parent)
       tree_(makeOwned<QTreeWidget>()),
       view_(makeOwned<QScrollArea>()),
       nothing_(makeQuietLabel(QStringLiteral("No parameter fits to this search."), this)) {
-    constexpr int treeWidth = 190;
+    constexpr int treeWidth = 215;
     constexpr int viewWidth = 620;
     tree_->setObjectName(QStringLiteral("sections"));
     tree_->setAccessibleName(QStringLiteral("Sections"));

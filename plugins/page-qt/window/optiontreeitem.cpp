@@ -55,6 +55,13 @@ QLabel* makeQuietLabel(const QString& text, QWidget* parent) {
 }
 
 COptionTreeItem* COptionTreeItem::make(const Item& item, QWidget* parent) {
+    COptionTreeItem* const made = makeOfKind(item, parent);
+    // By the keyboard one comes to the editor first.
+    setTabOrder(made->focusTarget(), made->restore_);
+    return made;
+}
+
+COptionTreeItem* COptionTreeItem::makeOfKind(const Item& item, QWidget* parent) {
     switch (item.kind) {
         case TARQPageRadioGroup:
             return makeOwned<COptionTreeItemRadio>(item, parent);
@@ -97,7 +104,6 @@ void COptionTreeItem::makeHead() {
     head->addWidget(about, 1);
     restore_ = makeOwned<QToolButton>(this);
     restore_->setText(QStringLiteral("Restore default"));
-    restore_->setAutoRaise(true);
     restore_->setFocusPolicy(Qt::StrongFocus);
     restore_->setObjectName(fromText(item_.name + ".restore"));
     restore_->setAccessibleName(QStringLiteral("Restore the default of ") + fromText(item_.name));
@@ -118,8 +124,8 @@ bool COptionTreeItem::isDefault() const { return isSameValue(item_, value_, item
 
 void COptionTreeItem::restoreDefault() {
     if (isDefault()) return;
-    display(item_.defaultValue);
     take(item_.defaultValue);
+    display(item_.defaultValue);
 }
 
 bool COptionTreeItem::holds(const QStringList& words) const {

@@ -64,6 +64,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    static COptionTreeItem* makeOfKind(const Item& item, QWidget* parent);
     void makeHead();
     /// Shows whether the value differs from the default.
     void mark();

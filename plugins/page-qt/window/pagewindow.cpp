@@ -40,7 +40,12 @@ PageWindow::PageWindow(const Page& page, Apply apply)
     splitter->addWidget(tree_);
     splitter->addWidget(help_);
     splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
+    constexpr int linesOfHelp = 5;
+    constexpr int whole = 1000;
+    const int helpHeight = linesOfHelp * fontMetrics().lineSpacing();
+    splitter->setSizes({whole - helpHeight, helpHeight});
     auto* const column = makeOwned<QVBoxLayout>(this);
     column->addLayout(makeSearch());
     column->addWidget(splitter, 1);
@@ -77,7 +82,6 @@ QHBoxLayout* PageWindow::makeSearch() {
 }
 
 void PageWindow::makeHelp() {
-    constexpr int lines = 5;
     help_->setObjectName(QStringLiteral("help"));
     help_->setAccessibleName(QStringLiteral("Help for the parameter at hand"));
     help_->setReadOnly(true);
@@ -86,13 +90,12 @@ void PageWindow::makeHelp() {
     help_->setPlaceholderText(QStringLiteral(
         "What a parameter means, its limits and its default are told here for the one you are at. Names of "
         "parameters that differ from their default are bold."));
-    help_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    help_->setFixedHeight(lines * fontMetrics().lineSpacing());
 }
 
 void PageWindow::makeButtons() {
     buttons_->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply);
     applyButton_ = buttons_->button(QDialogButtonBox::Apply);
+    applyButton_->setText(QStringLiteral("&Apply"));
     restoreButton_ = buttons_->addButton(QStringLiteral("Restore &defaults"), QDialogButtonBox::ResetRole);
     restoreButton_->setToolTip(
         QStringLiteral("All parameters back to their defaults; nothing is stored before you apply"));

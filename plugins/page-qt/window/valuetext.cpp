@@ -11,10 +11,6 @@ namespace tarq::page {
 namespace {
 
 std::optional<double> numberIn(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return std::nullopt;
-    text = text.substr(first, text.find_last_not_of(" \t") - first + 1);
-    if (text.starts_with('+')) text.remove_prefix(1);
     double number = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) return std::nullopt;
