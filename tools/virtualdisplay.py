@@ -54,15 +54,18 @@ class VirtualDisplay:
             time.sleep(0.05)
         raise TimeoutError(f"no window {title!r}")
 
-    def save_picture(self, path):
-        """Writes what the display shows as a PNG file."""
+    def save_picture(self, path, window):
+        """Writes what the display shows of a window as a PNG file."""
+        shape = dict(line.split("=") for line in self.do("getwindowgeometry", "--shell", window).split())
+        left, top, width, height = (int(shape[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
         dump = (Path(self._folder.name) / "Xvfb_screen0").read_bytes()
         head = struct.unpack(">25I", dump[:100])
-        head_length, width, height, row_length, colours = head[0], head[4], head[5], head[12], head[19]
+        head_length, row_length, colours = head[0], head[12], head[19]
         pixels = dump[head_length + 12 * colours:]
         rows = bytearray()
-        for y in range(height):
-            row = pixels[y * row_length:y * row_length + 4 * width]  # blue, green, red, nothing
+        for y in range(top, top + height):
+            start = y * row_length + 4 * left
+            row = pixels[start:start + 4 * width]  # blue, green, red, nothing
             plain = bytearray(3 * width)
             plain[0::3], plain[1::3], plain[2::3] = row[2::4], row[1::4], row[0::4]
             rows += b"\0" + plain

@@ -89,8 +89,9 @@ protected:
             std::int32_t type = 0, length = 0, options = 0, category = 0, control = 0;
             std::string name, description;
             Variant minimum, maximum, byDefault, value;
-            EXPECT_TRUE(model_->GetParameterInfo(id, &type, &name, &minimum, &maximum, &byDefault, &value, &length,
-                                                 &options, &description, &category, &control)
+            EXPECT_TRUE(model_
+                            ->GetParameterInfo(id, &type, &name, &minimum, &maximum, &byDefault, &value, &length,
+                                               &options, &description, &category, &control)
                             .isOk());
             if (value.toText() && byDefault.toText() && value.text() != byDefault.text()) changed[name] = value.text();
         }

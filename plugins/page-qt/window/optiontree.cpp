@@ -76,7 +76,13 @@ void COptionTree::addSection(const Section& section, QWidget* content) {
     content->layout()->addWidget(shown.heading);
     shown.branch = makeOwned<QTreeWidgetItem>(tree_, QStringList(title));
     shown.branch->setToolTip(0, title);
+    shown.branch->setSizeHint(0, QSize(0, branchHeight()));
     for (const Item& item : section.items) addItem(item, shown, content);
+}
+
+int COptionTree::branchHeight() const {
+    constexpr int air = 6;
+    return fontMetrics().lineSpacing() + air;
 }
 
 void COptionTree::addItem(const Item& item, ShownSection& section, QWidget* content) {
@@ -86,6 +92,7 @@ void COptionTree::addItem(const Item& item, ShownSection& section, QWidget* cont
     items_.push_back(shown);
     branches_.push_back(makeOwned<QTreeWidgetItem>(section.branch, QStringList(QString::fromStdString(item.name))));
     branches_.back()->setToolTip(0, shown->toolTip());
+    branches_.back()->setSizeHint(0, QSize(0, branchHeight()));
     markBranch(*shown);
     shown->onChange = [this, shown] {
         markBranch(*shown);
@@ -127,9 +134,17 @@ void COptionTree::setCurrent(COptionTreeItem* item) {
 void COptionTree::markBranch(const COptionTreeItem& item) {
     const auto at = std::ranges::find(items_, &item);
     QTreeWidgetItem* const branch = branches_[static_cast<std::size_t>(at - items_.begin())];
-    QFont font = branch->font(0);
-    font.setBold(!item.isDefault());
-    branch->setFont(0, font);
+    const auto setBold = [](QTreeWidgetItem* marked, bool isBold) {
+        QFont font = marked->font(0);
+        font.setBold(isBold);
+        marked->setFont(0, font);
+    };
+    setBold(branch, !item.isDefault());
+    bool isOneChanged = false;
+    for (int child = 0; child < branch->parent()->childCount(); ++child) {
+        isOneChanged = isOneChanged || branch->parent()->child(child)->font(0).bold();
+    }
+    setBold(branch->parent(), isOneChanged);
 }
 
 void COptionTree::followScrolling() {

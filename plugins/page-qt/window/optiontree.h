@@ -42,6 +42,7 @@ private:
 
     void addSection(const Section& section, QWidget* content);
     void addItem(const Item& item, ShownSection& section, QWidget* content);
+    [[nodiscard]] int branchHeight() const;
     void connectTree();
     void setCurrent(COptionTreeItem* item);
     void markBranch(const COptionTreeItem& item);
