@@ -11,6 +11,12 @@
 extern "C" {
 #endif
 
+#if defined(_WIN32)
+#define TARQ_PAGE_API __declspec(dllexport)
+#else
+#define TARQ_PAGE_API __attribute__((visibility("default")))
+#endif
+
 /// How an item is shown and changed.
 enum TARQPageItemKind {
     TARQPageRadioGroup = 1,  ///< one entry per option
@@ -77,7 +83,7 @@ struct TARQPage {
 
 /// Shows the page and returns when the person has closed it: 1 then (by whatever button), 0 if it couldn't be shown or
 /// broke off.
-int32_t ShowTARQPage(const struct TARQPage* page);
+TARQ_PAGE_API int32_t ShowTARQPage(const struct TARQPage* page);
 
 #ifdef __cplusplus
 }
