@@ -7,14 +7,14 @@
 
 #include <stdint.h>
 
-#ifdef __cplusplus
-extern "C" {
-#endif
-
 #if defined(_WIN32)
 #define TARQ_PAGE_API __declspec(dllexport)
 #else
 #define TARQ_PAGE_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
 #endif
 
 /// How an item is shown and changed.
@@ -75,14 +75,16 @@ struct TARQPage {
     int32_t sectionCount;
     const struct TARQPageSection* sections;
     void* context;  ///< handed back to `apply`
-    /// Stores the edits in the model. Comes on the thread that asked for the page, before the operation returns. The
-    /// messages belong to the component and live until the next call or the operation's end.
+    /// Stores the edits in the model; OK calls it also when nothing was changed. Comes on the thread that asked for the
+    /// page, before the operation returns. The messages belong to the component and live until the next call or the
+    /// operation's end.
     void (*apply)(void* context, int32_t editCount, const struct TARQPageEdit* edits, int32_t* messageCount,
                   const struct TARQPageMessage** messages);
 };
 
 /// Shows the page and returns when the person has closed it: 1 then (by whatever button), 0 if it couldn't be shown or
-/// broke off.
+/// broke off, or if another page is open. To be called on the thread of the host's application of Qt, if it has one
+/// with widgets, else on the first thread of the process; 0 on any other. The host's event loop goes on meanwhile.
 TARQ_PAGE_API int32_t ShowTARQPage(const struct TARQPage* page);
 
 #ifdef __cplusplus
