@@ -25,8 +25,9 @@ std::string explained(Status status) {
             "on Debian the package libqt6widgets6.";
     } else if (status == status::propertyPage) {
         text +=
-            "it reached no display.\nSet DISPLAY or WAYLAND_DISPLAY to one that you may use; from another machine "
-            "'ssh -X' does.";
+            "no window could be opened.\nThat takes a display: set DISPLAY or WAYLAND_DISPLAY to one that you may use, "
+            "as "
+            "'ssh -X' does from another machine.";
     } else {
         text += lastErrorText(status) + ".";
     }

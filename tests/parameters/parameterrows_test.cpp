@@ -50,14 +50,6 @@ TEST(ParameterRows, OrderIsAlphabeticalExceptForOnePair) {
     EXPECT_EQ(parameterIndex("xxndxm"), 120);
 }
 
-TEST(ParameterRows, OnlyOneRowIsKeptOffThePage) {
-    std::vector<std::string_view> hidden;
-    for (const ParameterRow& row : parameterRows()) {
-        if (!row.onPage) hidden.push_back(row.name);
-    }
-    EXPECT_THAT(hidden, testing::ElementsAre("xfnbai"));
-}
-
 TEST(ParameterRows, EveryCheckBoxHasALabelAndAnUncheckedValueWithoutText) {
     for (const ParameterRow& row : parameterRows()) {
         if (row.control != ParameterControl::CheckBox) continue;
