@@ -22,7 +22,6 @@
 namespace tarq {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using Values = std::map<std::string, std::string>;
 
@@ -201,6 +200,10 @@ TEST_F(WindowTest, SearchShowsWhatFitsAndTheKeyboardGoesThere) {
         page.key(Qt::Key_F, Qt::ControlModifier);
         page.key(Qt::Key_Escape);
         EXPECT_TRUE(page.find("xmiter").isVisible()) << "Escape clears the search first";
+        page.find("sections").setFocus();
+        page.key(Qt::Key_L);
+        page.key(Qt::Key_Return);
+        EXPECT_EQ(page.focus(), "xautom") << "the first of the LP parameters";
         page.type("search", "xglgap");
         page.key(Qt::Key_Return);
         EXPECT_THAT(page.help(), HasSubstr("Limits: 0 to 1.   Default: 0.0001."));

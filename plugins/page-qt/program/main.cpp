@@ -6,13 +6,17 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <array>
 #include <cerrno>
 #include <condition_variable>
 #include <cstdlib>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "../pagestream.h"
 #include "../window/pagewindow.h"
@@ -95,6 +99,8 @@ int main(int argumentCount, char** arguments) {
     (void)::setrlimit(RLIMIT_CORE, &none);
     Host host;
     const Page page = orLeave(pageFrom(host.expect(FrameKind::Description)));
+    // A host with a Qt of another version may have set this for itself.
+    (void)::unsetenv("QT_QPA_PLATFORM_PLUGIN_PATH");
     const QApplication application(argumentCount, arguments);
     PageWindow window(page, [&host](const std::vector<Edit>& edits) {
         host.tell(FrameKind::Edits, toBytes(edits));

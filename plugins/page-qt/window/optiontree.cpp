@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -111,9 +111,7 @@ void COptionTree::connectTree() {
         const auto section = std::ranges::find(sections_, branch, &ShownSection::branch);
         if (section != sections_.end()) view_->verticalScrollBar()->setValue(section->heading->y());
     });
-    connect(tree_, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* branch) {
-        if (branch->childCount() == 0 && current_ != nullptr) current_->focusTarget()->setFocus();
-    });
+    tree_->installEventFilter(this);
     connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { followScrolling(); });
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* focused) {
         for (QWidget* widget = focused; widget != nullptr; widget = widget->parentWidget()) {
@@ -121,6 +119,19 @@ void COptionTree::connectTree() {
             if (at != items_.end()) return setCurrent(*at);
         }
     });
+}
+
+/// Return goes from the tree to the editor of an item, or of a section's first one, and doesn't close the window.
+bool COptionTree::eventFilter(QObject* object, QEvent* event) {
+    if (object != tree_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(object, event);
+    const int key = static_cast<const QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    const QTreeWidgetItem* const at = tree_->currentItem();
+    const auto goal = std::ranges::find_if(branches_, [at](QTreeWidgetItem* branch) {
+        return branch == at || (branch->parent() == at && !branch->isHidden());
+    });
+    if (goal != branches_.end()) items_[static_cast<std::size_t>(goal - branches_.begin())]->focusTarget()->setFocus();
+    return true;
 }
 
 void COptionTree::setCurrent(COptionTreeItem* item) {

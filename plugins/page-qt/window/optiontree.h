@@ -33,6 +33,9 @@ public:
     /// Called when the person goes to an item.
     std::function<void(const COptionTreeItem&)> onCurrent;
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     struct ShownSection {
         QLabel* heading = nullptr;
