@@ -14,18 +14,22 @@ class VirtualDisplay:
 
     def __init__(self, width=900, height=700):
         self._folder = tempfile.TemporaryDirectory()
+        # What is preloaded is meant for the programs that are shown.
+        self._own_environment = {name: value for name, value in os.environ.items() if name != "LD_PRELOAD"}
         read, write = os.pipe()
         screen = f"{width}x{height}x24"
         self._server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", screen, "-fbdir", self._folder.name, "-nolisten", "tcp"],
-            pass_fds=[write], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            pass_fds=[write], env=self._own_environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:
             number = answer.readline().strip()  # comes when the display is there
         if not number:
             raise RuntimeError("Xvfb doesn't start")
-        self.environment = {key: value for key, value in os.environ.items() if key not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
-        self.environment["DISPLAY"] = f":{number}"
+        self.environment = dict(os.environ)
+        for name in "WAYLAND_DISPLAY", "QT_QPA_PLATFORM":
+            self.environment.pop(name, None)
+        self.environment["DISPLAY"] = self._own_environment["DISPLAY"] = f":{number}"
 
     def __enter__(self):
         return self
@@ -40,14 +44,14 @@ class VirtualDisplay:
 
     def do(self, *words):
         """Runs xdotool, which takes commands such as `key Tab` or `type 12`, and returns what it prints."""
-        return subprocess.run(["xdotool", *words], env=self.environment, check=True, capture_output=True, text=True).stdout
+        return subprocess.run(["xdotool", *words], env=self._own_environment, check=True, capture_output=True, text=True).stdout
 
     def wait_for(self, title, seconds=20):
         """Waits for a window of this title, and gives it the keyboard as a window manager would."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self.environment,
-                                   capture_output=True, text=True).stdout.split()
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], text=True,
+                                   env=self._own_environment, capture_output=True).stdout.split()
             if found:
                 self.do("windowfocus", "--sync", found[-1])
                 return found[-1]

@@ -18,6 +18,8 @@ using Clock = std::chrono::steady_clock;
 
 // A display that doesn't answer by then won't.
 constexpr auto patience = 5s;
+// A program may have to come from a slow disk first, with all of Qt.
+constexpr auto patienceAtStart = 20s;
 // How long the host's own events, or the wait for the program, go on between two looks at the other.
 constexpr auto lookInterval = 20ms;
 
@@ -35,10 +37,10 @@ public:
 
     [[nodiscard]] bool run(const Page& page) {
         if (child_.start() != ChildProcess::Start::Done) return false;
-        if (!child_.write(framed(FrameKind::Description, toBytes(page)), patience)) return false;
-        const auto shownBy = Clock::now() + patience;
-        while (!isClosed_) {
-            if (!isShown_ && Clock::now() >= shownBy) return false;
+        if (!child_.write(framed(FrameKind::Description, toBytes(page)), patienceAtStart)) return false;
+        nextStepBy_ = Clock::now() + patienceAtStart;
+        while (stage_ != FrameKind::Closed) {
+            if (stage_ != FrameKind::Shown && Clock::now() >= nextStepBy_) return false;
             if (!readOutput() || !takeFrames()) return false;
         }
         return true;
@@ -63,22 +65,27 @@ private:
 
     [[nodiscard]] bool takeFrames() {
         while (const auto frame = assembler_.next()) {
-            if (isClosed_ || !take(*frame)) return false;
+            if (!take(*frame)) return false;
         }
         return !assembler_.isBroken();
     }
 
+    /// Takes what may come at this stage, and nothing else.
     [[nodiscard]] bool take(const Frame& frame) {
-        if (frame.kind == FrameKind::Shown) {
-            isShown_ = true;
-            return true;
+        const FrameKind before = stage_;
+        if (frame.kind == FrameKind::Edits) return before == FrameKind::Shown && apply(frame.body);
+        stage_ = frame.kind;
+        nextStepBy_ = Clock::now() + patience;
+        switch (frame.kind) {
+            case FrameKind::Begun:
+                return before == FrameKind::Description;
+            case FrameKind::Shown:
+                return before == FrameKind::Begun;
+            case FrameKind::Closed:
+                return before == FrameKind::Shown;
+            default:
+                return false;
         }
-        if (!isShown_) return false;
-        if (frame.kind == FrameKind::Closed) {
-            isClosed_ = true;
-            return true;
-        }
-        return frame.kind == FrameKind::Edits && apply(frame.body);
     }
 
     [[nodiscard]] bool apply(const std::string& body) {
@@ -92,8 +99,8 @@ private:
     HostLoop* loop_;
     std::unordered_set<std::string> names_;
     FrameAssembler assembler_;
-    bool isShown_ = false;
-    bool isClosed_ = false;
+    FrameKind stage_ = FrameKind::Description;  ///< what was told last, of the steps to the end
+    Clock::time_point nextStepBy_;
     ChildProcess child_;
 };
 

@@ -21,6 +21,7 @@ inline constexpr const char* programName = "tarq-page";
 enum class FrameKind : std::uint32_t {
     Description = 0x54515001,
     Messages,
+    Begun,
     Shown,
     Edits,
     Closed,

@@ -173,10 +173,10 @@ def frame(kind, body=b""):
 
 
 def edit(name):
-    return frame(3, struct.pack("II", 1, len(name)) + name + struct.pack("I", 1) + b"5")
+    return frame(4, struct.pack("II", 1, len(name)) + name + struct.pack("I", 1) + b"5")
 
 
-shown, closed, no_edits = frame(2), frame(4), frame(3, struct.pack("I", 0))
+shown, closed, no_edits = frame(2) + frame(3), frame(5), frame(4, struct.pack("I", 0))
 
 
 @pytest.mark.parametrize("said, then, expected, applied", [
@@ -185,12 +185,13 @@ shown, closed, no_edits = frame(2), frame(4), frame(3, struct.pack("I", 0))
     (shown + no_edits, "sleep 1; kill -9 $$", 0, 1),
     (shown, "", 0, 0),
     (closed, "cat", 0, 0),
-    (no_edits + closed, "cat", 0, 0),
+    (frame(2) + no_edits + closed, "cat", 0, 0),
+    (shown + shown + closed, "cat", 0, 0),
     (b"Gtk-Message: hello\n", "cat", 0, 0),
     (shown + edit(b"nosuch") + closed, "cat", 0, 0),
     (shown + edit(b"no\0such") + closed, "cat", 0, 0),
-    (shown + frame(3, b"\xff" * 9) + closed, "cat", 0, 0),
-    (shown + frame(3)[:4] + b"\xff" * 4, "cat", 0, 0),
+    (shown + frame(4, b"\xff" * 9) + closed, "cat", 0, 0),
+    (shown + frame(4)[:4] + b"\xff" * 4, "cat", 0, 0),
     (shown + closed + closed, "cat", 0, 0),
 ])
 def test_program_that_lies_or_dies(said, then, expected, applied, tmp_path, monkeypatch):

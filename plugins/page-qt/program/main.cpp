@@ -99,6 +99,7 @@ int main(int argumentCount, char** arguments) {
     (void)::setrlimit(RLIMIT_CORE, &none);
     Host host;
     const Page page = orLeave(pageFrom(host.expect(FrameKind::Description)));
+    host.tell(FrameKind::Begun);
     // A host with a Qt of another version may have set this for itself.
     (void)::unsetenv("QT_QPA_PLATFORM_PLUGIN_PATH");
     const QApplication application(argumentCount, arguments);

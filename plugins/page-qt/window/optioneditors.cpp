@@ -189,7 +189,7 @@ COptionTreeItemEdit::COptionTreeItemEdit(const Item& item, QWidget* parent)
     line_->addWidget(hintSign_);
     line_->addWidget(hint_, 1);
     body()->addLayout(line_);
-    display(item.value);
+    COptionTreeItemEdit::display(item.value);
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& typed) {
         take(toText(this->item().type == TARQPageText ? typed : typed.trimmed()));
         giveHint();
