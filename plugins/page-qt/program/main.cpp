@@ -107,7 +107,11 @@ int main(int argumentCount, char** arguments) {
         host.tell(FrameKind::Edits, toBytes(edits));
         return orLeave(messagesFrom(host.expect(FrameKind::Messages)));
     });
-    QTimer::singleShot(0, &window, [&host] { host.tell(FrameKind::Shown); });
+    QTimer::singleShot(0, &window, [&] {
+        window.raise();  // the host's windows are those of another program
+        window.activateWindow();
+        host.tell(FrameKind::Shown);
+    });
     window.exec();
     if (window.isVisible()) leave(EXIT_FAILURE);
     host.tell(FrameKind::Closed);
