@@ -49,7 +49,9 @@ struct OpenPage {
 
 void applyEdits(OpenPage& open, std::span<const TARQPageEdit> edits) {
     open.told.clear();
-    for (const TARQPageEdit& edit : edits) open.page.edit(edit.name, edit.value);
+    for (const TARQPageEdit& edit : edits) {
+        if (edit.name != nullptr && edit.value != nullptr) open.page.edit(edit.name, edit.value);
+    }
     open.messages = open.page.apply();
     open.applied = true;
     for (const PageMessage& message : open.messages) open.told.push_back({message.text.c_str(), message.icon});

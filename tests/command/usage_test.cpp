@@ -46,7 +46,6 @@ TEST_F(CommandUsageTest, WrongUsageIsExplainedOnStandardErrorOnly) {
         {{"parameters", "xmxnd"}, "Did you mean xmxnod"},
         {{"parameters", "xmxnod", "xmxmin"}, "xmxmin"},
         {{"parameters", "--profile", model}, "--profile requires --page"},
-        {{"parameters", "--page", "--json"}, "excludes --page"},
     };
     for (const Case& one : cases) {
         const Output output = run(one.arguments);

@@ -1,18 +1,42 @@
-// What the page shows of every parameter, and what an apply writes and tells.
+// What the page shows of every parameter, what an apply writes and tells, and the frame of a played library around it.
 #include "parameterpage/parameterpage.h"
 
 #include <fmt/format.h>
 
+#include <thread>
+
+#include "interfaces/ipropertypage.h"
 #include "parameterpage/pagecontents.h"
+#include "parameterpage/pageframe.h"
+#include "platform/dynamiclibrary.h"
 #include "tests/component/modelfixture.h"
 
 namespace tarq {
 namespace {
 
+using Person = int32_t (*)(const TARQPage*);
+ITARQModel* shownModel = nullptr;
+
+/// Sets xmreal as a person would and returns how many messages that brings.
+std::int32_t applyNumber(const TARQPage& page, const char* number) {
+    const TARQPageEdit edit{"xmreal", number};
+    std::int32_t messageCount = 0;
+    const TARQPageMessage* messages = nullptr;
+    page.apply(page.context, 1, &edit, &messageCount, &messages);
+    return messageCount;
+}
+
 class ParameterPageTest : public ModelTest {
 protected:
     Variant parameter(const char* name) { return valueOf<Variant>(&ITARQModel::get_Parameter, std::string(name)); }
     void set(const char* name, const Variant& value) { ASSERT_THAT(model->put_Parameter(name, value), succeeds()); }
+    Status showTo(Person person) {
+        shownModel = model.get();
+        *static_cast<Person*>(DynamicLibrary::load(pageLibraryName).symbol("playedPerson")) = person;
+        return model->ShowPropertyPage(&dirty);
+    }
+
+    std::int32_t dirty = -1;
 };
 
 TEST_F(ParameterPageTest, EveryParameterStandsInItsPlaceAsItsKindOfItem) {
@@ -37,8 +61,10 @@ TEST_F(ParameterPageTest, EveryParameterStandsInItsPlaceAsItsKindOfItem) {
     std::string shown;
     for (const TARQPageSection& section : contents.sections()) {
         shown += fmt::format("{}:", section.title);
-        for (std::int32_t i = 0; i < section.itemCount; ++i)
-            shown += fmt::format(" {}{}", section.items[i].name, marks[section.items[i].kind]);
+        for (const TARQPageItem& item : std::span(section.items, static_cast<std::size_t>(section.itemCount))) {
+            shown += fmt::format(" {}{}", item.name, marks[item.kind]);
+            EXPECT_EQ(item.kind == TARQPageCheckBox, item.optionCount == 2 && *item.options[1].text == 0) << item.name;
+        }
         shown += '\n';
     }
     EXPECT_EQ(shown, expected);
@@ -67,14 +93,11 @@ TEST_F(ParameterPageTest, RefusedRowsAreToldInTableOrderAndTheOthersWritten) {
     rows.front().type = static_cast<ParameterType>(7);
     ParameterPage page(*model, rows);
     std::string expected = "1 Internal error in TARQ parameter mapping. Contact developper.\n";
-    for (const auto& [name, text] : {std::pair<std::string, std::string>("xadcol", " 7"),
-                                     {"xadrow", ""},
-                                     {"xfnlog", std::string(257, 'f')},
-                                     {"xglgap", "0,5"},
-                                     {"xlpgap", "nan"},
-                                     {"xmiter", "1e3"},
-                                     {"xmreal", "2001"},
-                                     {"xmxnod", "99999999999"}}) {
+    const std::string tooLong(257, 'f');
+    const char* const refused[][2] = {{"xadcol", " 7"},   {"xadrow", ""},           {"xfnlog", tooLong.c_str()},
+                                      {"xglgap", "0,5"},  {"xlpgap", "nan"},        {"xmiter", "1e3"},
+                                      {"xmreal", "2001"}, {"xmxnod", "99999999999"}};
+    for (const auto& [name, text] : refused) {
         page.edit(name, text);
         expected += fmt::format("2 Parameter {} could not be set.\n", name);
     }
@@ -106,6 +129,36 @@ TEST_F(ParameterPageTest, OnlyAnApplyBehindAnEditWritesAndThenEveryRow) {
     set("xmreal", Variant(7));
     EXPECT_TRUE(page.apply().empty());
     EXPECT_EQ(parameter("xmreal").integer(), 7);
+}
+
+TEST_F(ParameterPageTest, DirtyTellsWhetherAnApplyTookPlaceThisTime) {
+    ASSERT_THAT(showTo([](const TARQPage* page) { return applyNumber(*page, "2001"); }), succeeds());
+    EXPECT_EQ(dirty, 1);
+    ASSERT_THAT(showTo([](const TARQPage* page) { return page->sectionCount; }), succeeds());
+    EXPECT_EQ(dirty, 0);
+}
+
+TEST_F(ParameterPageTest, SecondPageIsRefusedAndLeavesTheFirstAlone) {
+    const auto again = [](const TARQPage* page) {
+        std::int32_t ignored = applyNumber(*page, "3");
+        int refused = shownModel->ShowPropertyPage(&ignored) == status::propertyPage ? 1 : 0;
+        std::thread([&] { refused += shownModel->ShowPropertyPage(&ignored) == status::propertyPage ? 1 : 0; }).join();
+        return refused == 2 && ignored == 0 ? 1 : 0;
+    };
+    ASSERT_THAT(showTo(again), succeeds());
+    EXPECT_EQ(dirty, 1);
+}
+
+TEST_F(ParameterPageTest, PageThatCannotBeShownIsAFailure) {
+    EXPECT_THAT(showTo([](const TARQPage*) { return 0; }),
+                raises(status::propertyPage, "Could not show property page."));
+    EXPECT_EQ(showTo([](const TARQPage*) -> int32_t { throw 1; }), status::propertyPage);
+    EXPECT_EQ(dirty, -1);
+    bool applied = false;
+    EXPECT_EQ(showParameterPage(*model, applied, "/nowhere/libtarqpage.so"), status::libraryNotFound);
+    EXPECT_EQ(showParameterPage(*model, applied, "libm.so.6"), status::entryPointsMissing);
+    const auto page = createObject<IPropertyPage>("tarq.tarqprop1");
+    EXPECT_EQ(page->Show(page.get(), &dirty), status::wrongClass);
 }
 
 }  // namespace
