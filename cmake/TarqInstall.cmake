@@ -11,7 +11,7 @@ set(public_headers
 file(GLOB interface_headers RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/interfaces/*.h")
 list(APPEND public_headers ${interface_headers})
 set(staged "${PROJECT_BINARY_DIR}/public-headers")
-foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h)
+foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h page.h)
   if(header MATCHES "/")
     set(origin "${PROJECT_SOURCE_DIR}/src/${header}")
   else()
@@ -24,18 +24,23 @@ foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h)
 endforeach()
 install(DIRECTORY "${staged}/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 
-# The engine and the MathProg library lie beside the component, where the component looks first.
+# The engine, the MathProg library and the page lie beside the component, where the component looks first.
 install(TARGETS tarqcom EXPORT tarq
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(TARGETS tarq_engine_highs LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS tarq_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# Programs for the component alone, which looks for them from its own folder.
+set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
 if(TARQ_BUILD_LANGUAGES)
   install(TARGETS tarq_mathprog_glpk LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS tarq_ampl_driver RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-  # Programs for the component alone, which looks for them from its own folder.
-  set(own_programs_folder "${CMAKE_INSTALL_LIBDIR}/../libexec/tarq")
   install(TARGETS tarq_stub tarq_mathprog_reader tarq_ampl_translator RUNTIME DESTINATION "${own_programs_folder}")
+endif()
+if(TARQ_BUILD_PAGE)
+  install(TARGETS tarq_page_qt LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  install(TARGETS tarq_page tarq_page_in_host tarq_page_host
+    RUNTIME DESTINATION "${own_programs_folder}" LIBRARY DESTINATION "${own_programs_folder}")
 endif()
 install(FILES LICENSE LICENSES/GPL-3.0.txt README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples/ DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")

@@ -19,6 +19,7 @@
 #include "interfaces/classids.h"
 #include "interfaces/enumerations.h"
 #include "interfaces/enumerationtables.h"
+#include "interfaces/ipropertypage.h"
 #include "interfaces/ireadingnotes.h"
 #include "interfaces/itarqarray.h"
 #include "interfaces/itarqarrayenum.h"

@@ -18,6 +18,7 @@ constexpr auto programFooter = R"(Examples:
   tarq show plan.mps --rows 1:20             a readable listing
   tarq parameters                            all solver parameters
   tarq parameters xmxmin                     one of them in full
+  tarq parameters --page --profile plan.pro  set them on a page, kept in a profile
   tarq describe ITARQModel                   the members of an object, for programs
 
 'tarq COMMAND --help' tells more about a command.)";
@@ -65,7 +66,14 @@ constexpr auto parametersFooter = R"(Examples:
   tarq parameters xmxnod       limits, default and meaning of one parameter
   tarq parameters cuts         the parameters whose meaning speaks of cuts
   tarq parameters --json       the list for a program to read
-  tarq parameters --write a    a profile with all parameters, to be edited)";
+  tarq parameters --write a    a profile with all parameters, to be edited
+  tarq parameters --page --profile a
+                               the same, chosen on a page with all meanings
+
+The page starts from the profile if that is there, else from the defaults. OK or
+Apply writes every parameter to the profile anew, without the comments that it
+had; without --profile they go to standard output. Cancel writes nothing. A page
+that can't be shown, as without a display, is exit code 5.)";
 
 constexpr auto convertFooter = R"(The format of a file is told by its extension (.mps, .tri, .ltx) or by --from and
 --to; - as a file is standard input or output. IN may be a text in a language, as
@@ -171,11 +179,19 @@ void describeParameters(CLI::App& app, ParametersOptions& options) {
         "NAME", options.name, "Explain only this parameter, in full; any other word is looked for in the list");
     name->option_text(" ");
     CLI::Option* const json = app.add_flag("--json", options.json, "Print JSON");
-    app.add_option("--write", options.profile,
-                   "Write a profile with every parameter at its default; - for standard output")
+    CLI::Option* const write =
+        app.add_option("--write", options.profile,
+                       "Write a profile with every parameter at its default; - for standard output")
+            ->option_text("FILE")
+            ->excludes(name)
+            ->excludes(json);
+    CLI::Option* const page = app.add_flag("--page", options.page, "Show all parameters in a window, to be changed")
+                                  ->excludes(name)
+                                  ->excludes(json)
+                                  ->excludes(write);
+    app.add_option("--profile", options.pageProfile, "Profile that the page shows and is written to")
         ->option_text("FILE")
-        ->excludes(name)
-        ->excludes(json);
+        ->needs(page);
     app.footer(parametersFooter);
 }
 

@@ -51,6 +51,9 @@ struct ShowOptions {
 struct ParametersOptions {
     std::string name;     ///< or a word to look for; empty: all
     std::string profile;  ///< a profile to write, "-" for standard output; empty: none
+    bool page = false;    ///< show the parameter page
+    std::string pageProfile =
+        "-";  ///< the profile that the page starts from and is written to, "-" for standard output
     bool json = false;
 };
 

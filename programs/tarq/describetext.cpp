@@ -61,10 +61,9 @@ std::string parametersText(const MemberInfo& form) {
 }  // namespace
 
 std::string overviewText() {
-    Table classes({{"Class", Align::Left}, {"ProgID", Align::Left}, {"Interface", Align::Left}, {"", Align::Left}});
+    Table classes({{"Class", Align::Left}, {"ProgID", Align::Left}, {"Interface", Align::Left}});
     for (const ClassEntry& entry : classTable()) {
-        classes.add({std::string(entry.name), entry.versionedProgId(), std::string(entry.defaultInterface),
-                     entry.create == nullptr ? "not in this version" : ""});
+        classes.add({std::string(entry.name), entry.versionedProgId(), std::string(entry.defaultInterface)});
     }
     Table tables({{"Interface", Align::Left}, {"Members", Align::Right}, {"Meaning", Align::Left}});
     for (const InterfaceTable* table : interfaces()) {
@@ -84,7 +83,6 @@ std::string textOf(const ClassEntry& entry) {
     text += fmt::format("  Class id   {}\n", guidText(entry.classId));
     if (!entry.defaultInterface.empty()) text += fmt::format("  Interface  {}\n", entry.defaultInterface);
     if (entry.events != nullptr) text += fmt::format("  Events     {}\n", entry.events().name());
-    if (entry.create == nullptr) text += "  This version doesn't offer the class yet.\n";
     return text;
 }
 

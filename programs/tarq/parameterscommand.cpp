@@ -7,8 +7,9 @@
 #include "console.h"
 #include "jsondocument.h"
 #include "modelobject.h"
-#include "modeloutput.h"
 #include "parameterlist.h"
+#include "parametersetting.h"
+#include "profilepage.h"
 #include "table.h"
 #include "terminal.h"
 
@@ -92,10 +93,9 @@ std::string fullText(const Parameter& parameter) {
 ExitCode explainParameters(const ParametersOptions& options) {
     const Ref<ITARQModel> model = makeModel();
     if (!model) return ExitCode::EngineFailed;
+    if (options.page) return editProfile(*model, options.pageProfile);
     if (!options.profile.empty()) {
-        const auto failure = writeOutput(
-            options.profile, [&](const std::string& path) { return model->WriteProfile(path); },
-            [](Status) { return std::string(); });
+        const auto failure = writeProfile(*model, options.profile);
         return failure ? show(*failure) : ExitCode::Success;
     }
     const std::vector<Parameter> all = readParameters(*model);

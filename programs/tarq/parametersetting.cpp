@@ -10,6 +10,7 @@
 #include "console.h"
 #include "lasterror.h"
 #include "modelinput.h"
+#include "modeloutput.h"
 #include "parameterlist.h"
 #include "suggestion.h"
 
@@ -89,6 +90,11 @@ std::optional<Failure> setParameters(ITARQModel& model, const std::vector<Parame
         if (failure) return failure;
     }
     return std::nullopt;
+}
+
+std::optional<Failure> writeProfile(ITARQModel& model, const std::string& file) {
+    return writeOutput(
+        file, [&](const std::string& path) { return model.WriteProfile(path); }, [](Status) { return std::string(); });
 }
 
 }  // namespace tarq::command

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "component/ctarqmodel.h"
+#include "component/ctarqprop1.h"
 #include "frame/text.h"
 #include "indexed/ctarqarray.h"
 #include "indexed/ctarqarrayenum.h"
@@ -46,7 +47,7 @@ constexpr std::array classes{
                &ITARQVarSetEnum::memberTable},
     ClassEntry{"TARQResSetEnum", classid::TARQResSetEnum, "ITARQResSetEnum", &createInstance<CTARQResSetEnum>,
                &ITARQResSetEnum::memberTable},
-    ClassEntry{"tarqprop1", classid::tarqprop1, ""},
+    ClassEntry{"tarqprop1", classid::tarqprop1, "", &createInstance<CTARQProp1>},
 };
 
 constexpr std::string_view progIdPrefix = "tarq.";

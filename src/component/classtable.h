@@ -13,9 +13,9 @@ namespace tarq {
 struct ClassEntry {
     std::string_view name;
     Guid classId;
-    std::string_view defaultInterface;
-    /// Makes an object, as createInstance; null for a class that this version lists but doesn't offer yet.
-    Status (*create)(IUnknown* outer, const Guid& interfaceId, void** out) = nullptr;
+    std::string_view defaultInterface;  ///< empty for a class that late-bound clients can't use
+    /// Makes an object, as createInstance.
+    Status (*create)(IUnknown* outer, const Guid& interfaceId, void** out);
     /// The members of the default interface and of the outgoing one; null where there is none.
     const InterfaceTable& (*members)() = nullptr;
     const InterfaceTable& (*events)() = nullptr;

@@ -9,11 +9,8 @@ namespace tarq {
 
 Ref<IUnknown> createObject(std::string_view name) {
     const ClassEntry* found = findClass(name);
-    if (found == nullptr || found->create == nullptr) {
-        const std::string_view reason =
-            found == nullptr ? "There is no class '" : "This version doesn't offer the class '";
-        (void)raise(found == nullptr ? Guid{} : found->classId, std::string(reason).append(name).append("'."),
-                    status::classNotAvailable);
+    if (found == nullptr) {
+        (void)raise({}, std::string("There is no class '").append(name).append("'."), status::classNotAvailable);
         return {};
     }
     void* object = nullptr;

@@ -26,7 +26,7 @@ public:
     Status CreateInstance(IUnknown* outer, const Guid& interfaceId, void** out) override {
         if (out == nullptr) return status::nullPointer;
         *out = nullptr;
-        return entry_.create == nullptr ? status::classNotAvailable : entry_.create(outer, interfaceId, out);
+        return entry_.create(outer, interfaceId, out);
     }
     Status LockServer(bool locked) override {
         locked ? module::lock() : module::unlock();

@@ -287,14 +287,14 @@ struct Signature<Status (Interface::*)(Parameters...)> {
 private:
     template <Status (Interface::*function)(Parameters...), std::size_t resultIndex, std::size_t... Index>
     static Status callWith(Interface& object, MemberCall& arguments, std::index_sequence<Index...> /*all*/) {
-        [[maybe_unused]] Slots slots;
-        const bool loaded = (loadOne(std::get<Index>(slots), arguments, Index) && ...);
+        [[maybe_unused]] Slots places;
+        const bool loaded = (loadOne(std::get<Index>(places), arguments, Index) && ...);
         if (!loaded) return status::argumentType;
-        const Status ended = (object.*function)(std::get<Index>(slots).pass()...);
-        if (ended.isOk()) (std::get<Index>(slots).giveBack(arguments, Index, Index == resultIndex), ...);
+        const Status ended = (object.*function)(std::get<Index>(places).pass()...);
+        if (ended.isOk()) (std::get<Index>(places).giveBack(arguments, Index, Index == resultIndex), ...);
         // An enumerator at its end tells how many elements there were all the same.
         if (ended == IEnumVARIANT::fewerLeft && resultIndex == arity) {
-            (std::get<Index>(slots).giveBack(arguments, Index, false), ...);
+            (std::get<Index>(places).giveBack(arguments, Index, false), ...);
         }
         return ended;
     }

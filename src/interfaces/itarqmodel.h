@@ -126,7 +126,8 @@ public:
     /// For the parameter page: whether parameters changed.
     virtual Status SetRequiresSaveProperties(std::int32_t bSave) = 0;
 
-    /// Shows the parameter page.
+    /// Shows all parameters in a window, to be read and changed, and returns when that is closed; *pbDirty is then 1 if
+    /// an apply took place, else 0. 0x80041027 when it can't be shown, as without a display or while another is open.
     virtual Status ShowPropertyPage(std::int32_t* pbDirty) = 0;
 
     /// Asks a run to stop at the next opportunity. Callable from any thread, and from a signal handler.

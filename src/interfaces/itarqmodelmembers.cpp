@@ -93,7 +93,10 @@ std::vector<MemberInfo> members() {
                 method<&ITARQModel::SetRequiresSaveProperties>(
                     "SetRequiresSaveProperties", "For the parameter page: whether parameters changed.", "bSave")),
         flagged(blocking,
-                method<&ITARQModel::ShowPropertyPage>("ShowPropertyPage", "Shows the parameter page.", "pbDirty")),
+                method<&ITARQModel::ShowPropertyPage>(
+                    "ShowPropertyPage",
+                    "Shows all parameters in a window, to be read and changed; gives 1 if an apply took place, else 0.",
+                    "pbDirty")),
         method<&ITARQModel::StopOptimizeAsync>("StopOptimizeAsync", "Request stop of background optimization."),
         flagged(blocking, method<&ITARQModel::WriteDebugModel>(
                               "WriteDebugModel", "Writes a readable listing of the model or of a cutout.", "FileName",

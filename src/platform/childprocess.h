@@ -6,6 +6,7 @@
 // or reaps ended children by itself does no harm. One thread at a time for each object.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -28,7 +29,15 @@ public:
         WithOutput,  ///< standard error goes where standard output goes
         Dropped,
     };
-    enum class Read { Bytes, End, Failed };
+    enum class Read {
+        Bytes,
+        End,
+        Failed,
+        NotYet,  ///< nothing came in the time given
+    };
+    /// How long an operation may wait for the child.
+    using Patience = std::chrono::milliseconds;
+    static constexpr Patience unlimited = Patience::max();
 
     ChildProcess(const std::string& program, const std::vector<std::string>& arguments, Input input, Errors errors);
     ChildProcess(const ChildProcess&) = delete;
@@ -42,9 +51,10 @@ public:
     /// Waits for output and sets `count` to the bytes read, at least 1, when there are any. The end is reached when
     /// nobody holds the stream any more, or when the program has ended and all is read that the pipe held then; what
     /// processes left behind write later is not waited for.
-    [[nodiscard]] Read read(char* buffer, std::size_t length, std::size_t& count);
-    /// Writes to the child's input. False when the child no longer takes it, which raises no signal.
-    [[nodiscard]] bool write(std::string_view bytes);
+    [[nodiscard]] Read read(char* buffer, std::size_t length, std::size_t& count, Patience patience = unlimited);
+    /// Writes to the child's input. False when the child no longer takes it, which raises no signal, or hasn't taken
+    /// all in the time given.
+    [[nodiscard]] bool write(std::string_view bytes, Patience patience = unlimited);
     /// Ends the child's input.
     void closeInput();
     /// Waits for the program's end, without a limit.

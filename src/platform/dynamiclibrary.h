@@ -17,6 +17,10 @@ public:
     /// that was cut short, with which the loader would end the process.
     static DynamicLibrary load(const std::string& name);
 
+    /// A library that the process has loaded already, whoever did it, by the name under which libraries ask for it;
+    /// empty when it isn't there. Counts as a load.
+    static DynamicLibrary alreadyLoaded(const char* name);
+
     /// Gives back one load. True when the platform agreed.
     [[nodiscard]] bool release();
 

@@ -28,6 +28,9 @@ public:
 /// The number by which the system knows the calling thread.
 [[nodiscard]] std::int32_t currentThreadNumber() noexcept;
 
+/// Whether the calling thread is the one with which the process began.
+[[nodiscard]] bool isFirstThread() noexcept;
+
 /// Parks the calling thread.
 [[noreturn]] void parkThisThread() noexcept;
 

@@ -78,5 +78,14 @@ TEST_F(CommandParametersTest, OneParameterIsExplainedInFullWithinTheLine) {
     for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 80U) << line;
 }
 
+TEST_F(CommandParametersTest, PageWithoutADisplayLeavesTheProfileAlone) {
+    Surroundings noDisplay;
+    noDisplay.environment = {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="};
+    const Output output = run({"parameters", "--page", "--profile", path("plan.pro")}, noDisplay);
+    EXPECT_EQ(output.exitCode, 5);
+    EXPECT_THAT(output.err, HasSubstr("'tarq parameters --write FILE' makes a profile"));
+    EXPECT_FALSE(std::filesystem::exists(path("plan.pro")));
+}
+
 }  // namespace
 }  // namespace tarq::command

@@ -45,6 +45,7 @@ TEST_F(CommandUsageTest, WrongUsageIsExplainedOnStandardErrorOnly) {
         {{"solve", model, "--engine", std::string(256, 'e')}, "255 characters"},
         {{"parameters", "xmxnd"}, "Did you mean xmxnod"},
         {{"parameters", "xmxnod", "xmxmin"}, "xmxmin"},
+        {{"parameters", "--profile", model}, "--profile requires --page"},
     };
     for (const Case& one : cases) {
         const Output output = run(one.arguments);

@@ -50,25 +50,6 @@ TEST(ParameterRows, OrderIsAlphabeticalExceptForOnePair) {
     EXPECT_EQ(parameterIndex("xxndxm"), 120);
 }
 
-TEST(ParameterRows, OnlyOneRowIsKeptOffThePage) {
-    std::vector<std::string_view> hidden;
-    for (const ParameterRow& row : parameterRows()) {
-        if (!row.onPage) hidden.push_back(row.name);
-    }
-    EXPECT_THAT(hidden, testing::ElementsAre("xfnbai"));
-}
-
-TEST(ParameterRows, EveryCheckBoxHasALabelAndAnUncheckedValueWithoutText) {
-    for (const ParameterRow& row : parameterRows()) {
-        if (row.control != ParameterControl::CheckBox) continue;
-        ASSERT_EQ(row.options.size(), 2U) << row.name;
-        EXPECT_NE(row.options[0].text, "") << row.name;
-        EXPECT_EQ(row.options[1].text, "") << row.name;
-    }
-    EXPECT_EQ(rowNamed("xrduce").options[0].value, 2);
-    EXPECT_EQ(rowNamed("xnoitb").options[0].value, 0);
-}
-
 TEST(ParameterRows, TextsAreKeptToTheLetter) {
     EXPECT_EQ(
         rowNamed("xlpgap").description,

@@ -114,14 +114,6 @@ TEST(ParameterTable, TextLengthCountsWideCharacters) {
     EXPECT_THAT(table.setString(row, "\xE2\x82\xF0\x9F\x98\xC3\xE2\x82\xC3"), isTooLong());
 }
 
-TEST(ParameterTable, StoreOfAnotherKindIsRefused) {
-    ParameterTable table;
-    EXPECT_THAT(table.setLong(parameterIndex("xabgap"), 0), isWrongType());
-    EXPECT_THAT(table.setDouble(parameterIndex("xscale"), 0.0), isWrongType());
-    EXPECT_THAT(table.setString(parameterIndex("xscale"), ""), isWrongType());
-    EXPECT_EQ(table.stringValue(parameterIndex("xscale")), "");
-}
-
 TEST(ParameterTable, RowThatIsNotThereIsNeverTouched) {
     ParameterTable table;
     for (const int row : {-1, parameterCount}) {

@@ -77,6 +77,18 @@ TEST(ChildProcessTest, InputThatNobodyTakesRaisesNoSignal) {
     EXPECT_FALSE(gone.write(std::string(1 << 20, 'x')));
 }
 
+TEST(ChildProcessTest, PatienceEndsWithAChildThatSaysAndTakesNothing) {
+    ChildProcess silent("/bin/sleep", {"60"}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
+    char letter = 0;
+    std::size_t count = 0;
+    EXPECT_EQ(silent.read(&letter, 1, count, 0ms), ChildProcess::Read::NotYet);
+    EXPECT_EQ(silent.read(&letter, 1, count, 70ms), ChildProcess::Read::NotYet);
+    EXPECT_FALSE(silent.write(std::string(1 << 22, 'x'), 70ms));
+    ChildProcess echo("/bin/cat", {}, ChildProcess::Input::Written, ChildProcess::Errors::Dropped);
+    EXPECT_TRUE(echo.write("x", 60s));
+    EXPECT_EQ(echo.read(&letter, 1, count, 60s), ChildProcess::Read::Bytes);
+}
+
 TEST(ProgramSearchTest, PlacesAreTakenInOrderAndOnlyFilesCount) {
     const fs::path folder = fs::path(testing::TempDir()) / "tarq-search";
     fs::remove_all(folder);

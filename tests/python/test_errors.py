@@ -16,12 +16,14 @@ CASES = [
     (lambda m: m.Optimise(), AttributeError, 0x80020006, "TARQModel has no member 'Optimise'. Did you mean 'Optimize'?"),
     (lambda m: setattr(m, "zzz", 1), AttributeError, 0x80020006, "TARQModel has no member 'zzz'."),
     (lambda m: m.ReadModel("/nowhere/model.mps", tarq.MPS), tarq.Error, 0x80041028, None),
-    (lambda m: m.ShowPropertyPage(), tarq.Error, 0x80004001, "not implemented"),
+    (lambda m: m.ShowPropertyPage(), tarq.Error, 0x80041027, "Could not show property page."),
 ]
 
 
 @pytest.mark.parametrize("call, kind, status, description", CASES)
-def test_a_failing_status_raises_with_all_it_tells(call, kind, status, description):
+def test_a_failing_status_raises_with_all_it_tells(monkeypatch, call, kind, status, description):
+    for display in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"):
+        monkeypatch.delenv(display, raising=False)
     model = tarq.TARQModel()
     model.AddCol(0, 1, 0, Name="x")
     with pytest.raises(kind) as caught:
@@ -34,10 +36,9 @@ def test_a_failing_status_raises_with_all_it_tells(call, kind, status, descripti
         assert error.description == description
 
 
-@pytest.mark.parametrize("name, words", [("tarqprop1", "doesn't offer"), ("Nothing", "no class")])
-def test_classes_that_are_not_there_say_so(name, words):
-    with pytest.raises(tarq.Error, match=words) as caught:
-        tarq.create(name)
+def test_classes_that_are_not_there_say_so():
+    with pytest.raises(tarq.Error, match="no class") as caught:
+        tarq.create("Nothing")
     assert caught.value.status == 0x80040154 == tarq.last_status()
 
 

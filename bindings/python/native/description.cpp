@@ -103,7 +103,7 @@ py::object signatureOf(const MemberInfo& member, bool withSelf) {
 py::list describedClasses() {
     py::list all;
     for (const ClassEntry& entry : classTable()) {
-        if (entry.create == nullptr || entry.members == nullptr) continue;
+        if (entry.members == nullptr) continue;
         py::dict one;
         one["name"] = text(entry.name);
         one["interface"] = described(entry.members());

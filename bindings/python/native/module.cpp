@@ -41,7 +41,7 @@ py::object adopt(const py::capsule& capsule) {
 py::dict classTypes() {
     py::dict all;
     for (const ClassEntry& entry : classTable()) {
-        if (entry.create == nullptr || entry.members == nullptr) continue;
+        if (entry.members == nullptr) continue;
         all[py::str(entry.name.data(), entry.name.size())] = interfaceType(entry.members()).type;
     }
     return all;

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace tarq {
@@ -122,6 +124,26 @@ private:
     bool isMade_ = false;
 };
 
+/// The end of an operation's patience.
+class Deadline {
+public:
+    using Clock = std::chrono::steady_clock;
+    explicit Deadline(ChildProcess::Patience patience) {
+        // An unlimited one has no end that the clock can tell.
+        if (patience != ChildProcess::unlimited) end_ = Clock::now() + patience;
+    }
+    /// Milliseconds to wait at once, for one who wants to look around every `longest` of them.
+    [[nodiscard]] int share(int longest) const {
+        if (!end_) return longest;
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*end_ - Clock::now()).count();
+        return static_cast<int>(std::clamp<std::int64_t>(left, 0, longest));
+    }
+    [[nodiscard]] bool isOver() const { return end_ && Clock::now() >= *end_; }
+
+private:
+    std::optional<Clock::time_point> end_;
+};
+
 bool holdsZero(const std::string& word) { return word.find('\0') != std::string::npos; }
 
 }  // namespace
@@ -154,6 +176,7 @@ bool ChildProcess::launch(const std::string& program, const std::vector<std::str
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
 
@@ -177,7 +200,8 @@ bool ChildProcess::hasEnded() {
     return ended_;
 }
 
-ChildProcess::Read ChildProcess::read(char* buffer, std::size_t length, std::size_t& count) {
+ChildProcess::Read ChildProcess::read(char* buffer, std::size_t length, std::size_t& count, Patience patience) {
+    const Deadline deadline(patience);
     for (;;) {
         if (ended_) return readHeld(buffer, length, count);
         if (hasEnded()) {
@@ -187,8 +211,11 @@ ChildProcess::Read ChildProcess::read(char* buffer, std::size_t length, std::siz
             continue;
         }
         pollfd readable{.fd = output_, .events = POLLIN, .revents = 0};
-        const int ready = ::poll(&readable, 1, lookInterval);
-        if (ready == 0 || (ready < 0 && errno == EINTR)) continue;
+        const int ready = ::poll(&readable, 1, deadline.share(lookInterval));
+        if (ready == 0 || (ready < 0 && errno == EINTR)) {
+            if (deadline.isOver()) return Read::NotYet;
+            continue;
+        }
         if (ready < 0) return Read::Failed;
         const ssize_t got = ::read(output_, buffer, length);
         if (got < 0 && errno == EINTR) continue;
@@ -209,12 +236,15 @@ ChildProcess::Read ChildProcess::readHeld(char* buffer, std::size_t length, std:
     return got > 0 ? Read::Bytes : Read::End;
 }
 
-bool ChildProcess::write(std::string_view bytes) {
+bool ChildProcess::write(std::string_view bytes, Patience patience) {
+    const Deadline deadline(patience);
     while (!bytes.empty()) {
-        const ssize_t sent = ::send(input_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (sent < 0 && errno == EINTR) continue;
-        if (sent <= 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(sent));
+        const ssize_t sent = ::send(input_, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (sent > 0) bytes.remove_prefix(static_cast<std::size_t>(sent));
+        if (sent > 0 || (sent < 0 && errno == EINTR)) continue;
+        if (sent == 0 || (errno != EAGAIN && errno != EWOULDBLOCK) || deadline.isOver()) return false;
+        pollfd writable{.fd = input_, .events = POLLOUT, .revents = 0};
+        if (::poll(&writable, 1, deadline.share(lookInterval)) < 0 && errno != EINTR) return false;
     }
     return true;
 }

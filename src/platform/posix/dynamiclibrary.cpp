@@ -79,6 +79,12 @@ DynamicLibrary DynamicLibrary::load(const std::string& name) {
     return library;
 }
 
+DynamicLibrary DynamicLibrary::alreadyLoaded(const char* name) {
+    DynamicLibrary library;
+    library.handle_ = dlopen(name, RTLD_NOW | RTLD_LOCAL | RTLD_NOLOAD);
+    return library;
+}
+
 bool DynamicLibrary::release() {
     if (handle_ == nullptr) return false;
     const bool agreed = dlclose(handle_) == 0;

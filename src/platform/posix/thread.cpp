@@ -189,6 +189,8 @@ std::unique_ptr<DetachedThread> DetachedThread::start(std::function<void()> body
 
 std::int32_t currentThreadNumber() noexcept { return static_cast<std::int32_t>(gettid()); }
 
+bool isFirstThread() noexcept { return gettid() == getpid(); }
+
 void parkThisThread() noexcept {
     sigset_t all;
     sigfillset(&all);

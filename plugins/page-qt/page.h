@@ -1,0 +1,64 @@
+// What a page shows and what comes of it, as values of our own: the texts of tarq/page.h belong to the component, and
+// the window may run in another process.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tarq/page.h"
+
+namespace tarq::page {
+
+struct Option {
+    std::string text;
+    std::string value;
+};
+
+struct Item {
+    std::string name;
+    std::string description;
+    TARQPageItemKind kind = TARQPageEditField;
+    TARQPageValueType type = TARQPageText;
+    std::string value;
+    std::string defaultValue;
+    std::string minimum;
+    std::string maximum;
+    std::int32_t maximumLength = 0;
+    std::vector<Option> options;
+};
+
+struct Section {
+    std::string title;
+    std::vector<Item> items;
+};
+
+struct Page {
+    std::string caption;
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::vector<Section> sections;
+};
+
+struct Edit {
+    std::string name;
+    std::string value;
+};
+
+struct Message {
+    std::string text;
+    TARQPageIcon icon = TARQPageWarning;
+};
+
+/// The component's page as values; nothing when a text is missing, a count is negative, or a kind isn't known.
+[[nodiscard]] std::optional<Page> readPage(const TARQPage& page);
+
+/// False for an item that no window could show: of a kind or type that isn't known, or a check box without its two
+/// options.
+[[nodiscard]] bool isShowable(const Item& item);
+
+/// Has the component store the edits. Returns what it has to tell.
+[[nodiscard]] std::vector<Message> applyTo(const TARQPage& page, const std::vector<Edit>& edits);
+
+}  // namespace tarq::page

@@ -1,0 +1,58 @@
+// The window of a page: search field, option tree, help for the item at hand, and the buttons.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <vector>
+
+#include "../page.h"
+
+class QCheckBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QTextEdit;
+class QHBoxLayout;
+class QPushButton;
+
+namespace tarq::page {
+
+class COptionTree;
+
+class PageWindow final : public QDialog {
+public:
+    /// Stores edits and gives back what there is to tell.
+    using Apply = std::function<std::vector<Message>(const std::vector<Edit>&)>;
+
+    PageWindow(const Page& page, Apply apply);
+
+    void accept() override;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    [[nodiscard]] QHBoxLayout* makeSearch();
+    void makeHelp();
+    void makeButtons();
+    void connectKeys();
+    void place(const Page& page);
+    void search();
+    /// What follows from a changed value.
+    void refresh();
+    void applyEdits();
+    void restoreDefaults();
+
+    Apply apply_;
+    COptionTree* tree_;
+    QLineEdit* search_;
+    QCheckBox* onlyChanged_;
+    QLabel* count_;
+    QTextEdit* help_;
+    QDialogButtonBox* buttons_;
+    QPushButton* applyButton_ = nullptr;
+    QPushButton* restoreButton_ = nullptr;
+    int foundCount_ = 0;
+};
+
+}  // namespace tarq::page
