@@ -19,7 +19,7 @@ class VirtualDisplay:
         read, write = os.pipe()
         screen = f"{width}x{height}x24"
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", screen, "-fbdir", self._folder.name, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", screen, "-fbdir", self._folder.name, "-noreset", "-nolisten", "tcp"],
             pass_fds=[write], env=self._own_environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:

@@ -20,14 +20,12 @@ std::string explained(Status status) {
         "\n'tarq parameters --write FILE' makes a profile to be changed with any editor.";
     std::string text = "the page can't be shown: ";
     if (status == status::libraryNotFound || status == status::entryPointsMissing) {
-        text +=
-            "its library libtarqpage.so is missing or can't be loaded.\nIt lies beside libtarqcom.so and needs Qt 6, "
-            "on Debian the package libqt6widgets6.";
+        text += "its library libtarqpage.so, which lies beside libtarqcom.so, is missing or can't be loaded.";
     } else if (status == status::propertyPage) {
         text +=
             "no window could be opened.\nThat takes a display: set DISPLAY or WAYLAND_DISPLAY to one that you may use, "
-            "as "
-            "'ssh -X' does from another machine.";
+            "as 'ssh -X' does from another machine.\nIt also takes Qt 6, on Debian the package libqt6widgets6, and the "
+            "program libexec/tarq/tarq-page.";
     } else {
         text += lastErrorText(status) + ".";
     }

@@ -110,6 +110,9 @@ int main(int argumentCount, char** arguments) {
     QTimer::singleShot(0, &window, [&] {
         window.raise();  // the host's windows are those of another program
         window.activateWindow();
+        // Qt paints with threads of its own, and waits for good where there is no memory to make them. As long as the
+        // window isn't told to be shown, the host doesn't wait for that.
+        (void)window.grab();
         host.tell(FrameKind::Shown);
     });
     window.exec();

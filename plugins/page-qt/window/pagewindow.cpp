@@ -1,5 +1,6 @@
 #include "pagewindow.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -24,10 +25,10 @@ namespace tarq::page {
 
 PageWindow::PageWindow(const Page& page, Apply apply)
     : apply_(std::move(apply)),
-      tree_(makeOwned<COptionTree>(page, this)),
       search_(makeOwned<QLineEdit>(this)),
       onlyChanged_(makeOwned<QCheckBox>(QStringLiteral("Only &changed"), this)),
       count_(makeQuietLabel({}, this)),
+      tree_(makeOwned<COptionTree>(page, this)),
       help_(makeOwned<QTextEdit>(this)),
       buttons_(makeOwned<QDialogButtonBox>(this)) {
     setWindowTitle(QString::fromStdString(page.caption));
@@ -76,8 +77,6 @@ QHBoxLayout* PageWindow::makeSearch() {
     line->addWidget(count_);
     connect(search_, &QLineEdit::textChanged, this, [this] { search(); });
     connect(onlyChanged_, &QCheckBox::toggled, this, [this] { search(); });
-    // The keyboard goes through the window in the order in which it is read.
-    setTabOrder(search_, onlyChanged_);
     return line;
 }
 
@@ -96,6 +95,9 @@ void PageWindow::makeButtons() {
     buttons_->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply);
     applyButton_ = buttons_->button(QDialogButtonBox::Apply);
     applyButton_->setText(QStringLiteral("&Apply"));
+    // The platform's own texts may have no letter to press, or one that is taken.
+    buttons_->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&OK"));
+    buttons_->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Cancel"));
     restoreButton_ = buttons_->addButton(QStringLiteral("Restore &defaults"), QDialogButtonBox::ResetRole);
     restoreButton_->setToolTip(
         QStringLiteral("All parameters back to their defaults; nothing is stored before you apply"));
@@ -138,6 +140,14 @@ bool PageWindow::eventFilter(QObject* object, QEvent* event) {
         default:
             return false;
     }
+}
+
+/// Return is OK, but for a button that has the keyboard and would do something else.
+void PageWindow::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* const button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (!isReturn || button == nullptr || button->isCheckable()) return QDialog::keyPressEvent(event);
+    button->click();
 }
 
 void PageWindow::place(const Page& page) {

@@ -30,6 +30,7 @@ public:
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     [[nodiscard]] QHBoxLayout* makeSearch();
@@ -44,10 +45,11 @@ private:
     void restoreDefaults();
 
     Apply apply_;
-    COptionTree* tree_;
+    // Made in the order in which they are read: the keyboard goes through the window so.
     QLineEdit* search_;
     QCheckBox* onlyChanged_;
     QLabel* count_;
+    COptionTree* tree_;
     QTextEdit* help_;
     QDialogButtonBox* buttons_;
     QPushButton* applyButton_ = nullptr;

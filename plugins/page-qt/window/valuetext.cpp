@@ -11,6 +11,7 @@ namespace tarq::page {
 namespace {
 
 std::optional<double> numberIn(std::string_view text) {
+    if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     double number = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) return std::nullopt;
@@ -50,7 +51,8 @@ std::string doubtAbout(const Item& item, const std::string& value) {
     if (hasOptions(item) || item.type == TARQPageText) return {};
     const auto number = numberIn(value);
     if (!number) return "This is not a number.";
-    if (item.type == TARQPageInteger && std::trunc(*number) != *number) return "This is not a whole number.";
+    const bool isPlain = value.find_first_not_of("-0123456789") == std::string::npos;
+    if (item.type == TARQPageInteger && !isPlain) return "This takes a whole number in digits alone.";
     const auto minimum = numberIn(item.minimum);
     const auto maximum = numberIn(item.maximum);
     if ((minimum && *number < *minimum) || (maximum && *number > *maximum)) {
