@@ -53,30 +53,31 @@ protected:
 const InterfaceTable& ICollection::memberTable() {
     using I = ICollection;
     constexpr MemberFlags blocking{.blocking = true};
-    static const InterfaceTable table(
-        "ICollection", id, "Members of every form.",
-        {numbered(memberid::value, get<&I::get_Item>("Item", "", "first", optional("second"))),
-         numbered(memberid::value, put<&I::put_Item>("Item", "", "first", optional("second"))),
-         numbered(memberid::enumerator, get<&I::get__NewEnum>("_NewEnum", "")),
-         numbered(1, get<&I::get_Count>("Count", "How many elements.")),
-         put<&I::put_Count>("Count", ""),
-         get<&I::get_Level>("Level", "", optional("first"), optional("second")),
-         put<&I::put_Level>("Level", "", optional("first"), optional("second")),
-         resultMethod<&I::Describe>("Describe", "", "value"),
-         resultMethod<&I::DescribeAll>("DescribeAll", "", "separator", "values"),
-         resultMethod<&I::DescribeOptional>("DescribeOptional", "", optional("value")),
-         resultMethod<&I::Echo>("Echo", "", "value"),
-         resultMethod<&I::MakeArray>("MakeArray", "", "kind", "rows", "columns"),
-         method<&I::Split>("Split", "", "number", "tens", "ones"),
-         resultMethod<&I::Surround>("Surround", "", "before", "number", "after"),
-         resultMethod<&I::Call>("Call", "", "object", "member", "kinds", "arguments"),
-         resultMethod<&I::NumberOf>("NumberOf", "", "object", "name"),
-         resultMethod<&I::Offers>("Offers", "", "object", "interfaceId"),
-         method<&I::Keep>("Keep", "", "object"),
-         get<&I::get_Kept>("Kept", ""),
-         flagged(blocking, method<&I::Drop>("Drop", "", "milliseconds")),
-         flagged(blocking, method<&I::Sleep>("Sleep", "", "milliseconds")),
-         flagged({.hidden = true}, get<&I::Secret>("Secret", ""))});
+    // Never destroyed: a thread may be in a call when the process ends.
+    static const auto& table =
+        *new InterfaceTable("ICollection", id, "Members of every form.",
+                            {numbered(memberid::value, get<&I::get_Item>("Item", "", "first", optional("second"))),
+                             numbered(memberid::value, put<&I::put_Item>("Item", "", "first", optional("second"))),
+                             numbered(memberid::enumerator, get<&I::get__NewEnum>("_NewEnum", "")),
+                             numbered(1, get<&I::get_Count>("Count", "How many elements.")),
+                             put<&I::put_Count>("Count", ""),
+                             get<&I::get_Level>("Level", "", optional("first"), optional("second")),
+                             put<&I::put_Level>("Level", "", optional("first"), optional("second")),
+                             resultMethod<&I::Describe>("Describe", "", "value"),
+                             resultMethod<&I::DescribeAll>("DescribeAll", "", "separator", "values"),
+                             resultMethod<&I::DescribeOptional>("DescribeOptional", "", optional("value")),
+                             resultMethod<&I::Echo>("Echo", "", "value"),
+                             resultMethod<&I::MakeArray>("MakeArray", "", "kind", "rows", "columns"),
+                             method<&I::Split>("Split", "", "number", "tens", "ones"),
+                             resultMethod<&I::Surround>("Surround", "", "before", "number", "after"),
+                             resultMethod<&I::Call>("Call", "", "object", "member", "kinds", "arguments"),
+                             resultMethod<&I::NumberOf>("NumberOf", "", "object", "name"),
+                             resultMethod<&I::Offers>("Offers", "", "object", "interfaceId"),
+                             method<&I::Keep>("Keep", "", "object"),
+                             get<&I::get_Kept>("Kept", ""),
+                             flagged(blocking, method<&I::Drop>("Drop", "", "milliseconds")),
+                             flagged(blocking, method<&I::Sleep>("Sleep", "", "milliseconds")),
+                             flagged({.hidden = true}, get<&I::Secret>("Secret", ""))});
     return table;
 }
 

@@ -18,7 +18,8 @@ def ampl(tmp_path, monkeypatch):
     (tmp_path / "temporary").mkdir()
     monkeypatch.setenv("TMPDIR", str(tmp_path / "temporary"))
     # A build under AddressSanitizer would else end with an exit code of its own where others end with a signal.
-    monkeypatch.setenv("ASAN_OPTIONS", os.environ.get("ASAN_OPTIONS", "") + ":handle_segv=0")
+    for options in ("ASAN_OPTIONS", "TSAN_OPTIONS"):
+        monkeypatch.setenv(options, os.environ.get(options, "") + ":handle_segv=0")
 
     def run(text, *arguments):
         (tmp_path / "text.run").write_text(text)

@@ -70,6 +70,13 @@ inline int checked(int result) {
 /// A new reference of the interpreter, taken over; throws what it has left instead.
 inline py::object owned(PyObject* result) { return py::reinterpret_steal<py::object>(checked(result)); }
 
+/// What a call of the interpreter gives that may run a client's code for as long as that likes; throws what it has left
+/// instead. A thread that is ended meanwhile stops here, before the destructors up its stack want the lock.
+template <class Call>
+py::object clientResult(Call&& call) {
+    return owned(withoutUnwinding(std::forward<Call>(call)));
+}
+
 /// The entry of a type's slot table.
 template <class Entry>
 PyType_Slot slot(int number, Entry entry) {

@@ -14,7 +14,7 @@ Ref<IUnknown> create(const HeldObject& factory) {
     Ref<IUnknown> server;
     // The failure is the component's to word; an exception becomes its cause.
     (void)callIn([&] {
-        const py::object made = factory.object()();
+        const py::object made = clientResult([&] { return PyObject_CallNoArgs(factory.object().ptr()); });
         if (isProxy(made)) {
             server = objectOf(made);
         } else if (isStandIn(made)) {

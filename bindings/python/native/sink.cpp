@@ -49,7 +49,8 @@ private:
         try {
             py::object handler = methodFor(object(), event.name);
             if (!handler) handler = py::reinterpret_borrow<py::object>(object());
-            handler(*pythonArguments(values));
+            const py::tuple arguments = pythonArguments(values);
+            clientResult([&] { return PyObject_CallObject(handler.ptr(), arguments.ptr()); });
             return status::ok;
         } catch (py::error_already_set& error) {
             if (keepInterrupt(error)) return status::generalFailure;

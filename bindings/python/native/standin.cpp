@@ -107,18 +107,20 @@ private:
     Status put(const py::str& name, const py::tuple& values) const {
         const py::str putter = py::str("put_{}").format(name);
         if (py::hasattr(object(), putter)) {
-            object().attr(putter)(*values);
+            const py::object method = object().attr(putter);
+            clientResult([&] { return PyObject_CallObject(method.ptr(), values.ptr()); });
             return status::ok;
         }
         if (values.size() != 1) return status::argumentCount;
-        py::setattr(object(), name, values[0]);
+        checked(withoutUnwinding(
+            [&] { return PyObject_SetAttr(object().ptr(), name.ptr(), py::object(values[0]).ptr()); }));
         return status::ok;
     }
 
     Status get(const py::str& name, const py::tuple& values, Variant* result) const {
-        py::object value = object().attr(name);
+        py::object value = clientResult([&] { return PyObject_GetAttr(object().ptr(), name.ptr()); });
         if (isMethod(value)) {
-            value = value(*values);
+            value = clientResult([&] { return PyObject_CallObject(value.ptr(), values.ptr()); });
         } else if (!values.empty()) {
             return status::argumentCount;
         }
