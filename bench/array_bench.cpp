@@ -12,9 +12,9 @@
 #include <utility>
 #include <vector>
 
-#include "frame/safearray.h"
 #include "indexed/ctarqarray.h"
 #include "indexed/matrixproduct.h"
+#include "tarq/frame/safearray.h"
 
 namespace {
 

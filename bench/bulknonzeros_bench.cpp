@@ -12,9 +12,9 @@
 
 #include "component/bulknonzeros.h"
 #include "component/indexlists.h"
-#include "frame/safearray.h"
 #include "model/addressing.h"
 #include "model/modelstore.h"
+#include "tarq/frame/safearray.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "component/createobject.h"
-#include "frame/membertable.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/component/createobject.h"
+#include "tarq/frame/membertable.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 namespace {

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "component/createobject.h"
-#include "frame/safearray.h"
-#include "interfaces/itarqmodel.h"
-#include "interfaces/itarqvarset.h"
+#include "tarq/component/createobject.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/interfaces/itarqmodel.h"
+#include "tarq/interfaces/itarqvarset.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "component/createobject.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/component/createobject.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace {
 

@@ -2,27 +2,7 @@
 
 include(CMakePackageConfigHelpers)
 
-# Inside the project a header is named by its room ("frame/variant.h"); outside, everything lies under tarq/.
-set(public_headers
-  component/classtable.h component/createobject.h component/eventsink.h component/servermodule.h component/serverregistry.h
-  frame/classfactory.h frame/connectionpoint.h frame/countedobject.h frame/dispatch.h frame/export.h frame/guid.h
-  frame/ienumvariant.h frame/memberbinding.h frame/membertable.h frame/module.h frame/object.h frame/objecterror.h frame/safearray.h
-  frame/status.h frame/supporterrorinfo.h frame/valuelist.h frame/variant.h)
-file(GLOB interface_headers RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/interfaces/*.h")
-list(APPEND public_headers ${interface_headers})
-set(staged "${PROJECT_BINARY_DIR}/public-headers")
-foreach(header IN ITEMS ${public_headers} tarq.h engine.h mathprog.h page.h)
-  if(header MATCHES "/")
-    set(origin "${PROJECT_SOURCE_DIR}/src/${header}")
-  else()
-    set(origin "${PROJECT_SOURCE_DIR}/include/tarq/${header}")
-  endif()
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${origin}")
-  file(READ "${origin}" text)
-  string(REGEX REPLACE "#include \"(component|frame|interfaces)/" "#include \"tarq/\\1/" text "${text}")
-  file(CONFIGURE OUTPUT "${staged}/tarq/${header}" CONTENT "${text}" @ONLY)
-endforeach()
-install(DIRECTORY "${staged}/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/tarq" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 
 # The engine, the MathProg library and the page lie beside the component, where the component looks first.
 install(TARGETS tarqcom EXPORT tarq

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "interfaces/enumerations.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq::fuzzing {
 

@@ -8,9 +8,9 @@
 #include "console.h"
 #include "describejson.h"
 #include "describetext.h"
-#include "interfaces/enumerationtables.h"
 #include "library.h"
 #include "suggestion.h"
+#include "tarq/interfaces/enumerationtables.h"
 
 namespace tarq::command {
 

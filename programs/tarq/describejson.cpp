@@ -1,6 +1,6 @@
 #include "describejson.h"
 
-#include "frame/guid.h"
+#include "tarq/frame/guid.h"
 
 namespace tarq::command {
 

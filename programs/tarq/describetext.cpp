@@ -6,9 +6,9 @@
 #include <cstdio>
 
 #include "console.h"
-#include "frame/guid.h"
-#include "interfaces/enumerationtables.h"
 #include "table.h"
+#include "tarq/frame/guid.h"
+#include "tarq/interfaces/enumerationtables.h"
 #include "terminal.h"
 
 namespace tarq::command {

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "interfaces/enumerationtables.h"
 #include "suggestion.h"
+#include "tarq/interfaces/enumerationtables.h"
 
 namespace tarq::command {
 

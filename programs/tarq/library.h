@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "component/classtable.h"
-#include "frame/membertable.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/membertable.h"
 
 namespace tarq::command {
 

@@ -7,7 +7,6 @@
 #include <exception>
 #include <optional>
 
-#include "component/amplsolutionfile.h"
 #include "console.h"
 #include "driveroptions.h"
 #include "languageinput.h"
@@ -16,6 +15,7 @@
 #include "report.h"
 #include "run.h"
 #include "standardstreams.h"
+#include "tarq/component/amplsolutionfile.h"
 #include "terminal.h"
 
 namespace {

@@ -1,10 +1,10 @@
-#include "component/amplsolutionfile.h"
+#include "tarq/component/amplsolutionfile.h"
 
 #include <vector>
 
 #include "frame/memberguard.h"
-#include "interfaces/classids.h"
 #include "languages/amplstub.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 namespace {

@@ -11,8 +11,8 @@
 #include <mutex>
 
 #include "engine/run.h"
-#include "frame/object.h"
 #include "platform/thread.h"
+#include "tarq/frame/object.h"
 
 namespace tarq {
 

@@ -10,10 +10,11 @@
 #include <vector>
 
 #include "component/indexlists.h"
-#include "frame/safearray.h"
+#include "frame/result.h"
 #include "indexed/indexset.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {
@@ -24,9 +25,7 @@ struct Places {
 };
 
 Outcome resolvePlaces(const ModelStore& store, const Variant& rows, const Variant& columns, Places& places) {
-    if (Outcome outcome = resolveIndexList(store, columns, IndexedSide::Columns, places.columns); !outcome.isOk()) {
-        return outcome;
-    }
+    TARQ_TRY(resolveIndexList(store, columns, IndexedSide::Columns, places.columns));
     return resolveIndexList(store, rows, IndexedSide::Rows, places.rows);
 }
 
@@ -56,7 +55,7 @@ private:
 
 Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns, Variant& values) {
     Places places;
-    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlaces(store, rows, columns, places));
     if (places.rows.size() == 1 && places.columns.size() == 1) {
         double value = 0.0;
         static_cast<void>(store.findNonzero(places.columns.front() + 1, places.rows.front() + 1, value));
@@ -66,7 +65,7 @@ Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant&
     const std::array dimensions{Dimension{1, static_cast<std::uint32_t>(places.rows.size())},
                                 Dimension{1, static_cast<std::uint32_t>(places.columns.size())}};
     SafeArray array;
-    if (const Status made = SafeArray::create(Kind::Double, dimensions, array); !made.isOk()) return made;
+    TARQ_TRY(SafeArray::create(Kind::Double, dimensions, array));
     std::size_t cell = 0;
     const std::span<double> cells = array.elements<double>();
     for (const std::int32_t row : places.rows) {
@@ -80,10 +79,10 @@ Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant&
 
 Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
     Places places;
-    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlaces(store, rows, columns, places));
     const std::array<std::size_t, 2> shape{places.rows.size(), places.columns.size()};
     PlaceValues read;
-    if (Outcome outcome = read.read(values, shape); !outcome.isOk()) return outcome;
+    TARQ_TRY(read.read(values, shape));
     std::size_t cell = 0;
     for (const std::int32_t row : places.rows) {
         for (const std::int32_t column : places.columns) store.setNonzero(column + 1, row + 1, read[cell++]);
@@ -93,10 +92,10 @@ Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& colum
 
 Outcome setNonzeroStair(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
     Places places;
-    if (Outcome outcome = resolvePlaces(store, rows, columns, places); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlaces(store, rows, columns, places));
     const std::array<std::size_t, 1> shape{std::min(places.rows.size(), places.columns.size())};
     PlaceValues read;
-    if (Outcome outcome = read.read(values, shape); !outcome.isOk()) return outcome;
+    TARQ_TRY(read.read(values, shape));
     for (std::size_t step = 0; step < shape.front(); ++step) {
         store.setNonzero(places.columns[step] + 1, places.rows[step] + 1, read[step]);
     }

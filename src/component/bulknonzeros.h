@@ -4,9 +4,9 @@
 // failure leaves the matrix as it was. Only when memory runs out while storing may some be stored and others not.
 #pragma once
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

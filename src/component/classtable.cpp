@@ -1,4 +1,4 @@
-#include "component/classtable.h"
+#include "tarq/component/classtable.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +18,13 @@
 #include "indexed/ctarqvar.h"
 #include "indexed/ctarqvarset.h"
 #include "indexed/ctarqvarsetenum.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqmodelevents.h"
+#include "interfaces/ifamilyidentity.h"
+#include "tarq/frame/classfactory.h"
+#include "tarq/frame/connectionpoint.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/supporterrorinfo.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqmodelevents.h"
 
 namespace tarq {
 namespace {
@@ -80,6 +85,15 @@ const ClassEntry* findClass(std::string_view name) {
 
 const ClassEntry* findClass(const Guid& classId) {
     return entryWhere([&](const ClassEntry& entry) { return entry.classId == classId; });
+}
+
+bool isCalledDirectly(const Guid& interfaceId) {
+    constexpr std::array frameInterfaces{IEnumVARIANT::id,  IConnectionPoint::id,  IConnectionPointContainer::id,
+                                         IClassFactory::id, ISupportErrorInfo::id, IFamilyIdentity::id};
+    return std::ranges::find(frameInterfaces, interfaceId) != frameInterfaces.end() ||
+           std::ranges::any_of(classes, [&](const ClassEntry& entry) {
+               return entry.members != nullptr && entry.members().id() == interfaceId;
+           });
 }
 
 }  // namespace tarq

@@ -1,9 +1,9 @@
-#include "component/createobject.h"
+#include "tarq/component/createobject.h"
 
 #include <string>
 
-#include "component/classtable.h"
-#include "frame/objecterror.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq {
 

@@ -1,6 +1,7 @@
 // CTARQModel: reading and writing model files.
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "modelfiles/modelcutout.h"
 #include "modelfiles/modelfile.h"
 #include "modelfiles/modelwriter.h"
@@ -20,7 +21,7 @@ Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eF
 Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
                                    const Variant& StartCol, const Variant& EndCol) {
     return guarded(classid::TARQModel, [&] {
-        if (Outcome name = checkWrittenName(FileName); !name.isOk()) return name;
+        TARQ_TRY(checkWrittenName(FileName));
         ModelCutout cutout{};
         Outcome resolved = resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout);
         return resolved.isOk() ? writeModelListing(FileName, {store_, parameters_, modelName_}, cutout) : resolved;

@@ -7,6 +7,7 @@
 
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/ctarqres.h"
 #include "indexed/ctarqvar.h"
 #include "model/addressing.h"
@@ -36,9 +37,9 @@ struct Columns {
         return store.renameColumn(position, name);
     }
     static Status read(ITARQVar& object, ColumnRecord& record) {
-        if (const Status got = object.get_LB(&record.lowerBound); !got.isOk()) return got;
-        if (const Status got = object.get_UB(&record.upperBound); !got.isOk()) return got;
-        if (const Status got = object.get_Cost(&record.cost); !got.isOk()) return got;
+        TARQ_TRY(object.get_LB(&record.lowerBound));
+        TARQ_TRY(object.get_UB(&record.upperBound));
+        TARQ_TRY(object.get_Cost(&record.cost));
         return object.get_Type(&record.type);
     }
     static Outcome change(ModelStore& store, std::int32_t position, const ColumnRecord& record) {
@@ -71,7 +72,7 @@ struct Rows {
         return store.renameRow(position, name);
     }
     static Status read(ITARQRes& object, RowRecord& record) {
-        if (const Status got = object.get_LB(&record.lowerBound); !got.isOk()) return got;
+        TARQ_TRY(object.get_LB(&record.lowerBound));
         return object.get_UB(&record.upperBound);
     }
     static Outcome change(ModelStore& store, std::int32_t position, const RowRecord& record) {
@@ -90,7 +91,7 @@ template <class Object>
 Status pointAt(Object& object, ITARQModel& model, std::int32_t number) {
     // The object may be the last to hold this model, and lets go of it for a moment.
     const Ref<ITARQModel> held(&model);
-    if (const Status detached = object.Detach(); !detached.isOk()) return detached;
+    TARQ_TRY(object.Detach());
     return object.SetITARQModel(&model, number);
 }
 
@@ -99,16 +100,16 @@ Outcome addItem(ITARQModel& model, ModelStore& store, IUnknown* given) {
     const auto object = asked<Side>(given);
     if (!object) return {status::wrongClass, Side::notToAdd};
     typename Side::Record record;
-    if (const Status read = Side::read(*object, record); !read.isOk()) return read;
-    if (const Status read = object->get_Name(&record.name); !read.isOk()) return read;
-    if (Outcome added = Side::add(store, std::move(record)); !added.isOk()) return added;
+    TARQ_TRY(Side::read(*object, record));
+    TARQ_TRY(object->get_Name(&record.name));
+    TARQ_TRY(Side::add(store, std::move(record)));
     return pointAt(*object, model, Side::count(store));
 }
 
 template <class Side>
 Outcome attachItem(ITARQModel& model, const ModelStore& store, IUnknown* given, const Variant& address) {
     std::int32_t position = 0;
-    if (Outcome resolved = Side::resolve(store, address, position); !resolved.isOk()) return resolved;
+    TARQ_TRY(Side::resolve(store, address, position));
     const auto object = asked<Side>(given);
     if (!object) return {status::wrongClass, Side::notToAttach};
     return pointAt(*object, model, position + 1);
@@ -117,13 +118,11 @@ Outcome attachItem(ITARQModel& model, const ModelStore& store, IUnknown* given, 
 template <class Side>
 Outcome makeItem(ITARQModel& model, const ModelStore& store, const Variant& address, Ref<IUnknown>& value) {
     std::int32_t position = 0;
-    if (Outcome resolved = Side::resolve(store, address, position); !resolved.isOk()) return resolved;
+    TARQ_TRY(Side::resolve(store, address, position));
     void* made = nullptr;
     if (!createInstance<typename Side::Class>(nullptr, IDispatch::id, &made).isOk()) return status::outOfMemory;
     Ref<IUnknown> object = Ref<IUnknown>::adopt(static_cast<IDispatch*>(made));
-    if (Outcome attached = attachItem<Side>(model, store, object.get(), Variant(position + 1)); !attached.isOk()) {
-        return attached;
-    }
+    TARQ_TRY(attachItem<Side>(model, store, object.get(), Variant(position + 1)));
     value = std::move(object);
     return {};
 }
@@ -131,17 +130,17 @@ Outcome makeItem(ITARQModel& model, const ModelStore& store, const Variant& addr
 template <class Side>
 Outcome copyItem(ModelStore& store, const Variant& address, IUnknown* given) {
     std::int32_t position = 0;
-    if (Outcome resolved = Side::resolve(store, address, position); !resolved.isOk()) return resolved;
+    TARQ_TRY(Side::resolve(store, address, position));
     const bool keepsName = Side::isOfFamily(store, position);
     const auto object = asked<Side>(given);
     if (!object) return {status::wrongState, Side::notToCopy};
     typename Side::Record record;
     if (!keepsName) {
-        if (const Status read = object->get_Name(&record.name); !read.isOk()) return read;
+        TARQ_TRY(object->get_Name(&record.name));
     }
-    if (const Status read = Side::read(*object, record); !read.isOk()) return read;
+    TARQ_TRY(Side::read(*object, record));
     if (!keepsName) {
-        if (Outcome renamed = Side::rename(store, position, record.name); !renamed.isOk()) return renamed;
+        TARQ_TRY(Side::rename(store, position, record.name));
     }
     return Side::change(store, position, record);
 }

@@ -1,7 +1,7 @@
 // CTARQModel: models in MPL.
 #include "component/ctarqmodel.h"
-#include "component/serverregistry.h"
 #include "frame/memberguard.h"
+#include "tarq/component/serverregistry.h"
 
 namespace tarq {
 namespace {

@@ -1,8 +1,8 @@
 // CTARQModel: the parameter page.
-#include "component/createobject.h"
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
-#include "interfaces/ipropertypage.h"
+#include "tarq/component/createobject.h"
+#include "tarq/interfaces/ipropertypage.h"
 
 namespace tarq {
 

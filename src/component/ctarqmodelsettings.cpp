@@ -32,8 +32,7 @@ Status CTARQModel::finalConstruct() {
 }
 
 Status CTARQModel::InterfaceSupportsErrorInfo(const Guid& interfaceId) {
-    constexpr Status no{1};
-    return interfaceId == ITARQModel::id ? status::ok : no;
+    return interfaceId == ITARQModel::id ? status::ok : status::none;
 }
 
 void CTARQModel::resetSolution() { summary_.reset(); }

@@ -1,8 +1,8 @@
 #include "component/ctarqprop1.h"
 
 #include "frame/memberguard.h"
-#include "interfaces/itarqmodel.h"
 #include "parameterpage/pageframe.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 

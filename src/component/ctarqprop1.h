@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "frame/countedobject.h"
-#include "interfaces/ipropertypage.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/interfaces/ipropertypage.h"
 
 namespace tarq {
 

@@ -1,12 +1,13 @@
-#include "component/eventsink.h"
+#include "tarq/component/eventsink.h"
 
 #include <memory>
 #include <new>
 #include <utility>
 
-#include "frame/connectionpoint.h"
-#include "frame/countedobject.h"
-#include "interfaces/itarqmodelevents.h"
+#include "frame/result.h"
+#include "tarq/frame/connectionpoint.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/interfaces/itarqmodelevents.h"
 
 namespace tarq {
 namespace {
@@ -42,7 +43,7 @@ Status pointOf(IUnknown& model, Ref<IConnectionPoint>& point) {
 
 Status adviseFinished(IUnknown& model, std::function<void()> handler, std::uint32_t* cookie) {
     Ref<IConnectionPoint> point;
-    if (const Status found = pointOf(model, point); !found.isOk()) return found;
+    TARQ_TRY(pointOf(model, point));
     try {
         const Ref<_ITARQModelEvents> sink(std::make_unique<FunctionSink>(std::move(handler)).release());
         return point->Advise(sink.get(), cookie);
@@ -53,7 +54,7 @@ Status adviseFinished(IUnknown& model, std::function<void()> handler, std::uint3
 
 Status unadviseFinished(IUnknown& model, std::uint32_t cookie) {
     Ref<IConnectionPoint> point;
-    if (const Status found = pointOf(model, point); !found.isOk()) return found;
+    TARQ_TRY(pointOf(model, point));
     return point->Unadvise(cookie);
 }
 

@@ -8,23 +8,24 @@
 #include <utility>
 
 #include "frame/convertelement.h"
-#include "frame/object.h"
-#include "frame/safearray.h"
+#include "frame/result.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
-#include "interfaces/itarqres.h"
-#include "interfaces/itarqresset.h"
-#include "interfaces/itarqressetenum.h"
-#include "interfaces/itarqseries.h"
-#include "interfaces/itarqseriesenum.h"
-#include "interfaces/itarqset.h"
-#include "interfaces/itarqsetenum.h"
-#include "interfaces/itarqvar.h"
-#include "interfaces/itarqvarset.h"
-#include "interfaces/itarqvarsetenum.h"
 #include "model/addressing.h"
 #include "model/familyedit.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/interfaces/itarqres.h"
+#include "tarq/interfaces/itarqresset.h"
+#include "tarq/interfaces/itarqressetenum.h"
+#include "tarq/interfaces/itarqseries.h"
+#include "tarq/interfaces/itarqseriesenum.h"
+#include "tarq/interfaces/itarqset.h"
+#include "tarq/interfaces/itarqsetenum.h"
+#include "tarq/interfaces/itarqvar.h"
+#include "tarq/interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 namespace {
@@ -40,7 +41,7 @@ struct AddressedStore {
     Outcome append(const std::string& name, PositionList& positions) const { return append(Variant(name), positions); }
     Outcome append(const Variant& address, PositionList& positions) const {
         std::int32_t position = 0;
-        if (Outcome resolved = resolve(store, address, position); !resolved.isOk()) return resolved;
+        TARQ_TRY(resolve(store, address, position));
         positions.push_back(position);
         return {};
     }
@@ -58,7 +59,7 @@ Outcome readListedValues(const AddressedStore& addressed, const Ref<IUnknown>& o
     known = offersAny<ITARQSeries, ITARQSeriesEnum, ITARQSet, ITARQSetEnum>(object);
     if (!known) return {};
     ValueSource source;
-    if (Outcome opened = openValueSource(object.get(), source); !opened.isOk()) return opened;
+    TARQ_TRY(openValueSource(object.get(), source));
     std::vector<Variant> address;
     std::string message;
     return walkValues(source, [&](Variant value) -> Outcome {
@@ -77,7 +78,7 @@ Outcome readItem(const AddressedStore& addressed, const Ref<IUnknown>& object, P
     known = static_cast<bool>(item);
     if (!known) return {};
     std::int32_t number = 0;
-    if (const Status told = item->get_ModelIndex(&number); !told.isOk()) return told;
+    TARQ_TRY(item->get_ModelIndex(&number));
     return addressed.append(number, positions);
 }
 
@@ -90,11 +91,11 @@ Outcome readFamily(const AddressedStore& addressed, const Ref<IUnknown>& object,
     known = static_cast<bool>(family);
     if (!known) return {};
     std::int32_t number = 0;
-    if (Outcome found = start(addressed.store, family.get(), number); !found.isOk()) return found;
+    TARQ_TRY(start(addressed.store, family.get(), number));
     std::int32_t count = 0;
-    if (const Status told = family->get_Count(&count); !told.isOk()) return told;
+    TARQ_TRY(family->get_Count(&count));
     for (; count > 0; --count) {
-        if (Outcome appended = addressed.append(number, positions); !appended.isOk()) return appended;
+        TARQ_TRY(addressed.append(number, positions));
         ++number;
     }
     return {};
@@ -108,11 +109,11 @@ Outcome readFamilyEnum(const AddressedStore& addressed, const Ref<IUnknown>& obj
     known = static_cast<bool>(enumerator);
     if (!known) return {};
     std::int32_t count = 0;
-    if (const Status told = enumerator->get_Count(&count); !told.isOk()) return told;
+    TARQ_TRY(enumerator->get_Count(&count));
     for (std::int32_t item = 0; item < count; ++item) {
         std::string name;
-        if (const Status told = enumerator->get_ItemName(item + 1, &name); !told.isOk()) return told;
-        if (Outcome appended = addressed.append(Variant(std::move(name)), positions); !appended.isOk()) return appended;
+        TARQ_TRY(enumerator->get_ItemName(item + 1, &name));
+        TARQ_TRY(addressed.append(Variant(std::move(name)), positions));
     }
     return {};
 }
@@ -147,7 +148,7 @@ template <class Element>
 Outcome appendEach(const AddressedStore& addressed, std::span<const Element> addresses, PositionList& positions) {
     positions.reserve(addresses.size());
     for (const Element& address : addresses) {
-        if (Outcome appended = addressed.append(address, positions); !appended.isOk()) return appended;
+        TARQ_TRY(addressed.append(address, positions));
     }
     return {};
 }
@@ -166,7 +167,7 @@ Outcome readArray(const AddressedStore& addressed, const SafeArray& array, Posit
         return appendEach(addressed, array.elements<Variant>(), positions);
     }
     std::vector<Variant> addresses;
-    if (Outcome read = appendArrayValues(array, Kind::Empty, addresses); !read.isOk()) return read;
+    TARQ_TRY(appendArrayValues(array, Kind::Empty, addresses));
     return appendEach(addressed, std::span<const Variant>(addresses), positions);
 }
 

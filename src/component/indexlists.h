@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -16,7 +16,7 @@ using PositionList = std::vector<std::int32_t>;
 enum class IndexedSide { Columns, Rows };
 
 /// Sets `positions` from an array of one dimension or an object, whose values each are a name or a number, or from one
-/// name or number. Fails as resolveColumn and resolveRow do, and with 0x80041031 where the list can't be read;
+/// name or number. Fails as resolveColumn and resolveRow do, and with invalidArgument where the list can't be read;
 /// `positions` is left alone then.
 [[nodiscard]] Outcome resolveIndexList(const ModelStore& store, const Variant& indices, IndexedSide side,
                                        PositionList& positions);

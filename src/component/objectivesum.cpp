@@ -3,13 +3,14 @@
 #include <cstdint>
 #include <string>
 
+#include "frame/result.h"
 #include "indexed/termlist.h"
 
 namespace tarq {
 
 Outcome assignCosts(ModelStore& store, const ValueList& coeffsAndCols) {
     TermList terms;
-    if (Outcome outcome = parseCoeffsAndCols(coeffsAndCols, terms); !outcome.isOk()) return outcome;
+    TARQ_TRY(parseCoeffsAndCols(coeffsAndCols, terms));
     return walkTerms(terms, [&store](const std::string& name, double coefficient) -> Outcome {
         const std::int32_t position = store.findColumn(name);
         if (position < 0) {

@@ -1,10 +1,10 @@
-#include "component/servermodule.h"
+#include "tarq/component/servermodule.h"
 
 #include <deque>
 
-#include "component/classtable.h"
-#include "frame/classfactory.h"
-#include "frame/module.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/classfactory.h"
+#include "tarq/frame/module.h"
 
 namespace tarq {
 namespace {

@@ -1,4 +1,4 @@
-#include "component/serverregistry.h"
+#include "tarq/component/serverregistry.h"
 
 #include <algorithm>
 #include <map>

@@ -12,8 +12,8 @@
 #include <string_view>
 
 #include "engine/engineinterface.h"
-#include "frame/status.h"
 #include "platform/dynamiclibrary.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 

@@ -12,10 +12,10 @@
 
 #include "engine/enginebinding.h"
 #include "engine/sharedvalue.h"
-#include "frame/status.h"
-#include "interfaces/enumerations.h"
 #include "model/modelstore.h"
 #include "parameters/parametertable.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 

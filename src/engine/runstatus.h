@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "interfaces/enumerations.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 

@@ -7,10 +7,10 @@
 #pragma once
 
 #include "engine/run.h"
-#include "frame/status.h"
-#include "frame/variant.h"
-#include "interfaces/enumerations.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 

@@ -1,4 +1,4 @@
-#include "frame/connectionpoint.h"
+#include "tarq/frame/connectionpoint.h"
 
 #include <algorithm>
 

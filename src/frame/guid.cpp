@@ -1,4 +1,4 @@
-#include "frame/guid.h"
+#include "tarq/frame/guid.h"
 
 #include <fmt/format.h>
 

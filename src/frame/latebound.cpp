@@ -1,6 +1,6 @@
 #include "frame/latebound.h"
 
-#include "frame/objecterror.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq {
 namespace {

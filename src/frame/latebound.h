@@ -10,10 +10,11 @@
 #include <string>
 #include <utility>
 
-#include "frame/dispatch.h"
-#include "frame/object.h"
-#include "frame/status.h"
-#include "frame/variant.h"
+#include "frame/result.h"
+#include "tarq/frame/dispatch.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -26,8 +27,8 @@ public:
     explicit LateBound(Ref<IDispatch> object) : object_(std::move(object)) {}
     [[nodiscard]] explicit operator bool() const { return static_cast<bool>(object_); }
 
-    /// Reads a property into a Variant, LateBound, std::int32_t, double or std::string. 0x80020005 for an answer that
-    /// is none of the type, 0x80004002 for one that is no object to be called in turn.
+    /// Reads a property into a Variant, LateBound, std::int32_t, double or std::string. argumentType for an answer that
+    /// is none of the type, wrongClass for one that is no object to be called in turn.
     template <class Value>
     [[nodiscard]] Outcome get(std::int32_t member, Value& value, Arguments arguments = {}) const {
         return ask(member, invoke::get, arguments, value);
@@ -43,7 +44,7 @@ private:
     template <class Value>
     Outcome ask(std::int32_t member, std::uint16_t kinds, Arguments arguments, Value& value) const {
         Variant answer;
-        if (Outcome asked = invokeMember(member, kinds, arguments, &answer); !asked.isOk()) return asked;
+        TARQ_TRY(invokeMember(member, kinds, arguments, &answer));
         return convert(std::move(answer), value);
     }
     Outcome invokeMember(std::int32_t member, std::uint16_t kinds, Arguments arguments, Variant* answer) const;

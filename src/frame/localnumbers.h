@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/variant.h"
 #include "platform/userlocale.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

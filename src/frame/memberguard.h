@@ -4,7 +4,7 @@
 #include <new>
 #include <utility>
 
-#include "frame/objecterror.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq {
 

@@ -1,12 +1,13 @@
-#include "frame/membertable.h"
+#include "tarq/frame/membertable.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <limits>
 
-#include "frame/memberbinding.h"
+#include "frame/result.h"
 #include "frame/text.h"
+#include "tarq/frame/memberbinding.h"
 
 namespace tarq {
 namespace {
@@ -48,8 +49,8 @@ public:
         const std::size_t named = arguments_.names.size();
         if (total < named + putValue) return status::argumentCount;
         settable_ = member_.parameters.size() - putValue;
-        if (const Status placed = placePositional(total - named - putValue); !placed.isOk()) return placed;
-        if (const Status placed = placeNamed(total - named - putValue); !placed.isOk()) return placed;
+        TARQ_TRY(placePositional(total - named - putValue));
+        TARQ_TRY(placeNamed(total - named - putValue));
         if (putValue != 0) place(settable_, total - 1);
         for (std::size_t index = 0; index < settable_; ++index) {
             if (call_.given[index] == nullptr && !canBeMissing(member_.parameters[index])) return status::argumentCount;

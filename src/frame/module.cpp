@@ -1,8 +1,8 @@
-#include "frame/module.h"
+#include "tarq/frame/module.h"
 
 #include <atomic>
 
-#include "frame/objecterror.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq::module {
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/objecterror.h"
+#include "tarq/frame/objecterror.h"
 
 #include <cstdlib>
 #include <exception>

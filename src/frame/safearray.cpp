@@ -1,4 +1,4 @@
-#include "frame/safearray.h"
+#include "tarq/frame/safearray.h"
 
 #include <limits>
 #include <new>

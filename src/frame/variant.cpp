@@ -1,8 +1,8 @@
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 #include <memory>
 
-#include "frame/safearray.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {

@@ -1,12 +1,12 @@
 // The conversions of Variant that are not inline.
 #include <cmath>
 
-#include "frame/dispatch.h"
 #include "frame/localnumbers.h"
 #include "frame/memberguard.h"
 #include "frame/numbertext.h"
-#include "frame/variant.h"
 #include "platform/userlocale.h"
+#include "tarq/frame/dispatch.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 namespace {

@@ -5,7 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "frame/safearray.h"
+#include "frame/result.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {
@@ -52,7 +53,7 @@ Outcome readCells(ArrayStore& store, const Selection& selection, Variant& value)
         return forEachSelected(store, selection, [](const Variant&, std::size_t) {});
     }
     SafeArray array;
-    if (Outcome made = makeArray(selection, array); !made.isOk()) return made;
+    TARQ_TRY(makeArray(selection, array));
     const std::span<Variant> elements = array.elements<Variant>();
     if (isWhole(store, selection)) {
         std::ranges::copy(store.block(), elements.begin());

@@ -4,10 +4,10 @@
 #include <span>
 #include <vector>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "indexed/arraystore.h"
 #include "indexed/indexarguments.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

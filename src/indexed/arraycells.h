@@ -3,8 +3,8 @@
 
 #include <span>
 
-#include "frame/variant.h"
 #include "indexed/ownpart.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -17,9 +17,9 @@
 #include <vector>
 
 #include "frame/nameindex.h"
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "indexed/indexset.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

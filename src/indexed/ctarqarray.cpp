@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/arrayaccess.h"
 #include "indexed/ctarqarrayenum.h"
 #include "indexed/plainvalue.h"
@@ -34,7 +35,7 @@ Outcome CTARQArray::requireInitialized() const {
 }
 
 Outcome CTARQArray::requireDimension(std::int32_t dimension, std::string_view otherwise) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     const auto count = static_cast<std::int32_t>(store_.dimensions()->size());
     return dimension < 1 || dimension > count ? refused(std::string(otherwise)) : Outcome();
 }
@@ -45,10 +46,10 @@ Outcome CTARQArray::requireElement(std::int32_t dimension, std::int32_t element)
 }
 
 Outcome CTARQArray::select(const IndexArguments& arguments, Selection& selection) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     // Reading the arguments may call the client, which may change this array.
     const Dimensions base = store_.dimensions();
-    if (Outcome selected = selectIndexsets(arguments, *base, selection); !selected.isOk()) return selected;
+    TARQ_TRY(selectIndexsets(arguments, *base, selection));
     return store_.dimensions() == base ? Outcome() : changedMeanwhile();
 }
 
@@ -67,7 +68,7 @@ Outcome CTARQArray::selectByNumber(const IndexArguments& arguments, Selection& s
         }
         numbers[i] = number.integer();
     }
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     for (std::size_t i = 0; i < base.size(); ++i) {
         if (i < numbers.size() && numbers[i] > 0) {
             selection.append(SelectedDimension(std::vector<std::int32_t>{numbers[i] - 1}));
@@ -116,9 +117,9 @@ Status CTARQArray::Init(const ValueList& ListOfIndexsets) {
 
 Status CTARQArray::SetValues(const ValueList& ListOfValues) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+        TARQ_TRY(requireInitialized());
         std::vector<Variant> values;
-        if (Outcome read = flattenValueList(ListOfValues, values); !read.isOk()) return read;
+        TARQ_TRY(flattenValueList(ListOfValues, values));
         return storeValues(store_, values);
     });
 }
@@ -153,7 +154,7 @@ Status CTARQArray::get_Value(const Variant& Index1, const Variant& Index2, const
 Status CTARQArray::put_Value(const Variant& Index1, const Variant& Index2, const Variant& Index3, const Variant& Index4,
                              const Variant& Index5, const Variant& value) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+        TARQ_TRY(requireInitialized());
         if (isSame(*this, value)) return {status::wrongState, "Cyclic reference to TARQArray."};
         Selection selection;
         Outcome selected = select({&Index1, &Index2, &Index3, &Index4, &Index5}, selection);
@@ -189,7 +190,7 @@ Status CTARQArray::get_NumberOfIndexsets(std::int32_t* value) {
 Status CTARQArray::get_SizeOfIndexset(std::int32_t Indexset, std::int32_t* value) {
     if (value == nullptr) return status::nullPointer;
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome found = requireDimension(Indexset, "Illegal indexset specified."); !found.isOk()) return found;
+        TARQ_TRY(requireDimension(Indexset, "Illegal indexset specified."));
         *value = static_cast<std::int32_t>(namesOf(Indexset).size());
         return {};
     });
@@ -198,8 +199,8 @@ Status CTARQArray::get_SizeOfIndexset(std::int32_t Indexset, std::int32_t* value
 Status CTARQArray::get_IndexsetElement(std::int32_t Indexset, std::int32_t Element, std::string* value) {
     if (value == nullptr) return status::nullPointer;
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome found = requireDimension(Indexset, "Illegal indexset specified."); !found.isOk()) return found;
-        if (Outcome found = requireElement(Indexset, Element); !found.isOk()) return found;
+        TARQ_TRY(requireDimension(Indexset, "Illegal indexset specified."));
+        TARQ_TRY(requireElement(Indexset, Element));
         *value = namesOf(Indexset)[static_cast<std::size_t>(Element) - 1];
         return {};
     });
@@ -207,8 +208,8 @@ Status CTARQArray::get_IndexsetElement(std::int32_t Indexset, std::int32_t Eleme
 
 Status CTARQArray::put_IndexsetElement(std::int32_t Indexset, std::int32_t Element, const std::string& value) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome found = requireDimension(Indexset, "Bad indexset specified."); !found.isOk()) return found;
-        if (Outcome found = requireElement(Indexset, Element); !found.isOk()) return found;
+        TARQ_TRY(requireDimension(Indexset, "Bad indexset specified."));
+        TARQ_TRY(requireElement(Indexset, Element));
         store_.rename(static_cast<std::size_t>(Indexset) - 1, static_cast<std::size_t>(Element) - 1, value);
         return {};
     });
@@ -217,7 +218,7 @@ Status CTARQArray::put_IndexsetElement(std::int32_t Indexset, std::int32_t Eleme
 Status CTARQArray::get_ValueByFullIndexName(const std::string& Indexname, Variant* value) {
     if (value == nullptr) return status::nullPointer;
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+        TARQ_TRY(requireInitialized());
         const Variant* const cell = store_.cellNamed(Indexname);
         if (cell == nullptr) return refused("Index name not found.");
         *value = *cell;

@@ -4,13 +4,13 @@
 #include <span>
 #include <string_view>
 
-#include "frame/countedobject.h"
 #include "indexed/arraycells.h"
 #include "indexed/arraystore.h"
 #include "indexed/idimensions.h"
 #include "indexed/indexarguments.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqarray.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqarray.h"
 
 namespace tarq {
 

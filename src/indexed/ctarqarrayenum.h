@@ -1,12 +1,12 @@
 // CTARQArrayEnum: walks selected cells of an array, in every language's for-each and by named steps.
 #pragma once
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
 #include "indexed/ctarqenumbase.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqarray.h"
-#include "interfaces/itarqarrayenum.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqarrayenum.h"
 
 namespace tarq {
 

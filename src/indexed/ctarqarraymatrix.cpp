@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/arrayaccess.h"
 #include "indexed/ctarqarray.h"
 #include "indexed/matrixproduct.h"
@@ -53,7 +54,7 @@ Outcome readShape(const Variant& argument, Operand& operand) {
 Outcome readValues(const Variant& argument, Operand& operand) {
     std::vector<Variant> values;
     const std::size_t count = combinationCount(operand.sizes);
-    if (Outcome read = expandValues(argument, operand.sizes, count, Kind::Double, values); !read.isOk()) return read;
+    TARQ_TRY(expandValues(argument, operand.sizes, count, Kind::Double, values));
     operand.values.reserve(count);
     for (std::size_t i = 0; i < count; ++i) operand.values.push_back(values[i].real());
     return {};
@@ -74,14 +75,14 @@ Status CTARQArray::MultiplyScalar(double Value) {
 Status CTARQArray::AddMatrix(const Variant& Matrix) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
         ArgumentShape shape;
-        if (Outcome read = shapeOfArgument(Matrix, shape); !read.isOk()) return read;
+        TARQ_TRY(shapeOfArgument(Matrix, shape));
         const std::vector<std::size_t> sizes = store_.sizes();
         if (shape.sizes != sizes) return refused("Matrices do not have the same dimensions");
         const Dimensions before = store_.dimensions();
         std::vector<Variant> values;
         // Combinations may share a cell, which then is counted once.
         const std::size_t count = store_.count() == 0 ? 0 : combinationCount(sizes);
-        if (Outcome read = expandValues(Matrix, sizes, count, Kind::Double, values); !read.isOk()) return read;
+        TARQ_TRY(expandValues(Matrix, sizes, count, Kind::Double, values));
         if (store_.dimensions() != before) return changedMeanwhile();
         return addValues(std::span(values).first(count));
     });
@@ -102,8 +103,8 @@ Status CTARQArray::MultiplyMatrices(const Variant& Matrix1, const Variant& Matri
     return guarded(classid::TARQArray, [&]() -> Outcome {
         Operand left;
         Operand right;
-        if (Outcome read = readShape(Matrix1, left); !read.isOk()) return read;
-        if (Outcome read = readShape(Matrix2, right); !read.isOk()) return read;
+        TARQ_TRY(readShape(Matrix1, left));
+        TARQ_TRY(readShape(Matrix2, right));
         if (left.sizes.size() != 2 || right.sizes.size() != 2) {
             return refused("Matrix multiplication only for 2-dimensional arrays allowed.");
         }
@@ -113,10 +114,10 @@ Status CTARQArray::MultiplyMatrices(const Variant& Matrix1, const Variant& Matri
         const Variant rows(static_cast<std::int32_t>(left.sizes[0]));
         const Variant columns(static_cast<std::int32_t>(right.sizes[1]));
         // An operand that is this array is empty from here on.
-        if (const Status ready = Init(ValueList({rows, columns})); !ready.isOk()) return ready;
+        TARQ_TRY(Init(ValueList({rows, columns})));
         const Dimensions target = store_.dimensions();
-        if (Outcome read = readValues(Matrix1, left); !read.isOk()) return read;
-        if (Outcome read = readValues(Matrix2, right); !read.isOk()) return read;
+        TARQ_TRY(readValues(Matrix1, left));
+        TARQ_TRY(readValues(Matrix2, right));
         if (store_.dimensions() != target) return changedMeanwhile();
         const std::vector<double> product = multiply(left.view(), right.view());
         for (std::size_t i = 0; i < product.size(); ++i) {
@@ -130,7 +131,7 @@ Status CTARQArray::MultiplyMatrices(const Variant& Matrix1, const Variant& Matri
 
 Status CTARQArray::TransposeMatrix() {
     return guarded(classid::TARQArray, [&]() -> Outcome {
-        if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+        TARQ_TRY(requireInitialized());
         if (store_.dimensions()->size() != 2) {
             return {status::wrongState, "Only 2-dimensional matrices can be transposed."};
         }
@@ -143,16 +144,16 @@ Status CTARQArray::CloneFrom(const Variant& Array) {
     return guarded(classid::TARQArray, [&]() -> Outcome {
         store_.clear();
         ArgumentShape shape;
-        if (Outcome read = shapeOfArgument(Array, shape); !read.isOk()) return read;
+        TARQ_TRY(shapeOfArgument(Array, shape));
         const std::vector<std::size_t>& sizes = shape.sizes;
         if (sizes.empty()) return {};
         std::vector<Indexset> indexsets;
-        if (Outcome read = readNames(shape, indexsets); !read.isOk()) return read;
-        if (Outcome ready = store_.initialize(std::move(indexsets)); !ready.isOk()) return ready;
+        TARQ_TRY(readNames(shape, indexsets));
+        TARQ_TRY(store_.initialize(std::move(indexsets)));
         const Dimensions target = store_.dimensions();
         std::vector<Variant> values;
         const std::size_t count = combinationCount(sizes);
-        if (Outcome read = expandValues(Array, sizes, count, Kind::Empty, values); !read.isOk()) return read;
+        TARQ_TRY(expandValues(Array, sizes, count, Kind::Empty, values));
         if (store_.dimensions() != target) return changedMeanwhile();
         values.resize(count);
         return storeValues(store_, values);

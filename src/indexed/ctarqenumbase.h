@@ -7,11 +7,12 @@
 #include <utility>
 #include <vector>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/idimensions.h"
 #include "indexed/selectionwalk.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
 
 namespace tarq {
 
@@ -22,7 +23,7 @@ public:
     Status Skip(std::uint32_t count) override {
         Status ended;
         const Status ready = guarded(classId, [&]() -> Outcome {
-            if (Outcome initialized = requireInitialized(); !initialized.isOk()) return initialized;
+            TARQ_TRY(requireInitialized());
             ended = walk_.skip(count) ? status::ok : IEnumVARIANT::fewerLeft;
             return {};
         });
@@ -30,7 +31,7 @@ public:
     }
     Status Reset() override {
         return guarded(classId, [&]() -> Outcome {
-            if (Outcome initialized = requireInitialized(); !initialized.isOk()) return initialized;
+            TARQ_TRY(requireInitialized());
             walk_.reset();
             return {};
         });
@@ -48,9 +49,9 @@ protected:
     Outcome select(Ref<ParentInterface> parent, const IndexArguments& indices, std::string prefix) {
         walk_ = SelectionWalk();
         Dimensions base;
-        if (const Status read = readDimensions(parent, base); !read.isOk()) return read;
+        TARQ_TRY(readDimensions(parent, base));
         Selection selection;
-        if (Outcome selected = selectIndexsets(indices, *base, selection); !selected.isOk()) return selected;
+        TARQ_TRY(selectIndexsets(indices, *base, selection));
         // Together, because reading the indices may have called a client that started this enumerator over others.
         walk_ = SelectionWalk(std::move(prefix), std::move(base), std::move(selection));
         parent_ = std::move(parent);
@@ -99,10 +100,10 @@ private:
 
     static Status readNames(ParentInterface& parent, std::vector<Indexset>& base) {
         std::int32_t dimensions = 0;
-        if (const Status read = parent.get_NumberOfIndexsets(&dimensions); !read.isOk()) return read;
+        TARQ_TRY(parent.get_NumberOfIndexsets(&dimensions));
         for (std::int32_t dimension = 1; dimension <= dimensions; ++dimension) {
             std::int32_t size = 0;
-            if (const Status read = parent.get_SizeOfIndexset(dimension, &size); !read.isOk()) return read;
+            TARQ_TRY(parent.get_SizeOfIndexset(dimension, &size));
             Indexset& names = base.emplace_back();
             for (std::int32_t element = 1; element <= size; ++element) {
                 std::string name;

@@ -4,11 +4,12 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/countedobject.h"
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/family.h"
 #include "indexed/idimensions.h"
 #include "interfaces/ifamilyidentity.h"
+#include "tarq/frame/countedobject.h"
 
 namespace tarq {
 
@@ -103,7 +104,7 @@ public:
         if (value == nullptr) return status::nullPointer;
         return guarded(side.classId, [&]() -> Outcome {
             std::int32_t number = 0;
-            if (Outcome found = family_.numberInModel(Index, number); !found.isOk()) return found;
+            TARQ_TRY(family_.numberInModel(Index, number));
             const Ref<ITARQModel> model = family_.model();
             return (model.get()->*side.object)(Variant(number), value);
         });

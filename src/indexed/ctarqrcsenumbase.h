@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "frame/result.h"
 #include "indexed/ctarqenumbase.h"
 
 namespace tarq {
@@ -44,7 +45,7 @@ public:
             this->walk_ = SelectionWalk();
             if (!parent) return {status::invalidArgument, "First paramter is no TARQResSet or TARQVarSet."};
             std::string name;
-            if (const Status asked = parent->get_Name(&name); !asked.isOk()) return asked;
+            TARQ_TRY(parent->get_Name(&name));
             return this->select(std::move(parent), {&Index1, &Index2, &Index3, &Index4, &Index5}, std::move(name));
         });
     }
@@ -62,7 +63,7 @@ public:
     Status get_Count(std::int32_t* value) override {
         if (value == nullptr) return status::nullPointer;
         return guarded(classId, [&]() -> Outcome {
-            if (Outcome ready = this->requireInitialized(); !ready.isOk()) return ready;
+            TARQ_TRY(this->requireInitialized());
             // A family that Init found too large still has its dimensions.
             const std::size_t count = this->walk_.count();
             if (count > std::numeric_limits<std::int32_t>::max()) return status::outOfMemory;
@@ -73,7 +74,7 @@ public:
     Status get_ItemName(std::int32_t ItemIndex, std::string* value) override {
         if (value == nullptr) return status::nullPointer;
         return guarded(classId, [&]() -> Outcome {
-            if (Outcome ready = this->requireInitialized(); !ready.isOk()) return ready;
+            TARQ_TRY(this->requireInitialized());
             if (ItemIndex < 1 || static_cast<std::size_t>(ItemIndex) > this->walk_.count()) {
                 return {status::indexOutOfRange, "Index out of valid range."};
             }

@@ -1,5 +1,6 @@
 #include "indexed/ctarqres.h"
 
+#include "frame/result.h"
 #include "indexed/termlist.h"
 
 namespace tarq {
@@ -10,7 +11,7 @@ constexpr double unbounded = 1e25;
 
 Outcome addTerms(ITARQModel& model, const Variant& row, const ValueList& list) {
     TermList terms;
-    if (Outcome parsed = parseCoeffsAndCols(list, terms); !parsed.isOk()) return parsed;
+    TARQ_TRY(parseCoeffsAndCols(list, terms));
     return walkTerms(terms, [&](const std::string& name, double coefficient) -> Outcome {
         return model.AddNZ(row, Variant(name), coefficient);
     });

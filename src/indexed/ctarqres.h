@@ -2,8 +2,8 @@
 #pragma once
 
 #include "indexed/itemobject.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqres.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqres.h"
 
 namespace tarq {
 

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "frame/result.h"
 #include "indexed/termlist.h"
 
 namespace tarq {
@@ -20,7 +21,7 @@ Outcome addTerm(ITARQModel& model, std::int32_t rowNumber, const std::vector<Var
     const Variant row(rowNumber);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const double coefficient = coefficients[coefficients.size() == 1 ? 0 : i];
-        if (const Status added = model.AddNZ(row, columns[i], coefficient); !added.isOk()) return added;
+        TARQ_TRY(model.AddNZ(row, columns[i], coefficient));
     }
     return {};
 }
@@ -54,21 +55,21 @@ Outcome CTARQResSet::addTerms(const ValueList& coeffsAndCols) {
     const Ref<ITARQModel> model = family_.model();
     if (!model) return {status::wrongState, "TARQResSet is not attached to a TARQModel."};
     TermList terms;
-    if (Outcome parsed = parseCoeffsAndCols(coeffsAndCols, terms); !parsed.isOk()) return parsed;
-    if (Outcome checked = checkTermCount(terms); !checked.isOk()) return checked;
-    if (Outcome ready = family_.requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(parseCoeffsAndCols(coeffsAndCols, terms));
+    TARQ_TRY(checkTermCount(terms));
+    TARQ_TRY(family_.requireInitialized());
     const std::size_t rows = family_.memberCount();
     std::int32_t start = 0;
-    if (Outcome found = family_.findStart(*model, start); !found.isOk()) return found;
+    TARQ_TRY(family_.findStart(*model, start));
     for (std::size_t term = 0; term < terms.columns.size(); ++term) {
         const CoefficientGroup& coefficients = terms.coefficients[term];
-        if (Outcome checked = checkTerm(coefficients, terms.columns[term]); !checked.isOk()) return checked;
+        TARQ_TRY(checkTerm(coefficients, terms.columns[term]));
         std::vector<Variant> columns;
         for (std::string& name : terms.columns[term]) columns.emplace_back(std::move(name));
         for (std::size_t ordinal = 0; ordinal < rows; ++ordinal) {
             std::int32_t row = 0;
-            if (Outcome there = family_.numberInModel(start, ordinal, row); !there.isOk()) return there;
-            if (Outcome added = addTerm(*model, row, columns, coefficients); !added.isOk()) return added;
+            TARQ_TRY(family_.numberInModel(start, ordinal, row));
+            TARQ_TRY(addTerm(*model, row, columns, coefficients));
         }
     }
     return {};

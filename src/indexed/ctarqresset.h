@@ -3,7 +3,7 @@
 
 #include "indexed/ctarqfamily.h"
 #include "indexed/ctarqressetenum.h"
-#include "interfaces/itarqresset.h"
+#include "tarq/interfaces/itarqresset.h"
 
 namespace tarq {
 

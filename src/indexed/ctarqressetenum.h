@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "indexed/ctarqrcsenumbase.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqresset.h"
-#include "interfaces/itarqressetenum.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqresset.h"
+#include "tarq/interfaces/itarqressetenum.h"
 
 namespace tarq {
 

@@ -1,8 +1,9 @@
 #include "indexed/ctarqseries.h"
 
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/ctarqseriesenum.h"
-#include "interfaces/classids.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 
@@ -24,7 +25,7 @@ Status CTARQSeries::get__NewEnum(Ref<IUnknown>* value) {
             return created;
         }
         const auto enumerator = Ref<ITARQSeriesEnum>::adopt(static_cast<ITARQSeriesEnum*>(made));
-        if (const Status ready = enumerator->Init(range_.start, range_.end, range_.step); !ready.isOk()) return ready;
+        TARQ_TRY(enumerator->Init(range_.start, range_.end, range_.step));
         *value = Ref<IUnknown>(enumerator.get());
         return {};
     });
@@ -32,7 +33,7 @@ Status CTARQSeries::get__NewEnum(Ref<IUnknown>* value) {
 
 Status CTARQSeries::get_Series(double Start, double End, const Variant& Step, Ref<IUnknown>* value) {
     if (value == nullptr) return status::nullPointer;
-    if (const Status ready = Init(Start, End, Step); !ready.isOk()) return ready;
+    TARQ_TRY(Init(Start, End, Step));
     *value = Ref<IUnknown>(static_cast<ITARQSeries*>(this));
     return status::ok;
 }

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "frame/countedobject.h"
 #include "indexed/serieswalk.h"
-#include "interfaces/itarqseries.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/interfaces/itarqseries.h"
 
 namespace tarq {
 

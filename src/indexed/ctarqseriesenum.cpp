@@ -1,7 +1,7 @@
 #include "indexed/ctarqseriesenum.h"
 
 #include "frame/memberguard.h"
-#include "interfaces/classids.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 namespace {

@@ -3,11 +3,11 @@
 
 #include <cstdint>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
 #include "indexed/iserieslength.h"
 #include "indexed/serieswalk.h"
-#include "interfaces/itarqseriesenum.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/interfaces/itarqseriesenum.h"
 
 namespace tarq {
 

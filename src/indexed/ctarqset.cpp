@@ -1,11 +1,12 @@
 #include "indexed/ctarqset.h"
 
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/ctarqsetenum.h"
 #include "indexed/elementenum.h"
 #include "indexed/setarithmetic.h"
 #include "indexed/setelements.h"
-#include "interfaces/classids.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 
@@ -46,8 +47,8 @@ Status CTARQSet::get__NewEnum(Ref<IUnknown>* value) {
 
 Status CTARQSet::get_Set(const ValueList& varpar, Ref<IUnknown>* value) {
     if (value == nullptr) return status::nullPointer;
-    if (const Status cleared = Clear(); !cleared.isOk()) return cleared;
-    if (const Status added = Add(varpar); !added.isOk()) return added;
+    TARQ_TRY(Clear());
+    TARQ_TRY(Add(varpar));
     *value = Ref<IUnknown>(static_cast<ITARQSet*>(this));
     return status::ok;
 }
@@ -64,13 +65,9 @@ Status CTARQSet::get_DotProduct(const Variant& Vector, double* value) {
 Status CTARQSet::get_Enum(const Variant& Start, const Variant& End, const Variant& Step, Ref<IUnknown>* value) {
     if (value == nullptr) return status::nullPointer;
     void* made = nullptr;
-    if (const Status created = createInstance<CTARQSetEnum>(nullptr, ITARQSetEnum::id, &made); !created.isOk()) {
-        return created;
-    }
+    TARQ_TRY(createInstance<CTARQSetEnum>(nullptr, ITARQSetEnum::id, &made));
     const auto enumerator = Ref<ITARQSetEnum>::adopt(static_cast<ITARQSetEnum*>(made));
-    if (const Status ready = enumerator->Init(static_cast<ITARQSet*>(this), Start, End, Step); !ready.isOk()) {
-        return ready;
-    }
+    TARQ_TRY(enumerator->Init(static_cast<ITARQSet*>(this), Start, End, Step));
     *value = Ref<IUnknown>(enumerator.get());
     return status::ok;
 }

@@ -5,9 +5,9 @@
 
 #include <cstdint>
 
-#include "frame/countedobject.h"
 #include "indexed/elementlist.h"
-#include "interfaces/itarqset.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/interfaces/itarqset.h"
 
 namespace tarq {
 

@@ -3,7 +3,8 @@
 #include <utility>
 
 #include "frame/memberguard.h"
-#include "interfaces/classids.h"
+#include "frame/result.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 namespace {
@@ -21,7 +22,7 @@ Outcome refused(const char* description) { return {status::invalidArgument, desc
 Outcome findItem(ITARQSet& set, const Variant& item, const char* notFound, std::int64_t& position) {
     if (item.isMissing()) return {};
     std::int32_t found = 0;
-    if (const Status status = set.get_Index(item, &found); !status.isOk()) return status;
+    TARQ_TRY(set.get_Index(item, &found));
     if (found == 0) return refused(notFound);
     position = found;
     return {};
@@ -36,7 +37,7 @@ Outcome readStep(Variant given, std::int64_t& step) {
 
 Outcome makeWalk(ITARQSet& set, const Variant& start, const Variant& end, const Variant& step, PositionWalk& walk) {
     std::int32_t count = 0;
-    if (const Status counted = set.get_Count(&count); !counted.isOk()) return counted;
+    TARQ_TRY(set.get_Count(&count));
     if (count == 0) {
         if (!start.isMissing() || !end.isMissing() || !step.isMissing()) return refused("Base TARQSet is empty.");
         walk.start = walk.end = 0;
@@ -44,9 +45,9 @@ Outcome makeWalk(ITARQSet& set, const Variant& start, const Variant& end, const 
         return {};
     }
     PositionWalk made{.start = 1, .end = count, .step = 1};
-    if (Outcome outcome = findItem(set, start, "Start item not found.", made.start); !outcome.isOk()) return outcome;
-    if (Outcome outcome = findItem(set, end, "End item not found.", made.end); !outcome.isOk()) return outcome;
-    if (Outcome outcome = readStep(step, made.step); !outcome.isOk()) return outcome;
+    TARQ_TRY(findItem(set, start, "Start item not found.", made.start));
+    TARQ_TRY(findItem(set, end, "End item not found.", made.end));
+    TARQ_TRY(readStep(step, made.step));
     if (made.step > 0 && made.end < made.start) return refused("Start item situated after end item.");
     if (made.step < 0 && made.start < made.end) return refused("Start item situated before end item.");
     made.reset();
@@ -82,7 +83,7 @@ Status CTARQSetEnum::MoveNext() {
 Status CTARQSetEnum::get__NewEnum(Ref<IUnknown>* value) {
     if (!parent_) return notInitialized();
     if (value == nullptr) return status::nullPointer;
-    if (const Status reset = Reset(); !reset.isOk()) return reset;
+    TARQ_TRY(Reset());
     *value = Ref<IUnknown>(static_cast<ITARQSetEnum*>(this));
     return status::ok;
 }
@@ -111,11 +112,11 @@ Status CTARQSetEnum::Next(std::uint32_t count, Variant* values, std::uint32_t* f
     const Ref<ITARQSet> parent = parent_;  // which another Init may let go of meanwhile
     return contained([&] {
         std::int32_t size = 0;
-        if (const Status counted = parent->get_Count(&size); !counted.isOk()) return counted;
+        TARQ_TRY(parent->get_Count(&size));
         if (size == 0) return fewerLeft;
         std::uint32_t taken = 0;
         for (; taken < count && walk_.inRange(); ++taken) {
-            if (const Status got = parent->get_Item(walk_.position(), &values[taken]); !got.isOk()) return got;
+            TARQ_TRY(parent->get_Item(walk_.position(), &values[taken]));
             walk_.advance();
         }
         if (fetched != nullptr) *fetched = taken;

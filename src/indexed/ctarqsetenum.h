@@ -6,11 +6,11 @@
 
 #include <cstdint>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
 #include "indexed/positionwalk.h"
-#include "interfaces/itarqset.h"
-#include "interfaces/itarqsetenum.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/interfaces/itarqset.h"
+#include "tarq/interfaces/itarqsetenum.h"
 
 namespace tarq {
 

@@ -3,7 +3,7 @@
 
 #include "indexed/ctarqfamily.h"
 #include "indexed/ctarqvarsetenum.h"
-#include "interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarset.h"
 
 namespace tarq {
 

@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "indexed/ctarqrcsenumbase.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqvarset.h"
-#include "interfaces/itarqvarsetenum.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 

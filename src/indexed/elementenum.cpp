@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "frame/memberguard.h"
-#include "interfaces/classids.h"
+#include "tarq/interfaces/classids.h"
 
 namespace tarq {
 

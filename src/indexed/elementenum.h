@@ -8,9 +8,9 @@
 #include <memory>
 #include <utility>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
 #include "indexed/elementlist.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
 
 namespace tarq {
 

@@ -10,7 +10,7 @@
 #include <new>
 #include <vector>
 
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "frame/nameindex.h"
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

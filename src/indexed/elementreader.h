@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/safearray.h"
-#include "frame/variant.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "frame/result.h"
 #include "frame/text.h"
 #include "indexed/plainvalue.h"
 
@@ -42,7 +43,7 @@ Outcome walkMembers(const std::vector<Indexset>& dimensions, const std::string& 
     std::size_t ordinal = 0;
     do {
         const std::string name = fullIndexName(prefix, dimensions, positions);
-        if (Outcome taken = take(ordinal++, name); !taken.isOk()) return taken;
+        TARQ_TRY(take(ordinal++, name));
     } while (nextIndexCombination(sizes, positions));
     return {};
 }
@@ -88,7 +89,7 @@ Outcome Family::addMembers() {
     const std::string name = name_;
     countMembers();
     return walkMembers(*dimensions, name, [&](std::size_t /*ordinal*/, const std::string& member) -> Outcome {
-        if (const Status added = (model.get()->*side_.add)(&member, self_); !added.isOk()) return added;
+        TARQ_TRY((model.get()->*side_.add)(&member, self_));
         if (dimensions_ != dimensions || name_ != name) return changedMeanwhile();
         ++addedCount_;
         return {};
@@ -99,7 +100,7 @@ Outcome Family::clear() {
     Dimensions none = std::make_shared<const std::vector<Indexset>>();
     const Ref<ITARQModel> model = model_;
     if (model) {
-        if (const Status cleared = (model.get()->*side_.clear)(self_); !cleared.isOk()) return cleared;
+        TARQ_TRY((model.get()->*side_.clear)(self_));
     }
     name_.clear();
     dimensions_ = std::move(none);
@@ -117,28 +118,28 @@ Outcome Family::rename(const std::string& name) {
     const auto dimensions = dimensions_;
     const Ref<ITARQModel> model = model_;
     std::int32_t start = 0;
-    if (Outcome found = findStart(*model, start); !found.isOk()) return found;
+    TARQ_TRY(findStart(*model, start));
     return walkMembers(*dimensions, name, [&](std::size_t ordinal, const std::string& member) -> Outcome {
         std::int32_t number = 0;
-        if (Outcome there = numberInModel(start, ordinal, number); !there.isOk()) return there;
+        TARQ_TRY(numberInModel(start, ordinal, number));
         return side_.rename(*model, number - 1, member);
     });
 }
 
 Outcome Family::requireDimension(std::int32_t dimension) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     if (dimension >= 1 && static_cast<std::size_t>(dimension) <= dimensions_->size()) return {};
     return {status::invalidArgument, "Illegal indexset specified."};
 }
 
 Outcome Family::sizeOf(std::int32_t dimension, std::int32_t& size) const {
-    if (Outcome found = requireDimension(dimension); !found.isOk()) return found;
+    TARQ_TRY(requireDimension(dimension));
     size = static_cast<std::int32_t>((*dimensions_)[static_cast<std::size_t>(dimension) - 1].size());
     return {};
 }
 
 Outcome Family::elementName(std::int32_t dimension, std::int32_t element, std::string& name) const {
-    if (Outcome found = requireDimension(dimension); !found.isOk()) return found;
+    TARQ_TRY(requireDimension(dimension));
     const Indexset& names = (*dimensions_)[static_cast<std::size_t>(dimension) - 1];
     if (element < 1 || static_cast<std::size_t>(element) > names.size()) {
         return {status::elementOutOfRange, "Indexset element number is out of valid range."};
@@ -148,7 +149,7 @@ Outcome Family::elementName(std::int32_t dimension, std::int32_t element, std::s
 }
 
 Outcome Family::memberName(std::int32_t number, std::string& name) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     if (number < 1 || static_cast<std::size_t>(number) > memberCount_) return rangeFailure();
     std::size_t ordinal = static_cast<std::size_t>(number) - 1;
     std::vector<std::size_t> positions(dimensions_->size());
@@ -175,7 +176,7 @@ Outcome Family::numberInModel(std::int32_t start, std::size_t ordinal, std::int3
 }
 
 Outcome Family::numberInModel(const Variant& index, std::int32_t& number) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     const Ref<ITARQModel> model = model_;
     const PlainValue plain(index);
     if (plain->isText()) return (model.get()->*side_.numberOf)(*plain, &number);
@@ -185,13 +186,13 @@ Outcome Family::numberInModel(const Variant& index, std::int32_t& number) const 
     }
     if (whole.integer() < 1 || static_cast<std::size_t>(whole.integer()) > memberCount_) return rangeFailure();
     std::int32_t start = 0;
-    if (Outcome found = findStart(*model, start); !found.isOk()) return found;
+    TARQ_TRY(findStart(*model, start));
     return numberInModel(start, static_cast<std::size_t>(whole.integer()) - 1, number);
 }
 
 Outcome Family::copyFrom(const Variant& index, IUnknown* object) {
     std::int32_t number = 0;
-    if (Outcome found = numberInModel(index, number); !found.isOk()) return found;
+    TARQ_TRY(numberInModel(index, number));
     const Ref<ITARQModel> model = model_;
     Status copied;
     if (side_.copyFrom(*model, number - 1, Ref<IUnknown>(object), copied)) return copied;

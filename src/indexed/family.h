@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/module.h"
-#include "frame/status.h"
-#include "frame/valuelist.h"
-#include "frame/variant.h"
 #include "indexed/familyside.h"
 #include "indexed/indexarguments.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/frame/module.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/valuelist.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 

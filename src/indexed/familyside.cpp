@@ -1,8 +1,9 @@
 #include "indexed/familyside.h"
 
-#include "interfaces/classids.h"
-#include "interfaces/itarqres.h"
-#include "interfaces/itarqvar.h"
+#include "frame/result.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqres.h"
+#include "tarq/interfaces/itarqvar.h"
 
 namespace tarq {
 namespace {
@@ -40,18 +41,18 @@ Status copyColumn(ITARQModel& model, std::int32_t position, ITARQVar& column) {
     double upper = 0;
     double cost = 0;
     auto type = TARQColType::Continuous;
-    if (const Status read = column.get_LB(&lower); !read.isOk()) return read;
-    if (const Status read = column.get_UB(&upper); !read.isOk()) return read;
-    if (const Status read = column.get_Cost(&cost); !read.isOk()) return read;
-    if (const Status read = column.get_Type(&type); !read.isOk()) return read;
+    TARQ_TRY(column.get_LB(&lower));
+    TARQ_TRY(column.get_UB(&upper));
+    TARQ_TRY(column.get_Cost(&cost));
+    TARQ_TRY(column.get_Type(&type));
     return model._ChangeCol(position, &lower, &upper, &type, &cost, nullptr);
 }
 
 Status copyRow(ITARQModel& model, std::int32_t position, ITARQRes& row) {
     double lower = 0;
     double upper = 0;
-    if (const Status read = row.get_LB(&lower); !read.isOk()) return read;
-    if (const Status read = row.get_UB(&upper); !read.isOk()) return read;
+    TARQ_TRY(row.get_LB(&lower));
+    TARQ_TRY(row.get_UB(&upper));
     return model._ChangeRow(position, &lower, &upper, nullptr);
 }
 

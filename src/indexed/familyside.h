@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "frame/guid.h"
-#include "frame/object.h"
-#include "frame/status.h"
-#include "frame/variant.h"
-#include "interfaces/enumerations.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/frame/guid.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/enumerations.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 

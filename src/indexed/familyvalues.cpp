@@ -3,10 +3,11 @@
 #include <type_traits>
 #include <utility>
 
-#include "frame/safearray.h"
+#include "frame/result.h"
 #include "indexed/family.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {
@@ -26,7 +27,7 @@ Outcome bulkResult(std::span<const std::size_t> sizes, const std::vector<Value>&
     std::vector<Dimension> dimensions;
     for (const std::size_t size : sizes) dimensions.push_back({0, static_cast<std::uint32_t>(size)});
     SafeArray array;
-    if (Outcome made = SafeArray::create(elementKindOf<Value>, dimensions, array); !made.isOk()) return made;
+    TARQ_TRY(SafeArray::create(elementKindOf<Value>, dimensions, array));
     std::ranges::copy(values, array.elements<Value>().begin());
     result = Variant(std::move(array));
     return {};
@@ -41,7 +42,7 @@ std::size_t ordinalOf(const std::vector<Indexset>& dimensions, std::span<const s
 }  // namespace
 
 Outcome Family::select(const IndexArguments& indices, SelectedMembers& members) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     members.model = model_;
     members.prefix = name_;
     members.dimensions = dimensions_;
@@ -50,7 +51,7 @@ Outcome Family::select(const IndexArguments& indices, SelectedMembers& members) 
 
 Outcome Family::memberName(const IndexArguments& indices, std::string& name) const {
     SelectedMembers members;
-    if (Outcome selected = select(indices, members); !selected.isOk()) return selected;
+    TARQ_TRY(select(indices, members));
     if (members.selection.count() != 1) return {status::wrongState, std::string(side_.onlyOne)};
     return members.selection.walk([&](std::span<const std::size_t> positions) -> Outcome {
         name = fullIndexName(members.prefix, *members.dimensions, positions);
@@ -60,10 +61,10 @@ Outcome Family::memberName(const IndexArguments& indices, std::string& name) con
 
 template <class Value>
 Outcome Family::read(MemberGet<Value> get, const IndexArguments& indices, Variant* value) const {
-    if (Outcome ready = requireInitialized(); !ready.isOk()) return ready;
+    TARQ_TRY(requireInitialized());
     if (value == nullptr) return status::nullPointer;
     SelectedMembers members;
-    if (Outcome selected = select(indices, members); !selected.isOk()) return selected;
+    TARQ_TRY(select(indices, members));
     std::vector<Element<Value>> values;
     // More than there are members are selected where Init failed, and then one of the first isn't there.
     values.reserve(std::min(members.selection.count(), addedCount_));
@@ -83,7 +84,7 @@ template Outcome Family::read(MemberGet<TARQColRowStatusType>, const IndexArgume
 
 Outcome Family::write(MemberChange change, Kind target, const IndexArguments& indices, const Variant& value) {
     SelectedMembers members;
-    if (Outcome selected = select(indices, members); !selected.isOk()) return selected;
+    TARQ_TRY(select(indices, members));
     const Selection& selection = members.selection;
     std::vector<Variant> values;
     // Without members, as after an Init that failed, nothing is written, so a single value needs no copies, of which
@@ -97,7 +98,7 @@ Outcome Family::write(MemberChange change, Kind target, const IndexArguments& in
     // An object that was read may have called this family.
     if (dimensions_ != members.dimensions) return changedMeanwhile();
     std::int32_t start = 0;
-    if (Outcome found = findStart(*members.model, start); !found.isOk()) return found;
+    TARQ_TRY(findStart(*members.model, start));
     std::size_t turn = 0;
     return selection.walk([&](std::span<const std::size_t> positions) -> Outcome {
         std::int32_t number = 0;

@@ -2,10 +2,11 @@
 
 #include <utility>
 
-#include "frame/safearray.h"
+#include "frame/result.h"
 #include "indexed/elementreader.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {
@@ -20,14 +21,14 @@ Outcome readArray(const SafeArray& array, Indexset& names) {
     const std::size_t count = array.elementCount();
     names.reserve(count);
     for (std::size_t position = 0; position < count; ++position) {
-        if (Outcome added = addIndexElement(reader.value(position), names); !added.isOk()) return added;
+        TARQ_TRY(addIndexElement(reader.value(position), names));
     }
     return {};
 }
 
 Outcome readObject(IUnknown* object, Indexset& names) {
     ValueSource source;
-    if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
+    TARQ_TRY(openValueSource(object, source));
     if (!source.offered) return refused("Passed object cannot be used as an index set.");
     return walkIntoList(source, names, [&](const Variant& value) { return addIndexElement(value, names); });
 }
@@ -66,7 +67,7 @@ Outcome notThere(const std::string& element) {
 
 Outcome selectOne(const Variant& argument, const Indexset& base, std::vector<std::int32_t>& positions) {
     std::string name;
-    if (Outcome read = indexElementName(argument, name); !read.isOk()) return read;
+    TARQ_TRY(indexElementName(argument, name));
     const std::int32_t position = base.find(name);
     if (position == Indexset::absent) return notThere(name);
     positions.push_back(position);
@@ -75,7 +76,7 @@ Outcome selectOne(const Variant& argument, const Indexset& base, std::vector<std
 
 Outcome selectMany(const Variant& argument, const Indexset& base, std::vector<std::int32_t>& positions) {
     Indexset names;
-    if (Outcome read = readArgument(argument, names); !read.isOk()) return read;
+    TARQ_TRY(readArgument(argument, names));
     positions.reserve(names.size());
     for (const std::string& name : names.names()) {
         const std::int32_t position = base.find(name);
@@ -91,7 +92,7 @@ Outcome readIndexsetList(const ValueList& list, std::vector<Indexset>& indexsets
     if (list.length() == 0) return refused("Empty index set.");
     for (const Variant& entry : list.walk()) {
         Indexset names;
-        if (Outcome read = readEntry(entry, names); !read.isOk()) return read;
+        TARQ_TRY(readEntry(entry, names));
         if (names.empty()) return refused("Empty index set.");
         indexsets.push_back(std::move(names));
     }

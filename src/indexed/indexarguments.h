@@ -11,10 +11,11 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/status.h"
-#include "frame/valuelist.h"
-#include "frame/variant.h"
+#include "frame/result.h"
 #include "indexed/indexset.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/valuelist.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -85,7 +86,7 @@ Outcome Selection::walk(const Take& take) const {
     std::vector<std::size_t> positions(sizes_.size());
     do {
         for (std::size_t i = 0; i < turn.size(); ++i) positions[i] = dimensions_[i][turn[i]];
-        if (Outcome taken = take(std::span<const std::size_t>(positions)); !taken.isOk()) return taken;
+        TARQ_TRY(take(std::span<const std::size_t>(positions)));
     } while (nextIndexCombination(sizes_, turn));
     return {};
 }

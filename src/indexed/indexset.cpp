@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <utility>
+#include "frame/result.h"
 
 namespace tarq {
 namespace {
@@ -102,7 +103,7 @@ Outcome indexElementName(const Variant& value, std::string& name) {
 
 Outcome addIndexElement(const Variant& value, Indexset& names) {
     std::string name;
-    if (Outcome read = indexElementName(value, name); !read.isOk()) return read;
+    TARQ_TRY(indexElementName(value, name));
     if (names.find(name) != Indexset::absent) {
         return {status::invalidArgument, std::string("Duplicate element '").append(name).append("' in index.")};
     }

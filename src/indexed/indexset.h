@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "frame/nameindex.h"
-#include "frame/status.h"
-#include "frame/variant.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

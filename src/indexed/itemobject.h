@@ -1,9 +1,10 @@
 // ItemObject: the members that ITARQVar and ITARQRes share.
 #pragma once
 
-#include "frame/countedobject.h"
 #include "frame/memberguard.h"
+#include "frame/result.h"
 #include "indexed/modelitem.h"
+#include "tarq/frame/countedobject.h"
 
 namespace tarq {
 
@@ -15,7 +16,7 @@ public:
     Status Attach(IUnknown* TARQModel, const Variant& address) override {
         // The object itself may be what keeps its next model alive.
         const Ref<IUnknown> given(TARQModel);
-        if (const Status detached = this->Detach(); !detached.isOk()) return detached;
+        TARQ_TRY(this->Detach());
         return guarded(classId, [&] { return item_.attach(TARQModel, address); });
     }
     Status Detach() override {

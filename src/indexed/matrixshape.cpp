@@ -5,12 +5,12 @@
 #include <string>
 #include <utility>
 
-#include "frame/safearray.h"
 #include "indexed/objectvalues.h"
 #include "indexed/spreadsheetrange.h"
-#include "interfaces/itarqarray.h"
-#include "interfaces/itarqseries.h"
-#include "interfaces/itarqset.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqseries.h"
+#include "tarq/interfaces/itarqset.h"
 
 namespace tarq {
 namespace {

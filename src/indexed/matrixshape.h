@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "indexed/indexset.h"
-#include "interfaces/itarqarray.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/itarqarray.h"
 
 namespace tarq {
 

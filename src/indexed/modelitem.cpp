@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "frame/result.h"
 #include "frame/text.h"
 
 namespace tarq {
@@ -67,7 +68,7 @@ Outcome ModelItem::attach(IUnknown* model, const Variant& address) {
     Ref<ITARQModel> asked = Ref<IUnknown>(model).query<ITARQModel>();
     if (!asked) return noModel();
     std::int32_t number = modelIndex_;
-    if (const Status found = (asked.get()->*side_.number)(address, &number); !found.isOk()) return found;
+    TARQ_TRY((asked.get()->*side_.number)(address, &number));
     model_ = std::move(asked);
     modelIndex_ = number;
     return {};
@@ -105,7 +106,7 @@ Outcome ModelItem::putNumber(std::int32_t number) {
     if (!isAttached()) return {status::wrongState, side_.noNewNumber};
     const Ref<ITARQModel> model = model_;
     std::int32_t count = 0;
-    if (const Status counted = (model.get()->*side_.count)(&count); !counted.isOk()) return counted;
+    TARQ_TRY((model.get()->*side_.count)(&count));
     if (number < 1) return {status::indexOutOfRange, "Index may not be less than 1."};
     if (number > count) return {status::indexOutOfRange, side_.numberTooLarge};
     modelIndex_ = number;

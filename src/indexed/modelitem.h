@@ -10,10 +10,10 @@
 #include <string>
 
 #include "frame/memberguard.h"
-#include "frame/object.h"
-#include "frame/status.h"
-#include "frame/variant.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 

@@ -5,14 +5,15 @@
 #include <type_traits>
 
 #include "frame/memberguard.h"
-#include "frame/objecterror.h"
+#include "frame/result.h"
 #include "indexed/iserieslength.h"
-#include "interfaces/itarqarray.h"
-#include "interfaces/itarqarrayenum.h"
-#include "interfaces/itarqseries.h"
-#include "interfaces/itarqseriesenum.h"
-#include "interfaces/itarqset.h"
-#include "interfaces/itarqsetenum.h"
+#include "tarq/frame/objecterror.h"
+#include "tarq/interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqarrayenum.h"
+#include "tarq/interfaces/itarqseries.h"
+#include "tarq/interfaces/itarqseriesenum.h"
+#include "tarq/interfaces/itarqset.h"
+#include "tarq/interfaces/itarqsetenum.h"
 
 namespace tarq {
 namespace {
@@ -75,7 +76,7 @@ Ref<IArrayCells> cellsOf(const Ref<IUnknown>& object) {
 Outcome openValueSource(IUnknown* object, ValueSource& source) {
     const Ref<IUnknown> held(object);
     for (const Opening& opening : openings) {
-        if (Outcome opened = opening.open(held, source); !opened.isOk()) return opened;
+        TARQ_TRY(opening.open(held, source));
         if (!source.offered) continue;
         source.isSeries = opening.isSeries;
         if (!source.enumerator) return {status::invalidArgument, std::string(status::meaning(status::wrongClass))};

@@ -8,12 +8,13 @@
 #include <string>
 #include <utility>
 
-#include "frame/ienumvariant.h"
-#include "frame/object.h"
-#include "frame/objecterror.h"
-#include "frame/status.h"
-#include "frame/variant.h"
+#include "frame/result.h"
 #include "indexed/arraycells.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/objecterror.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -75,7 +76,7 @@ Outcome walkValues(const ValueSource& source, const Take& take) {
         if (!fetched.isOk()) return {};
         const bool isMember = source.isSeries && value.is(Kind::Double);
         const double number = isMember ? value.real() : none;
-        if (Outcome taken = take(std::move(value)); !taken.isOk()) return taken;
+        TARQ_TRY(take(std::move(value)));
         // What is no number stays so with every step.
         if (isMember && (number == last || number != number)) {
             return {status::invalidArgument, "Step of series is too small."};

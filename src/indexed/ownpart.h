@@ -1,7 +1,7 @@
 // Private interfaces: what the component's own objects offer each other besides the published ones.
 #pragma once
 
-#include "frame/object.h"
+#include "tarq/frame/object.h"
 
 namespace tarq {
 

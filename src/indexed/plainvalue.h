@@ -1,7 +1,7 @@
 // PlainValue: an argument as an operation looks at it, with one level of indirection removed.
 #pragma once
 
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "frame/status.h"
-#include "frame/variant.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "frame/result.h"
 #include "indexed/valueimport.h"
 
 namespace tarq {
@@ -52,7 +53,7 @@ void combineElement(Variant& element, double operand, const Combine& combine) {
 template <class Combine>
 Outcome combineElements(ElementList& elements, const Variant& value, const char* textsLeft, const Combine& combine) {
     Operands operands;
-    if (Outcome outcome = readOperands(value, operands); !outcome.isOk()) return outcome;
+    TARQ_TRY(readOperands(value, operands));
     if (!operands.isScalar && operands.numbers.size() != elements.size()) return lengthsDiffer();
     bool allNumbers = true;
     for (std::size_t position = 0; Variant & element : elements.change()) {
@@ -79,7 +80,7 @@ Outcome multiplyElements(ElementList& elements, const Variant& value) {
 
 Outcome dotProduct(const ElementList& elements, const Variant& vector, double& product) {
     Operands operands;
-    if (Outcome outcome = readOperands(vector, operands); !outcome.isOk()) return outcome;
+    TARQ_TRY(readOperands(vector, operands));
     if (operands.numbers.size() != elements.size()) return lengthsDiffer();
     double sum = 0.0;
     for (std::size_t position = 0; const Variant& element : elements.values()) {

@@ -1,9 +1,9 @@
 // Arithmetic with the numeric elements of a set.
 #pragma once
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "indexed/elementlist.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

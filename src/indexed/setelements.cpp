@@ -8,9 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "frame/safearray.h"
+#include "frame/result.h"
 #include "indexed/elementlookup.h"
 #include "indexed/valueimport.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {
@@ -39,7 +40,7 @@ Outcome takeArrayElements(const SafeArray& array, std::vector<Variant>& taken) {
         taken.reserve(std::max(needed, 2 * taken.capacity()));
     }
     for (const Element& element : elements) {
-        if (Outcome outcome = takeElement(elementValue(element), taken); !outcome.isOk()) return outcome;
+        TARQ_TRY(takeElement(elementValue(element), taken));
     }
     return {};
 }
@@ -69,9 +70,9 @@ Outcome takeArray(const SafeArray& array, std::vector<Variant>& taken) {
 
 Outcome takeObjectValues(IUnknown* object, std::vector<Variant>& taken) {
     std::vector<Variant> values;
-    if (Outcome outcome = collectObjectValues(object, Kind::Empty, values); !outcome.isOk()) return outcome;
+    TARQ_TRY(collectObjectValues(object, Kind::Empty, values));
     for (Variant& value : values) {
-        if (Outcome outcome = takeElement(std::move(value), taken); !outcome.isOk()) return outcome;
+        TARQ_TRY(takeElement(std::move(value), taken));
     }
     return {};
 }
@@ -166,14 +167,14 @@ Outcome putElement(ElementList& elements, std::int32_t index, const Variant& val
 
 Outcome findElement(const ElementList& elements, const Variant& item, std::int32_t& index) {
     Variant sought;
-    if (Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
+    TARQ_TRY(normalizedItem(item, sought));
     index = indexFrom(elements, sought, 1);
     return {};
 }
 
 Outcome findNextElement(const ElementList& elements, const Variant& item, std::int32_t start, std::int32_t& index) {
     Variant sought;
-    if (Outcome outcome = normalizedItem(item, sought); !outcome.isOk()) return outcome;
+    TARQ_TRY(normalizedItem(item, sought));
     if (!isPosition(elements, start)) return badPosition();
     index = indexFrom(elements, sought, start);
     return {};
@@ -181,7 +182,7 @@ Outcome findNextElement(const ElementList& elements, const Variant& item, std::i
 
 Outcome containsAll(const ElementList& elements, const ValueList& list, std::int32_t& answer) {
     std::vector<Variant> values;
-    if (Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
+    TARQ_TRY(flattenValueList(list, values));
     const ElementLookup wanted(std::move(values));
     std::vector<bool> found(wanted.size());
     std::size_t missing = wanted.distinctCount();
@@ -198,7 +199,7 @@ Outcome containsAll(const ElementList& elements, const ValueList& list, std::int
 
 Outcome isContainedIn(const ElementList& elements, const ValueList& list, std::int32_t& answer) {
     std::vector<Variant> values;
-    if (Outcome outcome = flattenValueList(list, values); !outcome.isOk()) return outcome;
+    TARQ_TRY(flattenValueList(list, values));
     const ElementLookup allowed(std::move(values));
     const bool all =
         std::ranges::all_of(elements.values(), [&](const Variant& element) { return allowed.contains(element); });

@@ -7,10 +7,10 @@
 
 #include <cstdint>
 
-#include "frame/status.h"
-#include "frame/valuelist.h"
-#include "frame/variant.h"
 #include "indexed/elementlist.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/valuelist.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

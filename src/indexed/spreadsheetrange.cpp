@@ -1,6 +1,7 @@
 #include "indexed/spreadsheetrange.h"
 
 #include <array>
+#include "frame/result.h"
 
 namespace tarq {
 namespace {
@@ -28,7 +29,7 @@ SpreadsheetRange::SpreadsheetRange(IUnknown* object) {
 
 Outcome SpreadsheetRange::requireSingleArea() const {
     std::int32_t areas = 0;
-    if (Outcome asked = countOf(rangemember::areas, areas); !asked.isOk()) return asked;
+    TARQ_TRY(countOf(rangemember::areas, areas));
     if (areas >= 2) return {status::invalidArgument, "No multiple areas allowed"};
     return {};
 }
@@ -41,13 +42,13 @@ Outcome SpreadsheetRange::firstColumn(std::int32_t& number) const { return range
 Outcome SpreadsheetRange::cell(std::int32_t row, std::int32_t column, Variant& value) const {
     const std::array arguments{Variant(row), Variant(column)};
     LateBound cell;
-    if (Outcome asked = range_.get(rangemember::item, cell, arguments); !asked.isOk()) return asked;
+    TARQ_TRY(range_.get(rangemember::item, cell, arguments));
     return cell.get(rangemember::value, value);
 }
 
 Outcome SpreadsheetRange::countOf(std::int32_t member, std::int32_t& count) const {
     LateBound part;
-    if (Outcome asked = range_.get(member, part); !asked.isOk()) return asked;
+    TARQ_TRY(range_.get(member, part));
     return part.get(rangemember::count, count);
 }
 

@@ -6,10 +6,10 @@
 
 #include <cstdint>
 
-#include "frame/guid.h"
 #include "frame/latebound.h"
-#include "frame/status.h"
-#include "frame/variant.h"
+#include "tarq/frame/guid.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -4,13 +4,14 @@
 #include <span>
 #include <utility>
 
-#include "frame/object.h"
+#include "frame/result.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/valueimport.h"
-#include "interfaces/itarqvar.h"
-#include "interfaces/itarqvarset.h"
-#include "interfaces/itarqvarsetenum.h"
+#include "tarq/frame/object.h"
+#include "tarq/interfaces/itarqvar.h"
+#include "tarq/interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 namespace {
@@ -21,10 +22,10 @@ Outcome readCoefficients(const Variant& element, CoefficientGroup& coefficients)
     const PlainValue value(element);
     std::vector<Variant> values;
     if (value->isArray()) {
-        if (Outcome read = appendArrayValues(value->array(), Kind::Double, values); !read.isOk()) return read;
+        TARQ_TRY(appendArrayValues(value->array(), Kind::Double, values));
     } else if (value->isObject()) {
         const Ref<IUnknown> object(value->object());
-        if (Outcome read = collectObjectValues(object.get(), Kind::Double, values); !read.isOk()) return read;
+        TARQ_TRY(collectObjectValues(object.get(), Kind::Double, values));
     } else {
         Variant number = *value;
         if (!number.toReal()) return status::invalidArgument;
@@ -49,7 +50,7 @@ Outcome readColumnName(const Ref<IUnknown>& object, ColumnGroup& columns, bool& 
     known = static_cast<bool>(column);
     if (!known) return {};
     std::string name;
-    if (Outcome told = askObject([&] { return column->get_Name(&name); }); !told.isOk()) return told;
+    TARQ_TRY(askObject([&] { return column->get_Name(&name); }));
     columns.push_back(std::move(name));
     return {};
 }
@@ -61,7 +62,7 @@ Outcome readMemberNames(const Ref<IUnknown>& object, ColumnGroup& columns, bool&
     known = static_cast<bool>(members);
     if (!known) return {};
     std::int32_t count = 0;
-    if (Outcome told = askObject([&] { return members->get_Count(&count); }); !told.isOk()) return told;
+    TARQ_TRY(askObject([&] { return members->get_Count(&count); }));
     for (std::int32_t member = 0; member < count; ++member) {
         std::string name;
         Outcome told = askObject([&] { return (members.get()->*nameOf)(member + 1, &name); });
@@ -101,7 +102,7 @@ Outcome readColumns(const Variant& element, ColumnGroup& columns) {
     if (value->isObject()) return readColumnObject(Ref<IUnknown>(value->object()), columns);
     std::vector<Variant> texts;
     if (value->isArray()) {
-        if (Outcome read = appendArrayValues(value->array(), Kind::Text, texts); !read.isOk()) return read;
+        TARQ_TRY(appendArrayValues(value->array(), Kind::Text, texts));
     } else {
         Variant name = *value;
         if (!name.toText()) return {status::invalidArgument, "Value cannot be used as a column name."};
@@ -127,7 +128,7 @@ Outcome parseCoeffsAndCols(const ValueList& list, TermList& terms) {
         }
         if (position == elements.size()) break;
         ColumnGroup& columns = read.columns.emplace_back();
-        if (Outcome outcome = readColumns(elements[position++], columns); !outcome.isOk()) return outcome;
+        TARQ_TRY(readColumns(elements[position++], columns));
     }
     terms = std::move(read);
     return {};

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/status.h"
-#include "frame/valuelist.h"
+#include "frame/result.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/valuelist.h"
 
 namespace tarq {
 
@@ -38,14 +39,14 @@ Outcome checkTerm(const CoefficientGroup& coefficients, const ColumnGroup& colum
 
 template <class Take>
 Outcome walkTerms(const TermList& terms, const Take& take) {
-    if (Outcome checked = checkTermCount(terms); !checked.isOk()) return checked;
+    TARQ_TRY(checkTermCount(terms));
     for (std::size_t term = 0; term < terms.columns.size(); ++term) {
         const CoefficientGroup& coefficients = terms.coefficients[term];
         const ColumnGroup& columns = terms.columns[term];
-        if (Outcome checked = checkTerm(coefficients, columns); !checked.isOk()) return checked;
+        TARQ_TRY(checkTerm(coefficients, columns));
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const double coefficient = coefficients[coefficients.size() == 1 ? 0 : i];
-            if (Outcome taken = take(columns[i], coefficient); !taken.isOk()) return taken;
+            TARQ_TRY(take(columns[i], coefficient));
         }
     }
     return {};

@@ -9,12 +9,13 @@
 #include <utility>
 
 #include "frame/convertelement.h"
+#include "frame/result.h"
 #include "indexed/elementreader.h"
 #include "indexed/indexset.h"
 #include "indexed/objectvalues.h"
 #include "indexed/plainvalue.h"
 #include "indexed/spreadsheetrange.h"
-#include "interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqarray.h"
 
 namespace tarq {
 namespace {
@@ -62,7 +63,7 @@ Outcome appendAllElements(const ElementReader& reader, std::size_t count, Kind t
         return {};
     }
     for (std::size_t position = 0; position < count; ++position) {
-        if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
+        TARQ_TRY(appendElement(reader, position, target, values));
     }
     return {};
 }
@@ -90,7 +91,7 @@ Outcome appendBlock(const SafeArray& array, const ElementReader& reader, std::sp
         std::size_t position = 0;
         for (std::size_t i = 0; i < shape.size(); ++i)
             position = position * array.dimensions()[i].length + positions[i];
-        if (Outcome appended = appendElement(reader, position, target, values); !appended.isOk()) return appended;
+        TARQ_TRY(appendElement(reader, position, target, values));
     } while (nextIndexCombination(shape, positions));
     return {};
 }
@@ -105,7 +106,7 @@ Outcome expandArray(const Variant& value, std::span<const std::size_t> shape, st
         if (array.elementCount() < count) return refused("Not enough elements in value array.");
         return appendAllElements(reader, array.elementCount(), target, values);
     }
-    if (Outcome checked = checkBlock(array, shape); !checked.isOk()) return checked;
+    TARQ_TRY(checkBlock(array, shape));
     const bool isWhole = array.elementCount() == combinationCount(shape);
     if (isWhole) return appendAllElements(reader, array.elementCount(), target, values);
     return appendBlock(array, reader, shape, target, values);
@@ -135,18 +136,16 @@ Outcome appendCells(const SpreadsheetRange& range, std::int32_t rows, std::int32
     for (std::int32_t row = 1; row <= rows; ++row) {
         for (std::int32_t column = 1; column <= columns; ++column) {
             Variant value;
-            if (Outcome read = range.cell(row, column, value); !read.isOk()) return read;
-            if (Outcome appended = appendConverted(std::move(value), target, values); !appended.isOk()) {
-                return appended;
-            }
+            TARQ_TRY(range.cell(row, column, value));
+            TARQ_TRY(appendConverted(std::move(value), target, values));
         }
     }
     return {};
 }
 
 Outcome sizesOf(const SpreadsheetRange& range, std::int32_t& rows, std::int32_t& columns) {
-    if (Outcome checked = range.requireSingleArea(); !checked.isOk()) return checked;
-    if (Outcome asked = range.rowCount(rows); !asked.isOk()) return asked;
+    TARQ_TRY(range.requireSingleArea());
+    TARQ_TRY(range.rowCount(rows));
     return range.columnCount(columns);
 }
 
@@ -155,7 +154,7 @@ Outcome expandRange(const SpreadsheetRange& range, std::span<const std::size_t> 
                     std::vector<Variant>& values) {
     std::int32_t rows = 0;
     std::int32_t columns = 0;
-    if (Outcome asked = sizesOf(range, rows, columns); !asked.isOk()) return asked;
+    TARQ_TRY(sizesOf(range, rows, columns));
     const auto sizeOf = [](std::int32_t count) { return static_cast<std::size_t>(std::max(count, 0)); };
     if (shape.empty()) return {};
     if (shape.size() > 2) return refused("Excel Ranges cannot be read into objects with more than 2 dimensions.");
@@ -173,7 +172,7 @@ Outcome expandRange(const SpreadsheetRange& range, std::span<const std::size_t> 
 Outcome appendArrayCells(std::span<const Variant> cells, Kind target, std::vector<Variant>& values) {
     reserveMore(values, cells.size());
     for (const Variant& cell : cells) {
-        if (Outcome appended = appendConverted(cell, target, values); !appended.isOk()) return appended;
+        TARQ_TRY(appendConverted(cell, target, values));
     }
     return {};
 }
@@ -213,7 +212,7 @@ Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, K
         });
         if (!asked.isOk()) return asked;
         block.clear();
-        if (Outcome read = appendConverted(std::move(value), target, block); !read.isOk()) return read;
+        TARQ_TRY(appendConverted(std::move(value), target, block));
     } while (nextIndexCombination(shape, positions));
     return {};
 }
@@ -221,7 +220,7 @@ Outcome checkArrayBlock(ITARQArray& array, std::span<const std::size_t> shape, K
 /// What an array has to offer for a selection of the sizes `shape`. Its values are read by the caller afterwards, all
 /// of them in their own order, so that of a larger array the first ones are taken and not the leading block.
 Outcome checkArray(const Ref<IUnknown>& object, ITARQArray& array, std::span<const std::size_t> shape, Kind target) {
-    if (Outcome checked = checkArrayShape(array, shape); !checked.isOk()) return checked;
+    TARQ_TRY(checkArrayShape(array, shape));
     // Cells that lie together are all read afterwards, and a failure would be the same.
     return cellsOf(object) ? Outcome() : checkArrayBlock(array, shape, target);
 }
@@ -240,7 +239,7 @@ Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>&
     const Ref<IUnknown> held(object);
     if (const Ref<IArrayCells> cells = cellsOf(held)) return appendArrayCells(cells->rowMajorCells(), target, values);
     ValueSource source;
-    if (Outcome opened = openValueSource(object, source); !opened.isOk()) return opened;
+    TARQ_TRY(openValueSource(object, source));
     if (source.offered) {
         return walkIntoList(source, values,
                             [&](Variant value) { return appendConverted(std::move(value), target, values); });
@@ -249,7 +248,7 @@ Outcome collectObjectValues(IUnknown* object, Kind target, std::vector<Variant>&
     if (!range) return refused("Passed object is not allowed.");
     std::int32_t rows = 0;
     std::int32_t columns = 0;
-    if (Outcome asked = sizesOf(range, rows, columns); !asked.isOk()) return asked;
+    TARQ_TRY(sizesOf(range, rows, columns));
     return appendCells(range, rows, columns, target, values);
 }
 
@@ -258,7 +257,7 @@ Outcome flattenValueList(const ValueList& list, std::vector<Variant>& values) {
         const PlainValue plain(entry);
         if (plain->isArray()) {
             if (!plain->isByReference()) return refused("Unsupported argument type.");
-            if (Outcome read = appendArrayValues(plain->array(), Kind::Empty, values); !read.isOk()) return read;
+            TARQ_TRY(appendArrayValues(plain->array(), Kind::Empty, values));
             continue;
         }
         if (plain->isObject()) {
@@ -279,7 +278,7 @@ Outcome expandValues(const Variant& value, std::span<const std::size_t> shape, s
                      std::vector<Variant>& values) {
     values.clear();
     if (value.isArray()) {
-        if (Outcome read = expandArray(value, shape, count, target, values); !read.isOk()) return read;
+        TARQ_TRY(expandArray(value, shape, count, target, values));
     } else if (Variant plain = value.copyDereferenced(); plain.isArray()) {
         return expandValues(plain, shape, count, target, values);
     } else if (!plain.isObject()) {
@@ -290,7 +289,7 @@ Outcome expandValues(const Variant& value, std::span<const std::size_t> shape, s
         const Ref<IUnknown> object(plain.object());
         const SpreadsheetRange range(object.get());
         if (const Ref<ITARQArray> array = object.query<ITARQArray>()) {
-            if (Outcome checked = checkArray(object, *array, shape, target); !checked.isOk()) return checked;
+            TARQ_TRY(checkArray(object, *array, shape, target));
         }
         Outcome read = range && !object.query<ITARQArray>() ? expandRange(range, shape, target, values)
                                                             : collectObjectValues(object.get(), target, values);

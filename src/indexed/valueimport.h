@@ -9,11 +9,11 @@
 #include <span>
 #include <vector>
 
-#include "frame/object.h"
-#include "frame/safearray.h"
-#include "frame/status.h"
-#include "frame/valuelist.h"
-#include "frame/variant.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/valuelist.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/object.h"
+#include "tarq/frame/object.h"
 
 namespace tarq {
 

@@ -1,7 +1,7 @@
 // The members of arrays and of their enumerators in published order.
-#include "frame/memberbinding.h"
-#include "interfaces/itarqarray.h"
-#include "interfaces/itarqarrayenum.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqarrayenum.h"
 
 namespace tarq {
 namespace {

@@ -2,14 +2,14 @@
 #include <iterator>
 #include <utility>
 
-#include "frame/memberbinding.h"
-#include "interfaces/itarqmodel.h"
-#include "interfaces/itarqres.h"
-#include "interfaces/itarqresset.h"
-#include "interfaces/itarqressetenum.h"
-#include "interfaces/itarqvar.h"
-#include "interfaces/itarqvarset.h"
-#include "interfaces/itarqvarsetenum.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/interfaces/itarqmodel.h"
+#include "tarq/interfaces/itarqres.h"
+#include "tarq/interfaces/itarqresset.h"
+#include "tarq/interfaces/itarqressetenum.h"
+#include "tarq/interfaces/itarqvar.h"
+#include "tarq/interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 namespace {

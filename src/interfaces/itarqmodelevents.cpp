@@ -1,6 +1,6 @@
-#include "interfaces/itarqmodelevents.h"
+#include "tarq/interfaces/itarqmodelevents.h"
 
-#include "frame/memberbinding.h"
+#include "tarq/frame/memberbinding.h"
 
 namespace tarq {
 

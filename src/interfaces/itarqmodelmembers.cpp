@@ -1,9 +1,9 @@
 // The members of ITARQModel in published order.
-#include "frame/memberbinding.h"
-#include "interfaces/enumerationtables.h"
-#include "interfaces/itarqmodel.h"
-#include "interfaces/itarqres.h"
-#include "interfaces/itarqvar.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/interfaces/enumerationtables.h"
+#include "tarq/interfaces/itarqmodel.h"
+#include "tarq/interfaces/itarqres.h"
+#include "tarq/interfaces/itarqvar.h"
 
 namespace tarq {
 namespace {

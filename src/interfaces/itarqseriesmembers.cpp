@@ -1,7 +1,7 @@
 // The members of series and of their enumerators in published order.
-#include "frame/memberbinding.h"
-#include "interfaces/itarqseries.h"
-#include "interfaces/itarqseriesenum.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/interfaces/itarqseries.h"
+#include "tarq/interfaces/itarqseriesenum.h"
 
 namespace tarq {
 namespace {

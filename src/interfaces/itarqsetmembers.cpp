@@ -1,7 +1,7 @@
 // The members of sets and of their enumerators in published order.
-#include "frame/memberbinding.h"
-#include "interfaces/itarqset.h"
-#include "interfaces/itarqsetenum.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/interfaces/itarqset.h"
+#include "tarq/interfaces/itarqsetenum.h"
 
 namespace tarq {
 namespace {

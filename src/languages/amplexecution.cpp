@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "frame/result.h"
 #include "languages/amplfailures.h"
 #include "languages/amplrun.h"
 #include "parameters/inputfile.h"
@@ -28,9 +29,9 @@ Outcome executeAmplModel(const std::string& modelFile, const AmplLocations& loca
                          LanguageTarget& target) {
     const std::string translator = findProgram(locations.translator);
     const std::string driver = findProgram(locations.driver);
-    if (Outcome file = checkInputFile(translator, "AMPL.EXE"); !file.isOk()) return file;
-    if (Outcome file = checkInputFile(driver, "TARQAMPL.EXE"); !file.isOk()) return file;
-    if (Outcome file = checkInputFile(modelFile, ".MOD file"); !file.isOk()) return file;
+    TARQ_TRY(checkInputFile(translator, "AMPL.EXE"));
+    TARQ_TRY(checkInputFile(driver, "TARQAMPL.EXE"));
+    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
 
     const TemporaryFile profile;
     if (!profile.isMade() || !writeProfile(profile.name(), parameters).isOk()) {
@@ -44,7 +45,7 @@ Outcome executeAmplModel(const std::string& modelFile, const AmplLocations& loca
                                  optionLine("solver", solverName(locations.driver, driver)) +
                                  optionLine("LocationOfTARQProfile", profile.name()) +
                                  optionLine("LocationOfTARQDLL", locations.engine) + "include '" + modelFile + "';\n";
-    if (Outcome written = writeAmplCommands(commandFile, commands); !written.isOk()) return written;
+    TARQ_TRY(writeAmplCommands(commandFile, commands));
 
     std::string output;
     Outcome run = runAmplTranslator(translator, {"-P", commandFile}, target,

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "frame/status.h"
 #include "languages/languagetarget.h"
 #include "parameters/parametertable.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 
@@ -18,8 +18,9 @@ struct AmplLocations {
 
 /// Lets the translator read `modelFile`, with the driver as its solver, the engine and the current parameters, and
 /// keeps what it writes as the target's output; the model is left alone. An error in AMPL's text shows only there.
-/// Waits without a limit; the temporary files are gone afterwards. 0x8004102F and 0x80041030 for files that can't be
-/// read, 0x80041023 for a temporary file that can't be made, 0x8004101D for a translator that can't be started or read.
+/// Waits without a limit; the temporary files are gone afterwards. fileNameRejected and fileNotReachable for files that
+/// can't be read, temporaryFile for a temporary file that can't be made, externalProcess for a translator that can't be
+/// started or read.
 [[nodiscard]] Outcome executeAmplModel(const std::string& modelFile, const AmplLocations& locations,
                                        const ParameterTable& parameters, LanguageTarget& target);
 

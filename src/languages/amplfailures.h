@@ -1,7 +1,7 @@
 // The failures that several of AMPL's imports and runs have in common.
 #pragma once
 
-#include "frame/status.h"
+#include "tarq/frame/status.h"
 
 namespace tarq::ampl {
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "frame/result.h"
 #include "languages/amplfailures.h"
 #include "languages/amplrun.h"
 #include "languages/amplstub.h"
@@ -20,9 +21,7 @@ Outcome checkDataFiles(const ValueList& list, std::vector<std::string>& names) {
     for (const Variant& value : walk) {
         const Variant name = value.copyDereferenced();
         if (!name.isText()) return {status::invalidArgument, "Parameter for .dat filename is no string."};
-        if (Outcome file = checkInputFile(name.text(), fmt::format(".DAT file '{}'", name.text())); !file.isOk()) {
-            return file;
-        }
+        TARQ_TRY(checkInputFile(name.text(), fmt::format(".DAT file '{}'", name.text())));
         names.push_back(name.text());
     }
     return {};
@@ -39,7 +38,7 @@ std::string importCommands(const std::string& modelFile, const std::vector<std::
 Outcome translate(const std::string& program, const std::string& commands, const LanguageTarget& target,
                   TemporaryFile& stub, std::string& output) {
     const std::string commandFile = stub.companion(".acf");
-    if (Outcome written = writeAmplCommands(commandFile, commands); !written.isOk()) return written;
+    TARQ_TRY(writeAmplCommands(commandFile, commands));
     for (const char* suffix : {".nl", ".col", ".row"}) (void)stub.companion(suffix);
     Outcome run = runAmplTranslator(program, {"-P", "-og" + stub.name(), commandFile}, target, ampl::ioError(), output);
     stub.removeFile();
@@ -53,9 +52,9 @@ Outcome readAmplModel(const std::string& modelFile, const ValueList& dataFiles, 
                       LanguageTarget& target) {
     const std::string program = findProgram(translator);
     std::vector<std::string> dataNames;
-    if (Outcome file = checkInputFile(program, "AMPL.EXE"); !file.isOk()) return file;
-    if (Outcome file = checkInputFile(modelFile, ".MOD file"); !file.isOk()) return file;
-    if (Outcome data = checkDataFiles(dataFiles, dataNames); !data.isOk()) return data;
+    TARQ_TRY(checkInputFile(program, "AMPL.EXE"));
+    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
+    TARQ_TRY(checkDataFiles(dataFiles, dataNames));
 
     TemporaryFile stub;
     if (!stub.isMade()) return {status::temporaryFile, "Can't create teporary stub file."};

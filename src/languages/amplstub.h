@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
-#include "interfaces/enumerations.h"
 #include "model/modeltarget.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
@@ -31,7 +31,7 @@ struct AmplSolution {
     std::span<const TARQColRowStatusType> rowStates{};
 };
 
-/// Writes `solution` into STUB.sol. 0x80041023 when there is no stub, one of other counts, or the file can't be
+/// Writes `solution` into STUB.sol. temporaryFile when there is no stub, one of other counts, or the file can't be
 /// written.
 [[nodiscard]] Outcome writeAmplSolution(const std::string& stubName, const AmplSolution& solution);
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "frame/result.h"
 #include "parameters/inputfile.h"
 #include "platform/dynamiclibrary.h"
 #include "platform/temporaryfile.h"
@@ -89,7 +90,7 @@ Outcome ProblemCopy::addColumns() {
         column.upperBound = bounds.upper;
         column.cost = library_.slot<"mp_get_obj_coef">()(number);
         column.type = columnType(isLp, number, bounds);
-        if (Outcome added = store_.addColumnRecord(std::move(column)); !added.isOk()) return added;
+        TARQ_TRY(store_.addColumnRecord(std::move(column)));
     }
     return {};
 }
@@ -109,7 +110,7 @@ Outcome ProblemCopy::addRows() {
         row.name = textOrEmpty(library_.slot<"mp_get_row_name">()(number));
         row.lowerBound = bounds.lower;
         row.upperBound = bounds.upper;
-        if (Outcome added = store_.addRowRecord(std::move(row)); !added.isOk()) return added;
+        TARQ_TRY(store_.addRowRecord(std::move(row)));
     }
     return {};
 }
@@ -133,8 +134,8 @@ void ProblemCopy::addNonzeros() {
 
 Outcome copyProblem(const MathProgLibrary& library, LanguageTarget& target) {
     ProblemCopy copy(library, target.store());
-    if (Outcome added = copy.addColumns(); !added.isOk()) return added;
-    if (Outcome added = copy.addRows(); !added.isOk()) return added;
+    TARQ_TRY(copy.addColumns());
+    TARQ_TRY(copy.addRows());
     copy.addNonzeros();
     target.setParameter("xminmx", library.slot<"mp_get_obj_dir">()() == MP_DIR_MIN ? "min" : "max");
     return {};
@@ -166,9 +167,9 @@ Outcome importMathProgModel(const MathProgLibrary& library, const std::string& m
     if (!library.isBoundBut<"mp_create_prob", "mp_print_prob">()) {
         return {status::entryPointsMissing, "Could not get MathProg.DLL function handles."};
     }
-    if (Outcome found = checkInputFile(modelFile, ".MOD file"); !found.isOk()) return found;
+    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
     std::string dataFileName;
-    if (Outcome found = checkDataFile(dataFile, dataFileName); !found.isOk()) return found;
+    TARQ_TRY(checkDataFile(dataFile, dataFileName));
     const TemporaryFile listingFile;
     if (!listingFile.isMade()) return {status::temporaryFile, "AMPL I/O Error."};
 

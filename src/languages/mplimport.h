@@ -8,9 +8,9 @@
 #include <functional>
 #include <string>
 
-#include "frame/dispatch.h"
-#include "frame/status.h"
 #include "languages/languagetarget.h"
+#include "tarq/frame/dispatch.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 
@@ -27,10 +27,10 @@ struct MplError {
 };
 
 /// Has a server read the file `fileName`, as seen from `workingDirectory`, and copies the model into `target` element
-/// by element: as many calls as there are places in the matrix. `error` gets the server's words. 0x80041036 with a
-/// description for what is told in words: no server, a file that it refuses, a nonlinear model, a record that can't be
-/// added. A call that the server fails ends the reading with its status and description. A failure leaves the old model
-/// up to the point at which the server had read a linear one, and a part of the new model after it.
+/// by element: as many calls as there are places in the matrix. `error` gets the server's words. languageInterface with
+/// a description for what is told in words: no server, a file that it refuses, a nonlinear model, a record that can't
+/// be added. A call that the server fails ends the reading with its status and description. A failure leaves the old
+/// model up to the point at which the server had read a linear one, and a part of the new model after it.
 [[nodiscard]] Outcome readMplModel(const std::string& fileName, const std::string& workingDirectory,
                                    const CreateMplServer& createServer, MplError& error, LanguageTarget& target);
 

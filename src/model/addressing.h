@@ -7,14 +7,14 @@
 
 #include <cstdint>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
-/// Sets `position`, 0-based. Fails with 0x80041031 for an unknown name or a number outside the table, and 0x80041016
-/// for a value that is neither; `position` is left alone then.
+/// Sets `position`, 0-based. Fails with invalidArgument for an unknown name or a number outside the table, and
+/// wrongKind for a value that is neither; `position` is left alone then.
 [[nodiscard]] Outcome resolveColumn(const ModelStore& store, const Variant& address, std::int32_t& position);
 [[nodiscard]] Outcome resolveRow(const ModelStore& store, const Variant& address, std::int32_t& position);
 

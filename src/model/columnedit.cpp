@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "frame/result.h"
 #include "model/addressing.h"
 #include "model/editchecks.h"
 
@@ -41,7 +42,7 @@ Outcome checkBinaryBounds(const ModelStore& store, const ColumnRecord& column, c
 
 Outcome readField(const ModelStore& store, const Variant& column, double ColumnRecord::*field, double& value) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     value = store.column(position).*field;
     return {};
 }
@@ -56,14 +57,14 @@ Outcome addColumn(ModelStore& store, double lowerBound, double upperBound, TARQC
     column.lowerBound = store.clampToInfinity(isBinary ? 0.0 : lowerBound);
     column.upperBound = store.clampToInfinity(isBinary ? 1.0 : upperBound);
     column.type = type;
-    if (Outcome outcome = readCost(cost, column.cost); !outcome.isOk()) return outcome;
-    if (Outcome outcome = readNameArgument(name, nameTexts, column.name); !outcome.isOk()) return outcome;
+    TARQ_TRY(readCost(cost, column.cost));
+    TARQ_TRY(readNameArgument(name, nameTexts, column.name));
     return store.addColumnRecord(std::move(column));
 }
 
 Outcome deleteColumn(ModelStore& store, const Variant& column) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     if (store.column(position).family != nullptr) {
         return {status::invalidArgument, "Column is part of a TARQVarSet and cannot be deleted"};
     }
@@ -83,7 +84,7 @@ Outcome changeColumn(ModelStore& store, std::int32_t position, const ColumnChang
     }
     if (change.lowerBound != nullptr || change.upperBound != nullptr) {
         if (column.type == TARQColType::Binary) {
-            if (Outcome outcome = checkBinaryBounds(store, column, change); !outcome.isOk()) return outcome;
+            TARQ_TRY(checkBinaryBounds(store, column, change));
         }
         Outcome outcome = changeBounds(store, column, change.lowerBound, change.upperBound);
         if (!outcome.isOk()) return outcome;
@@ -109,7 +110,7 @@ Outcome putColumnName(ModelStore& store, std::int32_t number, const std::string&
 
 Outcome getColumnIndex(const ModelStore& store, const Variant& column, std::int32_t& number) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     number = position + 1;
     return {};
 }
@@ -120,7 +121,7 @@ Outcome getColumnCost(const ModelStore& store, const Variant& column, double& co
 
 Outcome putColumnCost(ModelStore& store, const Variant& column, double cost) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     const auto held = store.gate().edit();
     store.column(position).cost = cost;
     return {};
@@ -132,7 +133,7 @@ Outcome getColumnLowerBound(const ModelStore& store, const Variant& column, doub
 
 Outcome putColumnLowerBound(ModelStore& store, const Variant& column, double bound) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     const auto held = store.gate().edit();
     return putLowerBound(store, store.column(position), bound);
 }
@@ -143,21 +144,21 @@ Outcome getColumnUpperBound(const ModelStore& store, const Variant& column, doub
 
 Outcome putColumnUpperBound(ModelStore& store, const Variant& column, double bound) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     const auto held = store.gate().edit();
     return putUpperBound(store, store.column(position), bound);
 }
 
 Outcome getColumnType(const ModelStore& store, const Variant& column, TARQColType& type) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     type = store.column(position).type;
     return {};
 }
 
 Outcome putColumnType(ModelStore& store, const Variant& column, TARQColType type) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveColumn(store, column, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position));
     if (!isPublishedType(type)) return {status::invalidArgument, "Bad value for type."};
     const auto held = store.gate().edit();
     setType(store.column(position), type);

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/status.h"
-#include "frame/variant.h"
-#include "interfaces/enumerations.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
@@ -24,11 +24,11 @@ struct ColumnChange {
 /// 1. A missing cost is 0.0, a missing name is none, and a number as name becomes its text.
 [[nodiscard]] Outcome addColumn(ModelStore& store, double lowerBound, double upperBound, TARQColType type,
                                 const Variant& cost, const Variant& name);
-/// Deletes a column with its nonzeros. A column of a family is 0x80041031.
+/// Deletes a column with its nonzeros. A column of a family is invalidArgument.
 [[nodiscard]] Outcome deleteColumn(ModelStore& store, const Variant& column);
 /// Changes the column at a 0-based position. A failure keeps what was changed before it, in the order type, bounds,
 /// cost, name; and a name that is taken leaves the column without a name. Members of families may be renamed here. A
-/// position outside the table is 0x8004101A.
+/// position outside the table is indexOutOfRange.
 [[nodiscard]] Outcome changeColumn(ModelStore& store, std::int32_t position, const ColumnChange& change);
 
 /// By plain number. Renaming a member of a family is refused; a name that is taken leaves the column without a name.

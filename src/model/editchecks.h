@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

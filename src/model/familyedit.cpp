@@ -40,7 +40,7 @@ Outcome getFamilyColumnStart(const ModelStore& store, IUnknown* family, std::int
 
 Outcome getFamilyRowStart(const ModelStore& store, IUnknown* family, std::int32_t& number) {
     const std::int32_t first = store.findFamilyRow(FamilyMark::of(family));
-    if (first < 0) return Status(1);
+    if (first < 0) return status::none;
     number = first + 1;
     return {};
 }

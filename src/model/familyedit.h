@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/object.h"
-#include "frame/status.h"
 #include "model/modelstore.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 
@@ -16,7 +16,7 @@ namespace tarq {
 [[nodiscard]] Outcome addFamilyColumn(ModelStore& store, const std::string& name, IUnknown* family);
 [[nodiscard]] Outcome addFamilyRow(ModelStore& store, const std::string& name, IUnknown* family);
 
-/// Number of the family's first column. When there is none: 0x80041032.
+/// Number of the family's first column. When there is none: wrongState.
 [[nodiscard]] Outcome getFamilyColumnStart(const ModelStore& store, IUnknown* family, std::int32_t& number);
 /// Number of the family's first row. When there is none: status 1 without a description.
 [[nodiscard]] Outcome getFamilyRowStart(const ModelStore& store, IUnknown* family, std::int32_t& number);

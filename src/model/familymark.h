@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/object.h"
+#include "tarq/frame/object.h"
 
 namespace tarq {
 

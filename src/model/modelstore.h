@@ -10,12 +10,12 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
-#include "interfaces/enumerations.h"
 #include "model/familymark.h"
 #include "model/nonzerotable.h"
 #include "model/recordtable.h"
 #include "model/rungate.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
@@ -78,12 +78,12 @@ public:
     void reserveRows(std::int32_t count);
 
     /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
-    /// A name that is taken is 0x80041026 for columns and 0x8004102B for rows, and nothing is added.
+    /// A name that is taken is badColumnName for columns and badRowName for rows, and nothing is added.
     [[nodiscard]] Outcome addColumnRecord(ColumnRecord&& record);
     [[nodiscard]] Outcome addRowRecord(RowRecord&& record);
     /// Gives the record at a 0-based position another name, or none. Fails with the same statuses: a name of more than
     /// 64 bytes changes nothing; a name that is taken leaves the record without a name. A position outside the table is
-    /// 0x8004101A.
+    /// indexOutOfRange.
     [[nodiscard]] Outcome renameColumn(std::int32_t position, std::string_view name);
     [[nodiscard]] Outcome renameRow(std::int32_t position, std::string_view name);
     /// Removes the records from `firstNumber` to `lastNumber` with their nonzeros; what lies behind moves up. Numbers

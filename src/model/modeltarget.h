@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "interfaces/ireadingnotes.h"
 #include "model/modelstore.h"
+#include "tarq/interfaces/ireadingnotes.h"
 
 namespace tarq {
 

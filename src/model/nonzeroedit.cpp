@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "frame/result.h"
 #include "model/addressing.h"
 
 namespace tarq {
@@ -14,8 +15,8 @@ struct Place {
 
 Outcome resolvePlace(const ModelStore& store, const Variant& column, const Variant& row, Place& place) {
     Place position;
-    if (Outcome outcome = resolveColumn(store, column, position.columnNumber); !outcome.isOk()) return outcome;
-    if (Outcome outcome = resolveRow(store, row, position.rowNumber); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveColumn(store, column, position.columnNumber));
+    TARQ_TRY(resolveRow(store, row, position.rowNumber));
     place = {position.columnNumber + 1, position.rowNumber + 1};
     return {};
 }
@@ -24,21 +25,21 @@ Outcome resolvePlace(const ModelStore& store, const Variant& column, const Varia
 
 Outcome addNonzero(ModelStore& store, const Variant& row, const Variant& column, double delta) {
     Place place;
-    if (Outcome outcome = resolvePlace(store, column, row, place); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlace(store, column, row, place));
     store.addToNonzero(place.columnNumber, place.rowNumber, delta);
     return {};
 }
 
 Outcome deleteNonzero(ModelStore& store, const Variant& column, const Variant& row) {
     Place place;
-    if (Outcome outcome = resolvePlace(store, column, row, place); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlace(store, column, row, place));
     if (store.eraseNonzero(place.columnNumber, place.rowNumber)) return {};
     return {status::noSuchNonzero, "Nonzero element does not exist"};
 }
 
 Outcome getNonzero(const ModelStore& store, const Variant& row, const Variant& column, double& value) {
     Place place;
-    if (Outcome outcome = resolvePlace(store, column, row, place); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlace(store, column, row, place));
     // Without a nonzero the value is 0.0, which is what is asked for.
     static_cast<void>(store.findNonzero(place.columnNumber, place.rowNumber, value));
     return {};
@@ -46,7 +47,7 @@ Outcome getNonzero(const ModelStore& store, const Variant& row, const Variant& c
 
 Outcome putNonzero(ModelStore& store, const Variant& row, const Variant& column, double value) {
     Place place;
-    if (Outcome outcome = resolvePlace(store, column, row, place); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolvePlace(store, column, row, place));
     store.setNonzero(place.columnNumber, place.rowNumber, value);
     return {};
 }

@@ -15,11 +15,11 @@
 #include <vector>
 
 #include "frame/nameindex.h"
-#include "frame/status.h"
 #include "model/familystarts.h"
 #include "model/positionguess.h"
 #include "model/removedplaces.h"
 #include "platform/largepages.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 

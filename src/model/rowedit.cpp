@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "frame/result.h"
 #include "model/addressing.h"
 #include "model/editchecks.h"
 
@@ -12,7 +13,7 @@ constexpr NameArgumentTexts nameTexts{"Row name is of wrong variant type", "Row 
 
 Outcome readField(const ModelStore& store, const Variant& row, double RowRecord::*field, double& value) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveRow(store, row, position));
     value = store.row(position).*field;
     return {};
 }
@@ -24,7 +25,7 @@ Outcome addRow(ModelStore& store, double lowerBound, double upperBound, const Va
     RowRecord row;
     row.lowerBound = store.clampToInfinity(lowerBound);
     row.upperBound = store.clampToInfinity(upperBound);
-    if (Outcome outcome = readNameArgument(name, nameTexts, row.name); !outcome.isOk()) return outcome;
+    TARQ_TRY(readNameArgument(name, nameTexts, row.name));
     // Clients know this text without the name, unlike the one for columns.
     if (store.addRowRecord(std::move(row)).isOk()) return {};
     return {status::badRowName, "Duplicate row name."};
@@ -32,7 +33,7 @@ Outcome addRow(ModelStore& store, double lowerBound, double upperBound, const Va
 
 Outcome deleteRow(ModelStore& store, const Variant& row) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveRow(store, row, position));
     if (store.row(position).family != nullptr) {
         return {status::invalidArgument, "Row is part of a TARQResSet and cannot be deleted."};
     }
@@ -66,7 +67,7 @@ Outcome putRowName(ModelStore& store, std::int32_t number, const std::string& na
 
 Outcome getRowIndex(const ModelStore& store, const Variant& row, std::int32_t& number) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveRow(store, row, position));
     number = position + 1;
     return {};
 }
@@ -77,7 +78,7 @@ Outcome getRowLowerBound(const ModelStore& store, const Variant& row, double& bo
 
 Outcome putRowLowerBound(ModelStore& store, const Variant& row, double bound) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveRow(store, row, position));
     const auto held = store.gate().edit();
     return putLowerBound(store, store.row(position), bound);
 }
@@ -88,7 +89,7 @@ Outcome getRowUpperBound(const ModelStore& store, const Variant& row, double& bo
 
 Outcome putRowUpperBound(ModelStore& store, const Variant& row, double bound) {
     std::int32_t position = 0;
-    if (Outcome outcome = resolveRow(store, row, position); !outcome.isOk()) return outcome;
+    TARQ_TRY(resolveRow(store, row, position));
     const auto held = store.gate().edit();
     return putUpperBound(store, store.row(position), bound);
 }

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "model/modelstore.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -20,10 +20,10 @@ struct RowChange {
 /// Adds a row behind the last one, with bounds clamped to infinity. A missing name is none, and a number as name
 /// becomes its text.
 [[nodiscard]] Outcome addRow(ModelStore& store, double lowerBound, double upperBound, const Variant& name);
-/// Deletes a row with its nonzeros. A row of a family is 0x80041031.
+/// Deletes a row with its nonzeros. A row of a family is invalidArgument.
 [[nodiscard]] Outcome deleteRow(ModelStore& store, const Variant& row);
 /// Changes the row at a 0-based position. The bounds stay changed when the name fails; a name that is taken leaves the
-/// row without a name. Members of families may be renamed here. A position outside the table is 0x8004101A.
+/// row without a name. Members of families may be renamed here. A position outside the table is indexOutOfRange.
 [[nodiscard]] Outcome changeRow(ModelStore& store, std::int32_t position, const RowChange& change);
 
 /// By plain number. Renaming a member of a family is refused; a name that is taken leaves the row without a name.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "frame/result.h"
 #include "modelfiles/fixednametable.h"
 #include "modelfiles/numberforms.h"
 #include "modelfiles/termwriter.h"
@@ -148,8 +149,8 @@ private:
 }  // namespace
 
 Outcome writeLindo(const std::string& fileName, const WrittenModel& model) {
-    if (Outcome columns = checkColumns(model.store); !columns.isOk()) return columns;
-    if (Outcome rows = checkRows(model.store); !rows.isOk()) return rows;
+    TARQ_TRY(checkColumns(model.store));
+    TARQ_TRY(checkRows(model.store));
     OutputFile file(fileName);
     if (!file.isOpen()) return openFailureOfLindo();
     LindoWriter(model.store, file).write(model.parameters.stringValue(parameterIndex("xminmx")) == "max");

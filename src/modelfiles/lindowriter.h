@@ -8,7 +8,8 @@
 namespace tarq {
 
 /// Writes a model that the format holds: names of at most 8 bytes without its signs and different also in capitals,
-/// else 0x80041026 and 0x8004102B, and no row with two different bounds, else 0x80041000. Rows may be without a name.
+/// else badColumnName and badRowName, and no row with two different bounds, else componentFailure. Rows may be without
+/// a name.
 [[nodiscard]] Outcome writeLindo(const std::string& fileName, const WrittenModel& model);
 
 }  // namespace tarq

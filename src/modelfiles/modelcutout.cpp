@@ -1,5 +1,6 @@
 #include "modelfiles/modelcutout.h"
 
+#include "frame/result.h"
 #include "model/addressing.h"
 
 namespace tarq {
@@ -20,14 +21,10 @@ Outcome resolve(Resolver resolver, const ModelStore& store, const Variant& addre
 
 Outcome resolveCutout(const ModelStore& store, const CutoutAddresses& addresses, ModelCutout& cutout) {
     ModelCutout found{1, store.rowCount(), 1, store.columnCount()};
-    if (Outcome row = resolve(resolveRow, store, addresses.firstRow, found.firstRow); !row.isOk()) return row;
-    if (Outcome row = resolve(resolveRow, store, addresses.lastRow, found.lastRow); !row.isOk()) return row;
-    if (Outcome column = resolve(resolveColumn, store, addresses.firstColumn, found.firstColumn); !column.isOk()) {
-        return column;
-    }
-    if (Outcome column = resolve(resolveColumn, store, addresses.lastColumn, found.lastColumn); !column.isOk()) {
-        return column;
-    }
+    TARQ_TRY(resolve(resolveRow, store, addresses.firstRow, found.firstRow));
+    TARQ_TRY(resolve(resolveRow, store, addresses.lastRow, found.lastRow));
+    TARQ_TRY(resolve(resolveColumn, store, addresses.firstColumn, found.firstColumn));
+    TARQ_TRY(resolve(resolveColumn, store, addresses.lastColumn, found.lastColumn));
     // What an object that is an address has called may have taken rows or columns away.
     if (found.lastRow > store.rowCount() || found.lastColumn > store.columnCount()) {
         return {status::indexOutOfRange, "Index out of valid range."};

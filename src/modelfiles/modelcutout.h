@@ -1,9 +1,9 @@
 // Which part of a model a client wants to see, from the addresses that it passes.
 #pragma once
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "modelfiles/modelwriter.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
@@ -16,8 +16,8 @@ struct CutoutAddresses {
 };
 
 /// Sets `cutout`; a missing first one means 1 and a missing last one the count. Fails as the addressing does, and with
-/// 0x80041031 when a first one lies behind its last one. A model without rows or columns has none to cut out: with both
-/// missing that is an empty range and no failure.
+/// invalidArgument when a first one lies behind its last one. A model without rows or columns has none to cut out: with
+/// both missing that is an empty range and no failure.
 [[nodiscard]] Outcome resolveCutout(const ModelStore& store, const CutoutAddresses& addresses, ModelCutout& cutout);
 
 }  // namespace tarq

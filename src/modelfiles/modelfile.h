@@ -6,9 +6,9 @@
 
 #include <string>
 
-#include "frame/status.h"
-#include "interfaces/enumerations.h"
 #include "model/modeltarget.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
@@ -17,8 +17,8 @@ using ModelFileTarget = ModelTarget;
 
 /// Reads `fileName` into `target`. Failures before the reader starts leave the target as it was; a parse failure leaves
 /// what was read so far.
-/// 0x80041018 for a name of more than 255 characters, 0x80041028 for a file that can't be read or has 2^31 bytes or
-/// more, 0x80041031 for a format that is none, 0x8004102A for a text that breaks the rules of its format: the
+/// textTooLong for a name of more than 255 characters, fileAccess for a file that can't be read or has 2^31 bytes or
+/// more, invalidArgument for a format that is none, syntaxError for a text that breaks the rules of its format: the
 /// description tells what was expected and on which line. A file that is no regular one, such as a pipe, is read to its
 /// end.
 [[nodiscard]] Outcome readModelFile(const std::string& fileName, TARQFileFormatType format, ModelFileTarget& target);

@@ -1,5 +1,6 @@
 #include "modelfiles/modelwriter.h"
 
+#include "frame/result.h"
 #include "frame/text.h"
 #include "modelfiles/lindowriter.h"
 #include "modelfiles/mpswriter.h"
@@ -14,7 +15,7 @@ Outcome checkWrittenName(const std::string& fileName) {
 }
 
 Outcome writeModelFile(const std::string& fileName, TARQFileFormatType format, const WrittenModel& model) {
-    if (Outcome name = checkWrittenName(fileName); !name.isOk()) return name;
+    TARQ_TRY(checkWrittenName(fileName));
     switch (format) {
         case TARQFileFormatType::MPS:
             return writeMps(fileName, model);

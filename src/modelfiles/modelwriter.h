@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
-#include "interfaces/enumerations.h"
 #include "model/modelstore.h"
 #include "parameters/parametertable.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
@@ -30,17 +30,17 @@ struct ModelCutout {
     std::int32_t lastColumn;
 };
 
-/// The first check of every writer: 0x80041018 "Filename is too long." for more than 255 characters.
+/// The first check of every writer: textTooLong "Filename is too long." for more than 255 characters.
 [[nodiscard]] Outcome checkWrittenName(const std::string& fileName);
 
-/// Writes the model. 0x80041018 for a name of more than 255 characters, 0x80041031 for a format that is none,
-/// 0x80041026, 0x8004102B or 0x80041000 for a model that the format can't hold, 0x80041028 for a file that can't be
-/// written; the description tells what it was.
+/// Writes the model. textTooLong for a name of more than 255 characters, invalidArgument for a format that is none,
+/// badColumnName, badRowName or componentFailure for a model that the format can't hold, fileAccess for a file that
+/// can't be written; the description tells what it was.
 [[nodiscard]] Outcome writeModelFile(const std::string& fileName, TARQFileFormatType format, const WrittenModel& model);
 
 /// Writes a listing of a part of the model, with what lies outside of it marked as hidden. The cutout lies within the
 /// model; a model without rows or columns has an empty one, whose last number is one below the first. The
-/// name has passed checkWrittenName. 0x80041028 as above.
+/// name has passed checkWrittenName. fileAccess as above.
 [[nodiscard]] Outcome writeModelListing(const std::string& fileName, const WrittenModel& model,
                                         const ModelCutout& cutout);
 

@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "interfaces/ireadingnotes.h"
 #include "model/modelstore.h"
 #include "model/nonzeroloader.h"
 #include "modelfiles/columnfinder.h"
 #include "modelfiles/fixedname.h"
 #include "modelfiles/fixednametable.h"
+#include "tarq/interfaces/ireadingnotes.h"
 
 namespace tarq {
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "frame/result.h"
 #include "modelfiles/columnorder.h"
 #include "modelfiles/fixedfields.h"
 #include "modelfiles/numberforms.h"
@@ -256,7 +257,7 @@ private:
 }  // namespace
 
 Outcome writeMps(const std::string& fileName, const WrittenModel& model) {
-    if (Outcome names = checkNames(model.store); !names.isOk()) return names;
+    TARQ_TRY(checkNames(model.store));
     // Before the file is touched, as memory may run out here.
     const ColumnOrder nonzeros(model.store);
     OutputFile file(fileName);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/status.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 

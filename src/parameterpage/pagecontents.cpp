@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "frame/status.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/frame/status.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 
@@ -13,9 +13,9 @@ inline constexpr const char* pageLibraryName = "libtarqpage.so";
 /// Shows the parameters of a model and returns when the person has closed the page; `applied` is then whether an apply
 /// took place. The model's mark that parameters are to be saved is taken away before and set by each apply. The library
 /// stays loaded for good, as toolkits of windows ask for.
-/// One page at a time in a process: 0x80041032 while another is open, on whatever thread; nothing has changed then.
-/// 0x80041011 for a library that can't be loaded, 0x80041012 for one that shows no pages, 0x80041027 when the library
-/// couldn't show the page or broke off.
+/// One page at a time in a process: wrongState while another is open, on whatever thread; nothing has changed then.
+/// libraryNotFound for a library that can't be loaded, entryPointsMissing for one that shows no pages, propertyPage
+/// when the library couldn't show the page or broke off.
 [[nodiscard]] Status showParameterPage(ITARQModel& model, bool& applied, const std::string& library = pageLibraryName);
 
 }  // namespace tarq

@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/object.h"
-#include "frame/variant.h"
-#include "interfaces/itarqmodel.h"
 #include "parameters/parameterrows.h"
+#include "tarq/frame/object.h"
+#include "tarq/frame/variant.h"
+#include "tarq/interfaces/itarqmodel.h"
 #include "tarq/page.h"
 
 namespace tarq {

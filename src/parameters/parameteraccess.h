@@ -10,18 +10,18 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
-#include "frame/variant.h"
 #include "parameters/parametertable.h"
+#include "tarq/frame/status.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 
-/// Reads a parameter or a result by name into a Variant of its kind. 0x80041015 "Parameter name does not exist." leaves
-/// `value` as it was.
+/// Reads a parameter or a result by name into a Variant of its kind. unknownParameter "Parameter name does not exist."
+/// leaves `value` as it was.
 [[nodiscard]] Outcome readParameter(const ParameterTable& table, std::string_view name, Variant& value);
 
 /// Checks and stores a parameter by name; a reference is resolved first. Results can't be written: like unknown names
-/// they give 0x80041015. 0x80041016 when the value can't become the row's kind, else the failures of the table's
+/// they give unknownParameter. wrongKind when the value can't become the row's kind, else the failures of the table's
 /// stores; a failure leaves the table unchanged.
 /// "xminmx" is stored in lower case, whatever the text. If the bound "xipbnd" then reaches `infinity`, the model's own,
 /// it is set to the infinity that is open to the new direction.
@@ -44,11 +44,11 @@ struct ParameterInfo {
     ParameterControl control = ParameterControl::None;
 };
 
-/// Describes the row with the 1-based `parameterId`. 0x80041031 "Bad parameter ID." leaves `info` as it was.
+/// Describes the row with the 1-based `parameterId`. invalidArgument "Bad parameter ID." leaves `info` as it was.
 [[nodiscard]] Outcome parameterInfo(const ParameterTable& table, std::int32_t parameterId, ParameterInfo& info);
 
-/// The option `optionId` of the row `parameterId`, both 1-based. 0x80041031 "Bad parameter ID." or "Bad option ID."
-/// leaves `option` as it was.
+/// The option `optionId` of the row `parameterId`, both 1-based. invalidArgument "Bad parameter ID." or "Bad option
+/// ID." leaves `option` as it was.
 [[nodiscard]] Outcome parameterOption(std::int32_t parameterId, std::int32_t optionId, ParameterOption& option);
 
 }  // namespace tarq

@@ -18,8 +18,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/status.h"
 #include "parameters/parameterrows.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 
@@ -36,9 +36,9 @@ public:
     [[nodiscard]] double doubleValue(int row) const;
     [[nodiscard]] const std::string& stringValue(int row) const;  ///< the client's thread only
 
-    /// The checked stores. A refused value leaves the row as it was: 0x80041017 outside of the limits, which are
-    /// inclusive and which not-a-number never meets, 0x80041018 for a text longer than the row's stringMaxLength in
-    /// UTF-16 code units, 0x80041016 for a row of another kind.
+    /// The checked stores. A refused value leaves the row as it was: valueOutOfRange outside of the limits, which are
+    /// inclusive and which not-a-number never meets, textTooLong for a text longer than the row's stringMaxLength in
+    /// UTF-16 code units, wrongKind for a row of another kind.
     [[nodiscard]] Outcome setLong(int row, std::int32_t value);
     [[nodiscard]] Outcome setDouble(int row, double value);
     [[nodiscard]] Outcome setString(int row, std::string_view value);

@@ -3,14 +3,14 @@
 
 #include <string_view>
 
-#include "frame/status.h"
 #include "parameters/parametertable.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 
 /// Sets seven file name rows to `name` with ".lps", ".ips", ".sta", ".log", ".msg", ".mps" and ".pro" behind it. An
-/// extension of the name stays, a directory is allowed, and so is the empty name. 0x8004102F for more than 250 bytes or
-/// a character of "*?<>|" changes nothing.
+/// extension of the name stays, a directory is allowed, and so is the empty name. fileNameRejected for more than 250
+/// bytes or a character of "*?<>|" changes nothing.
 [[nodiscard]] Outcome generateFileNames(ParameterTable& table, std::string_view name);
 
 }  // namespace tarq

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "interfaces/itarqarray.h"
 #include "modelfixture.h"
+#include "tarq/interfaces/itarqarray.h"
 #include "tests/support/valuewalks.h"
 
 namespace tarq {

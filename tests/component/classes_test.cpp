@@ -8,14 +8,14 @@
 #include <string>
 #include <thread>
 
-#include "component/classtable.h"
-#include "component/servermodule.h"
-#include "frame/classfactory.h"
-#include "frame/connectionpoint.h"
-#include "frame/membertable.h"
-#include "frame/module.h"
-#include "frame/supporterrorinfo.h"
-#include "interfaces/itarqmodelevents.h"
+#include "tarq/component/classtable.h"
+#include "tarq/component/servermodule.h"
+#include "tarq/frame/classfactory.h"
+#include "tarq/frame/connectionpoint.h"
+#include "tarq/frame/membertable.h"
+#include "tarq/frame/module.h"
+#include "tarq/frame/supporterrorinfo.h"
+#include "tarq/interfaces/itarqmodelevents.h"
 #include "tests/component/modelfixture.h"
 
 namespace tarq {

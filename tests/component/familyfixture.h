@@ -6,12 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include "frame/ienumvariant.h"
-#include "interfaces/itarqresset.h"
-#include "interfaces/itarqressetenum.h"
-#include "interfaces/itarqvarset.h"
-#include "interfaces/itarqvarsetenum.h"
 #include "itemfixture.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/interfaces/itarqresset.h"
+#include "tarq/interfaces/itarqressetenum.h"
+#include "tarq/interfaces/itarqvarset.h"
+#include "tarq/interfaces/itarqvarsetenum.h"
 
 namespace tarq {
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "familyfixture.h"
-#include "interfaces/itarqarray.h"
+#include "tarq/interfaces/itarqarray.h"
 #include "tests/support/valuewalks.h"
 
 namespace tarq {

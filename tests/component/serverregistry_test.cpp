@@ -1,11 +1,11 @@
-#include "component/serverregistry.h"
+#include "tarq/component/serverregistry.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "component/createobject.h"
-#include "interfaces/itarqmodel.h"
+#include "tarq/component/createobject.h"
+#include "tarq/interfaces/itarqmodel.h"
 
 namespace tarq {
 namespace {

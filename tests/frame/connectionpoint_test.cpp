@@ -1,5 +1,5 @@
 // Subscriptions to an object's events.
-#include "frame/connectionpoint.h"
+#include "tarq/frame/connectionpoint.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "frame/countedobject.h"
+#include "tarq/frame/countedobject.h"
 #include "tests/frame/panel.h"
 #include "tests/support/outcomematchers.h"
 

@@ -1,10 +1,10 @@
 // Life, identity and creation of objects, free-standing and as parts of others.
-#include "frame/countedobject.h"
+#include "tarq/frame/countedobject.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "frame/module.h"
+#include "tarq/frame/module.h"
 #include "tests/frame/panel.h"
 #include "tests/support/outcomematchers.h"
 

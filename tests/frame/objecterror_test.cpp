@@ -1,4 +1,4 @@
-#include "frame/objecterror.h"
+#include "tarq/frame/objecterror.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <thread>
 
-#include "frame/guid.h"
+#include "tarq/frame/guid.h"
 
 namespace tarq {
 namespace {

@@ -6,9 +6,9 @@
 #include <new>
 #include <string>
 
-#include "frame/countedobject.h"
-#include "frame/memberbinding.h"
-#include "frame/objecterror.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq {
 

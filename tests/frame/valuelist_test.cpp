@@ -1,4 +1,4 @@
-#include "frame/valuelist.h"
+#include "tarq/frame/valuelist.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/variant.h"
+#include "tarq/frame/variant.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/countedobject.h"
-#include "frame/safearray.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/safearray.h"
 #include "tests/frame/variantmatchers.h"
 
 namespace tarq {

@@ -8,8 +8,8 @@
 
 #include "frame/convertelement.h"
 #include "frame/localnumbers.h"
-#include "frame/safearray.h"
-#include "frame/variant.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/frame/variant.h"
 #include "tests/frame/variantmatchers.h"
 
 namespace tarq {

@@ -7,8 +7,8 @@
 #include <ostream>
 #include <string>
 
-#include "frame/safearray.h"
-#include "frame/variant.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq {
 

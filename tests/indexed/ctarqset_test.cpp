@@ -3,8 +3,8 @@
 #include <limits>
 #include <random>
 
-#include "frame/module.h"
 #include "indexed/elementlookup.h"
+#include "tarq/frame/module.h"
 #include "tests/indexed/datafixture.h"
 
 namespace tarq {

@@ -9,15 +9,15 @@
 #include <utility>
 #include <vector>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
-#include "frame/safearray.h"
-#include "frame/valuelist.h"
 #include "indexed/ctarqseries.h"
 #include "indexed/ctarqset.h"
 #include "indexed/ctarqsetenum.h"
-#include "interfaces/classids.h"
-#include "interfaces/itarqseriesenum.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/safearray.h"
+#include "tarq/frame/valuelist.h"
+#include "tarq/interfaces/classids.h"
+#include "tarq/interfaces/itarqseriesenum.h"
 #include "tests/support/outcomematchers.h"
 
 namespace tarq {

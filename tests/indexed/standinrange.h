@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "frame/dispatch.h"
 #include "indexed/spreadsheetrange.h"
+#include "tarq/frame/dispatch.h"
 
 namespace tarq {
 

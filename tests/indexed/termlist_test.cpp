@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "frame/safearray.h"
+#include "tarq/frame/safearray.h"
 #include "tests/indexed/standinrange.h"
 #include "tests/support/outcomematchers.h"
 #include "tests/support/valuewalks.h"

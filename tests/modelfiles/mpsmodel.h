@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "frame/status.h"
 #include "modelfiles/fixedfields.h"
 #include "modelfiles/modelfile.h"
+#include "tarq/frame/status.h"
 #include "tests/support/outcomematchers.h"
 
 namespace tarq {

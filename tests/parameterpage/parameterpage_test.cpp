@@ -5,10 +5,10 @@
 
 #include <thread>
 
-#include "interfaces/ipropertypage.h"
 #include "parameterpage/pagecontents.h"
 #include "parameterpage/pageframe.h"
 #include "platform/dynamiclibrary.h"
+#include "tarq/interfaces/ipropertypage.h"
 #include "tests/component/modelfixture.h"
 
 namespace tarq {

@@ -8,11 +8,11 @@
 #include <thread>
 #include <vector>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
-#include "frame/memberbinding.h"
-#include "frame/objecterror.h"
-#include "frame/safearray.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/memberbinding.h"
+#include "tarq/frame/objecterror.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq {
 namespace {

@@ -8,7 +8,7 @@
 #include <ostream>
 #include <string>
 
-#include "frame/status.h"
+#include "tarq/frame/status.h"
 
 namespace tarq {
 

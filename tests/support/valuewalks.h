@@ -6,12 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include "frame/countedobject.h"
-#include "frame/ienumvariant.h"
-#include "frame/objecterror.h"
-#include "interfaces/itarqarrayenum.h"
-#include "interfaces/itarqseries.h"
-#include "interfaces/itarqseriesenum.h"
+#include "tarq/frame/countedobject.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/objecterror.h"
+#include "tarq/interfaces/itarqarrayenum.h"
+#include "tarq/interfaces/itarqseries.h"
+#include "tarq/interfaces/itarqseriesenum.h"
 
 namespace tarq {
 

@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "frame/safearray.h"
 #include "python.h"
+#include "tarq/frame/safearray.h"
 
 namespace tarq::python {
 

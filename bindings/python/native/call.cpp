@@ -7,9 +7,9 @@
 
 #include "callwatch.h"
 #include "failures.h"
-#include "frame/ienumvariant.h"
-#include "frame/safearray.h"
 #include "labels.h"
+#include "tarq/frame/ienumvariant.h"
+#include "tarq/frame/safearray.h"
 #include "text.h"
 #include "values.h"
 

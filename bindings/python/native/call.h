@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <span>
 
-#include "frame/membertable.h"
 #include "proxy.h"
 #include "python.h"
+#include "tarq/frame/membertable.h"
 
 namespace tarq::python {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <utility>
 
-#include "frame/objecterror.h"
 #include "signalpipe.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq::python {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "component/classtable.h"
-#include "frame/guid.h"
-#include "interfaces/enumerationtables.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/guid.h"
+#include "tarq/interfaces/enumerationtables.h"
 
 namespace tarq::python {
 namespace {

@@ -1,8 +1,8 @@
 // What the member tables tell, as Python values: for help, signatures and stubs.
 #pragma once
 
-#include "frame/membertable.h"
 #include "python.h"
+#include "tarq/frame/membertable.h"
 
 namespace tarq::python {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "failures.h"
-#include "frame/ienumvariant.h"
+#include "tarq/frame/ienumvariant.h"
 #include "values.h"
 
 namespace tarq::python {

@@ -1,8 +1,8 @@
 // Iteration: the component's enumerators as Python's iterators.
 #pragma once
 
-#include "frame/object.h"
 #include "python.h"
+#include "tarq/frame/object.h"
 
 namespace tarq::python {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
-#include "component/classtable.h"
-#include "frame/objecterror.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/objecterror.h"
 #include "text.h"
 
 namespace tarq::python {

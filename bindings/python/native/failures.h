@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/status.h"
 #include "python.h"
+#include "tarq/frame/status.h"
 
 namespace tarq::python {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "frame/module.h"
+#include "tarq/frame/module.h"
 #include "values.h"
 
 namespace tarq::python {

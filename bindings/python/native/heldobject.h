@@ -9,10 +9,10 @@
 #include <string_view>
 
 #include "failures.h"
-#include "frame/dispatch.h"
-#include "frame/objecterror.h"
 #include "interpreterlock.h"
 #include "python.h"
+#include "tarq/frame/dispatch.h"
+#include "tarq/frame/objecterror.h"
 
 namespace tarq::python {
 

@@ -1,8 +1,8 @@
 // Members of proxies: the descriptors in the types, and what a member of one object is that takes arguments.
 #pragma once
 
-#include "frame/membertable.h"
 #include "python.h"
+#include "tarq/frame/membertable.h"
 
 namespace tarq::python {
 

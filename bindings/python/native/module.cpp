@@ -4,19 +4,19 @@
 #include <string>
 
 #include "call.h"
-#include "component/classtable.h"
-#include "component/createobject.h"
 #include "description.h"
 #include "enumerator.h"
 #include "failures.h"
-#include "frame/module.h"
-#include "frame/objecterror.h"
 #include "interpreterlock.h"
 #include "member.h"
 #include "proxy.h"
 #include "servers.h"
 #include "sink.h"
 #include "standin.h"
+#include "tarq/component/classtable.h"
+#include "tarq/component/createobject.h"
+#include "tarq/frame/module.h"
+#include "tarq/frame/objecterror.h"
 #include "values.h"
 
 namespace tarq::python {
@@ -55,6 +55,15 @@ py::list numbered(const py::object& object, const std::string& property, std::in
     return getNumbered(proxyOf(object), *get, first, count);
 }
 
+/// The statuses that the component returns, by name.
+py::dict statusTable() {
+    py::dict all;
+    for (const status::Entry& entry : status::table()) {
+        all[py::str(entry.name.data(), entry.name.size())] = entry.status.value();
+    }
+    return all;
+}
+
 void addTypes(py::module_& module) {
     makeMemberTypes();
     makeEnumeratorType();
@@ -88,6 +97,7 @@ void addFunctions(py::module_& module) {
     module.def("described_enumerations", describedEnumerations);
     module.def("class_types", classTypes);
     module.def("close", closeInterpreter);
+    module.attr("statuses") = statusTable();
 }
 
 }  // namespace

@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "call.h"
-#include "component/createobject.h"
 #include "enumerator.h"
 #include "failures.h"
 #include "heldobject.h"
 #include "member.h"
+#include "tarq/component/createobject.h"
 #include "text.h"
 #include "values.h"
 

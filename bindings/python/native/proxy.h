@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "component/classtable.h"
-#include "frame/dispatch.h"
-#include "frame/membertable.h"
 #include "python.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/dispatch.h"
+#include "tarq/frame/membertable.h"
 
 namespace tarq::python {
 

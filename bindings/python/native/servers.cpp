@@ -2,10 +2,10 @@
 
 #include <memory>
 
-#include "component/serverregistry.h"
 #include "heldobject.h"
 #include "proxy.h"
 #include "standin.h"
+#include "tarq/component/serverregistry.h"
 
 namespace tarq::python {
 namespace {

@@ -5,12 +5,12 @@
 #include <utility>
 
 #include "callwatch.h"
-#include "component/classtable.h"
 #include "failures.h"
-#include "frame/connectionpoint.h"
-#include "frame/membertable.h"
 #include "heldobject.h"
 #include "proxy.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/connectionpoint.h"
+#include "tarq/frame/membertable.h"
 #include "values.h"
 
 namespace tarq::python {

@@ -5,14 +5,9 @@
 #include <new>
 #include <string>
 
-#include "component/classtable.h"
-#include "frame/classfactory.h"
-#include "frame/connectionpoint.h"
-#include "frame/guid.h"
-#include "frame/ienumvariant.h"
-#include "frame/supporterrorinfo.h"
 #include "heldobject.h"
-#include "interfaces/ifamilyidentity.h"
+#include "tarq/component/classtable.h"
+#include "tarq/frame/guid.h"
 #include "text.h"
 #include "values.h"
 
@@ -33,18 +28,6 @@ py::object& standInType() {
 
 bool isMethod(py::handle value) {
     return PyMethod_Check(value.ptr()) || PyFunction_Check(value.ptr()) || PyCFunction_Check(value.ptr());
-}
-
-/// Interfaces whose functions are called directly: an object that is only called late-bound must not seem to have them,
-/// whatever its class lists.
-bool isCalledDirectly(const Guid& interfaceId) {
-    for (const Guid& id : {IEnumVARIANT::id, IConnectionPoint::id, IConnectionPointContainer::id, IClassFactory::id,
-                           ISupportErrorInfo::id, IFamilyIdentity::id}) {
-        if (interfaceId == id) return true;
-    }
-    return std::ranges::any_of(classTable(), [&](const ClassEntry& entry) {
-        return entry.members != nullptr && entry.members().id() == interfaceId;
-    });
 }
 
 class StandIn final : public HeldObject {

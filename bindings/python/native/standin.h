@@ -1,8 +1,8 @@
 // Stand-ins: objects of classes derived from tarq.Dispatch, which the component calls as if they were its own kind.
 #pragma once
 
-#include "frame/object.h"
 #include "python.h"
+#include "tarq/frame/object.h"
 
 namespace tarq::python {
 

@@ -7,9 +7,9 @@
 #include <unordered_map>
 
 #include "arrays.h"
-#include "interfaces/enumerationtables.h"
 #include "proxy.h"
 #include "standin.h"
+#include "tarq/interfaces/enumerationtables.h"
 #include "text.h"
 
 namespace tarq::python {

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "frame/membertable.h"
-#include "frame/variant.h"
 #include "python.h"
+#include "tarq/frame/membertable.h"
+#include "tarq/frame/variant.h"
 
 namespace tarq::python {
 

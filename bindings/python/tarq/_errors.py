@@ -2,11 +2,7 @@
 
 import re
 
-ARGUMENT_TYPE = 0x80020005
-ARGUMENT_COUNT = 0x8002000E
-UNKNOWN_PARAMETER = 0x80020004
-UNKNOWN_NAME = 0x80020006
-GENERAL_FAILURE = 0x80004005
+from ._tarq import statuses
 
 # What stands for the bytes of texts that are no UTF-8.
 UNPRINTABLE = re.compile("[\ud800-\udfff]")
@@ -42,7 +38,9 @@ class MemberError(Error, AttributeError):
         Error.__init__(self, status, description, source)
 
 
-ARGUMENT_FAILURES = frozenset((ARGUMENT_TYPE, ARGUMENT_COUNT, UNKNOWN_PARAMETER, UNKNOWN_NAME))
+ARGUMENT_FAILURES = frozenset(
+    statuses[name] for name in ("argumentType", "argumentCount", "unknownParameterName", "unknownName")
+)
 
 for exception in (Error, ArgumentError, MemberError):
     exception.__module__ = "tarq"
@@ -55,7 +53,11 @@ def error_of(status, description, source):
 
 
 # Failures of a run of which the engine has told the reason, and how their descriptions begin.
-ENGINE_FAILURES = {0x80041013: "Not enough memory for model", 0x8004102E: "Input error", 0x80041024: ""}
+ENGINE_FAILURES = {
+    statuses["engineMemory"]: "Not enough memory for model",
+    statuses["engineSetup"]: "Input error",
+    statuses["crucialError"]: "",
+}
 NUMBERED = re.compile(r"\b(column|row) ([1-9]\d{0,8})\b", re.IGNORECASE)
 
 
@@ -86,4 +88,4 @@ def record_of(exception):
     """Status and description of an exception that a Python object has raised while the component called it."""
     if isinstance(exception, Error):
         return exception.status & 0xFFFFFFFF, exception.description
-    return GENERAL_FAILURE, f"{type(exception).__name__}: {exception}"
+    return statuses["generalFailure"], f"{type(exception).__name__}: {exception}"
