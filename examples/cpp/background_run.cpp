@@ -11,84 +11,75 @@
 #include <random>
 #include <string>
 
-#include "check.h"
+#include "program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::ITARQModel;
+using tarq::TARQColType;
+using tarq::TARQSolutionStatusTyp;
 
 namespace {
 
 constexpr int parcels = 250;
 constexpr int limits = 30;
 
-Variant limitName(int limit) { return Variant("limit " + std::to_string(limit)); }
+std::string limitName(int limit) { return "limit " + std::to_string(limit); }
 
-void build(ITARQModel& model) {
+void build(const Model& model) {
     std::mt19937 random(7);
     const auto between = [&](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
-    check(model.put_ModelName("courier"));
-    check(model.put_Parameter("xminmx", Variant("max")));
-    for (int limit = 1; limit <= limits; ++limit) check(model.AddRow(0, 0, limitName(limit)));
+    model.put(&ITARQModel::put_ModelName, "courier");
+    model.Parameter("xminmx") = "max";
+    for (int limit = 1; limit <= limits; ++limit) model.addRow(limitName(limit), {.lower = 0, .upper = 0});
     double total[limits + 1] = {};
     for (int parcel = 1; parcel <= parcels; ++parcel) {
-        check(model.AddCol(0, 1, TARQColType::Binary, Variant(between(40, 120)),
-                           Variant("parcel " + std::to_string(parcel))));
+        model.addColumn("parcel " + std::to_string(parcel),
+                        {.upper = 1, .cost = 1.0 * between(40, 120), .type = TARQColType::Binary});
         for (int limit = 1; limit <= limits; ++limit) {
             const int weight = between(5, 100);
             total[limit] += weight;
-            check(model.put_NZ(Variant(limit), Variant(parcel), weight));
+            model.NZ(limit, parcel) = weight;
         }
     }
-    for (int limit = 1; limit <= limits; ++limit) check(model.put_RowRHS(limitName(limit), 0.4 * total[limit]));
+    for (int limit = 1; limit <= limits; ++limit) model.RowRHS(limitName(limit)) = 0.4 * total[limit];
 }
 
-void showProgress(ITARQModel& model, int seconds) {
-    std::int32_t nodes = 0;
-    double best = 0;
-    double bound = 0;
-    check(model.get_NumberOfNodesProcessed(&nodes));
-    check(model.get_IPObjFunctValue(&best));
-    check(model.get_IPObjFunctBestPossible(&bound));
-    std::printf("%3d s  %6d nodes  best load %.0f  bound %.1f\n", seconds, nodes, best, bound);
+void showProgress(const Model& model, int seconds) {
+    std::printf("%3d s  %6d nodes  best load %.0f  bound %.1f\n", seconds,
+                model.get(&ITARQModel::get_NumberOfNodesProcessed), model.get(&ITARQModel::get_IPObjFunctValue),
+                model.get(&ITARQModel::get_IPObjFunctBestPossible));
 }
 
 /// Waits for the end of the run, and asks for it when the time is up.
-void watch(ITARQModel& model, const std::future<void>& finished, int seconds) {
+void watch(const Model& model, const std::future<void>& finished, int seconds) {
     int waited = 0;
     while (finished.wait_for(std::chrono::seconds(1)) != std::future_status::ready) {
         showProgress(model, ++waited);
         if (waited != seconds) continue;
         std::puts("that will do");
-        check(model.StopOptimizeAsync());
+        model.call(&ITARQModel::StopOptimizeAsync);
     }
 }
 
-void showLoad(ITARQModel& model) {
-    const auto status =
-        valueOf<TARQSolutionStatusTyp>([&](TARQSolutionStatusTyp* value) { return model.get_SolutionStatus(value); });
+void showLoad(const Model& model) {
+    const auto status = model.get(&ITARQModel::get_SolutionStatus);
     if (status != TARQSolutionStatusTyp::IPOptimalSolution && status != TARQSolutionStatusTyp::IPSubOptimalSolution) {
         throw std::runtime_error("no load was found");
     }
     int loaded = 0;
-    for (int parcel = 1; parcel <= parcels; ++parcel) {
-        loaded +=
-            valueOf<double>([&](double* value) { return model.get_ColIPSol(Variant(parcel), value); }) > 0.5 ? 1 : 0;
-    }
-    double value = 0;
-    check(model.get_IPObjFunctValue(&value));
-    std::printf("best load: %d parcels, value %.0f\n", loaded, value);
+    for (int parcel = 1; parcel <= parcels; ++parcel) loaded += model.ColIPSol(parcel) > 0.5 ? 1 : 0;
+    std::printf("best load: %d parcels, value %.0f\n", loaded, model.get(&ITARQModel::get_IPObjFunctValue));
 }
 
 void run(int seconds) {
-    const Ref<ITARQModel> model = newModel();
-    build(*model);
+    const Model model;
+    build(model);
     std::promise<void> end;
-    std::uint32_t cookie = 0;
-    check(adviseFinished(
-        *model, [&] { end.set_value(); }, &cookie));  // called on the thread of the run
-    check(model->OptimizeAsync());
-    watch(*model, end.get_future(), seconds);
-    check(unadviseFinished(*model, cookie));
-    showLoad(*model);
+    const std::uint32_t cookie = model.onFinished([&] { end.set_value(); });  // called on the thread of the run
+    model.call(&ITARQModel::OptimizeAsync);
+    watch(model, end.get_future(), seconds);
+    model.forget(cookie);
+    showLoad(model);
 }
 
 }  // namespace

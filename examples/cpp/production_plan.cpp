@@ -5,9 +5,10 @@
 #include <array>
 #include <cstdio>
 
-#include "check.h"
+#include "program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::ITARQModel;
 
 namespace {
 
@@ -28,51 +29,28 @@ constexpr std::array resources{Resource{"wood", 1200, {5, 20, 12, 35}}, Resource
                                Resource{"assembly hours", 170, {1.5, 2.5, 1, 6}},
                                Resource{"varnish", 110, {0.5, 2, 1, 3}}};
 
-void build(ITARQModel& model) {
-    double infinity = 0;
-    check(model.get_INF(&infinity));
-    check(model.put_ModelName("workshop"));
-    check(model.put_Parameter("xminmx", Variant("max")));
-    for (const Piece& piece : pieces) {
-        check(model.AddCol(0, piece.demand, TARQColType::Continuous, Variant(piece.profit), Variant(piece.name)));
-    }
+void build(const Model& model) {
+    model.put(&ITARQModel::put_ModelName, "workshop");
+    model.Parameter("xminmx") = "max";
+    for (const Piece& piece : pieces) model.addColumn(piece.name, {.upper = piece.demand, .cost = piece.profit});
     for (const Resource& resource : resources) {
-        check(model.AddRow(-infinity, resource.available, Variant(resource.name)));
-        for (std::size_t i = 0; i < pieces.size(); ++i) {
-            check(model.put_NZ(Variant(resource.name), Variant(pieces[i].name), resource.needs[i]));
-        }
-    }
-}
-
-void show(ITARQModel& model) {
-    std::printf("workshop: profit %.2f\n",
-                valueOf<double>([&](double* value) { return model.get_LPObjFunctValue(value); }));
-    for (const Piece& piece : pieces) {
-        const Variant name(piece.name);
-        double made = 0;
-        double reducedCost = 0;
-        check(model.get_ColLPSol(name, &made));
-        check(model.get_ColRedCost(name, &reducedCost));
-        std::printf("  %-15s %8.2f   one more brings %7.2f\n", piece.name, made, reducedCost + 0.0);
-    }
-    for (const Resource& resource : resources) {
-        const Variant name(resource.name);
-        double used = 0;
-        double shadowPrice = 0;
-        check(model.get_RowLPSol(name, &used));
-        check(model.get_RowDual(name, &shadowPrice));
-        std::printf("  %-15s %8.2f   one more is worth %7.2f\n", resource.name, used, shadowPrice + 0.0);
+        model.addRow(resource.name, {.upper = resource.available});
+        for (std::size_t i = 0; i < pieces.size(); ++i) model.NZ(resource.name, pieces[i].name) = resource.needs[i];
     }
 }
 
 void plan() {
-    const Ref<ITARQModel> model = newModel();
-    build(*model);
-    check(model->Optimize());
-    const auto status =
-        valueOf<TARQSolutionStatusTyp>([&](TARQSolutionStatusTyp* value) { return model->get_SolutionStatus(value); });
-    if (status != TARQSolutionStatusTyp::LPOptimalSolution) throw std::runtime_error("there is no plan");
-    show(*model);
+    const Model model;
+    build(model);
+    std::printf("workshop: profit %.2f\n", model.optimum());
+    for (const Piece& piece : pieces) {
+        std::printf("  %-15s %8.2f   one more brings %7.2f\n", piece.name, model.ColLPSol(piece.name),
+                    model.ColRedCost(piece.name) + 0.0);
+    }
+    for (const Resource& resource : resources) {
+        std::printf("  %-15s %8.2f   one more is worth %7.2f\n", resource.name, model.RowLPSol(resource.name),
+                    model.RowDual(resource.name) + 0.0);
+    }
 }
 
 }  // namespace

@@ -5,33 +5,24 @@
 #include <cstdlib>
 #include <string>
 
-#include "check.h"
+#include "program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::ITARQModel;
+using tarq::TARQFileFormatType;
 
 namespace {
 
-double solve(ITARQModel& model) {
-    check(model.Optimize());
-    const auto status =
-        valueOf<TARQSolutionStatusTyp>([&](TARQSolutionStatusTyp* value) { return model.get_SolutionStatus(value); });
-    if (status == TARQSolutionStatusTyp::IPOptimalSolution) {
-        return valueOf<double>([&](double* value) { return model.get_IPObjFunctValue(value); });
-    }
-    if (status != TARQSolutionStatusTyp::LPOptimalSolution) throw std::runtime_error("no optimum");
-    return valueOf<double>([&](double* value) { return model.get_LPObjFunctValue(value); });
-}
-
-void compare(const std::string& file, const Variant& column, double bound) {
-    const Ref<ITARQModel> model = newModel();
-    check(model->ReadModel(file, TARQFileFormatType::MPS));
-    const auto name = valueOf<std::string>([&](std::string* value) { return model->get_ModelName(value); });
-    const auto oldBound = valueOf<double>([&](double* value) { return model->get_ColUB(column, value); });
-    const double before = solve(*model);
-    std::printf("%s: %.6f with %s up to %g\n", name.c_str(), before, column.text().c_str(), oldBound);
-    check(model->put_ColUB(column, bound));
-    const double after = solve(*model);
-    std::printf("%s: %.6f with %s up to %g, a difference of %.6f\n", name.c_str(), after, column.text().c_str(), bound,
+void compare(const std::string& file, const std::string& column, double bound) {
+    const Model model;
+    model.call(&ITARQModel::ReadModel, file, TARQFileFormatType::MPS);
+    const std::string name = model.get(&ITARQModel::get_ModelName);
+    const double oldBound = model.ColUB(column);
+    const double before = model.optimum();
+    std::printf("%s: %.6f with %s up to %g\n", name.c_str(), before, column.c_str(), oldBound);
+    model.ColUB(column) = bound;
+    const double after = model.optimum();
+    std::printf("%s: %.6f with %s up to %g, a difference of %.6f\n", name.c_str(), after, column.c_str(), bound,
                 after - before);
 }
 
@@ -42,5 +33,5 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: %s FILE COLUMN BOUND\n", argv[0]);
         return 1;
     }
-    return exitCode([&] { compare(argv[1], Variant(argv[2]), std::atof(argv[3])); });
+    return exitCode([&] { compare(argv[1], argv[2], std::atof(argv[3])); });
 }

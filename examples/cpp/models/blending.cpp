@@ -2,9 +2,9 @@
 //
 // Columns are the parts of the ingredients in one tonne of feed. A row for each nutrient bounds what the mixture holds
 // of it, on both sides.
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
 
 namespace {
 
@@ -27,32 +27,31 @@ struct Feed {
     Rows content;
 };
 
-Feed build(ITARQModel& model) {
-    Feed feed{Columns(model, "part", {ingredients}), Rows(model, "content", {nutrients})};
-    feed.part.put(&ITARQVarSet::put_Cost, prices);
-    feed.part.put(&ITARQVarSet::put_UB, limits);
-    const Ref<ITARQRes> whole = newRow(model, "whole");
-    check(whole->SetEQ(1));
-    check(whole->Sum(terms(feed.part)));
-    feed.content.put(&ITARQResSet::put_UB, most);
-    feed.content.put(&ITARQResSet::put_LB, least);
+Feed build(const Model& model) {
+    Feed feed{Columns(model, "part", ingredients), Rows(model, "content", nutrients)};
+    feed.part.Cost() = prices;
+    feed.part.UB() = limits;
+    const Row whole(model, "whole");
+    whole.exactly(1);
+    whole.sum(feed.part);
+    feed.content.UB() = most;
+    feed.content.LB() = least;
     for (std::size_t i = 0; i < nutrients.size(); ++i) {
-        check(feed.content.row(nutrients[i])->Sum(terms(amounts[i], feed.part)));
+        feed.content.row(nutrients[i]).sum(amounts[i], feed.part);
     }
     return feed;
 }
 
 void mix() {
-    const Ref<ITARQModel> model = newModel();
-    const Feed feed = build(*model);
-    const double price = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const Model model;
+    const Feed feed = build(model);
+    const double price = model.optimum();
     for (const std::string& ingredient : ingredients) {
-        std::printf("  %-10s %6.2f %%\n", ingredient.c_str(), 100 * feed.part.get(&ITARQVarSet::get_LPSol, ingredient));
+        std::printf("  %-10s %6.2f %%\n", ingredient.c_str(), 100 * feed.part.LPSol(ingredient).number());
     }
     for (const std::string& nutrient : nutrients) {
-        std::printf("  %-10s %8.3f   one more costs %9.4f\n", nutrient.c_str(),
-                    feed.content.get(&ITARQResSet::get_LPSol, nutrient),
-                    feed.content.get(&ITARQResSet::get_Dual, nutrient) + 0.0);
+        std::printf("  %-10s %8.3f   one more costs %9.4f\n", nutrient.c_str(), feed.content.LPSol(nutrient).number(),
+                    feed.content.Dual(nutrient).number() + 0.0);
     }
     std::printf("a tonne of feed costs %.4f euros\n", price);
 }

@@ -5,9 +5,10 @@
 // more than a roll. When there is none the linear master is solved, and its patterns are used in whole rolls.
 #include <cmath>
 
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::TARQColType;
 
 namespace {
 
@@ -24,8 +25,8 @@ Numbers piecesOfOneWidth() {
 
 /// The fewest rolls with the patterns known so far. To begin with, each pattern cuts one width only.
 struct Master {
-    Ref<ITARQModel> model = newModel();
-    Rows order{*model, "order", {widths}};
+    Model model;
+    Rows order{model, "order", widths};
     Table patterns;  // pieces of each width
 
     Master() {
@@ -40,13 +41,9 @@ struct Master {
 
     void add(Numbers pattern) {
         patterns.push_back(std::move(pattern));
-        double infinity = 0;
-        check(model->get_INF(&infinity));
-        const Variant name(nameOf(patterns.size() - 1));
-        check(model->AddCol(0, infinity, TARQColType::Continuous, Variant(1), name));
-        for (std::size_t i = 0; i < widths.size(); ++i) {
-            check(model->put_NZ(Variant("order." + widths[i]), name, patterns.back()[i]));
-        }
+        const std::string name = nameOf(patterns.size() - 1);
+        model.addColumn(name, {.cost = 1});
+        for (std::size_t i = 0; i < widths.size(); ++i) model.NZ("order." + widths[i], name) = patterns.back()[i];
     }
 
     static std::string nameOf(std::size_t pattern) {
@@ -57,25 +54,25 @@ struct Master {
 
 /// The pattern that is worth the most when a piece of each width has a price.
 struct PatternSearch {
-    Ref<ITARQModel> model = newModel();
-    Columns pieces{*model, "pieces", {widths}};
+    Model model;
+    Columns pieces{model, "pieces", widths};
 
     PatternSearch() {
-        check(model->put_Parameter("xminmx", Variant("max")));
-        check(model->put_Parameter("xglgap", Variant(0)));
-        pieces.put(&ITARQVarSet::put_UB, piecesOfOneWidth());
-        pieces.put(&ITARQVarSet::put_Type, TARQColType::Integer);
-        const Ref<ITARQRes> length = newRow(*model, "roll");
-        check(length->SetLT(roll));
-        check(length->Sum(terms(pieceWidths, pieces)));
+        model.Parameter("xminmx") = "max";
+        model.Parameter("xglgap") = 0;
+        pieces.UB() = piecesOfOneWidth();
+        pieces.Type() = TARQColType::Integer;
+        const Row length(model, "roll");
+        length.atMost(roll);
+        length.sum(pieceWidths, pieces);
     }
 
     std::pair<double, Numbers> best(const Numbers& prices) {
-        pieces.put(&ITARQVarSet::put_Cost, prices);
-        const double worth = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+        pieces.Cost() = prices;
+        const double worth = model.optimum();
         Numbers found;
         for (const std::string& width : widths) {
-            found.push_back(std::round(pieces.get(&ITARQVarSet::get_IPSol, width)));
+            found.push_back(std::round(pieces.IPSol(width).number()));
         }
         return {worth, found};
     }
@@ -85,9 +82,9 @@ struct PatternSearch {
 double generate(Master& master) {
     PatternSearch search;
     while (true) {
-        const double rolls = solve(*master.model, TARQSolutionStatusTyp::LPOptimalSolution);
+        const double rolls = master.model.optimum();
         Numbers prices;
-        for (const std::string& width : widths) prices.push_back(master.order.get(&ITARQResSet::get_Dual, width));
+        for (const std::string& width : widths) prices.push_back(master.order.Dual(width).number());
         auto [worth, pattern] = search.best(prices);
         if (worth <= 1 + 1e-7) return rolls;
         master.add(std::move(pattern));
@@ -96,8 +93,7 @@ double generate(Master& master) {
 
 void show(const Master& master) {
     for (std::size_t p = 0; p < master.patterns.size(); ++p) {
-        const auto rolls = valueOf<double>(
-            [&](double* value) { return master.model->get_ColIPSol(Variant(Master::nameOf(p)), value); });
+        const double rolls = master.model.ColIPSol(Master::nameOf(p));
         if (rolls < 0.5) continue;
         std::printf("  %3.0f rolls into", rolls);
         const char* separator = " ";
@@ -113,10 +109,10 @@ void cut() {
     Master master;
     const double bound = generate(master);
     for (std::size_t p = 0; p < master.patterns.size(); ++p) {
-        check(master.model->put_ColType(Variant(Master::nameOf(p)), TARQColType::Integer));
+        master.model.ColType(Master::nameOf(p)) = TARQColType::Integer;
     }
-    check(master.model->put_Parameter("xglgap", Variant(0)));
-    const double rolls = solve(*master.model, TARQSolutionStatusTyp::IPOptimalSolution);
+    master.model.Parameter("xglgap") = 0;
+    const double rolls = master.model.optimum();
     show(master);
     std::printf("%g rolls, %.4f at least\n", rolls, bound);
 }

@@ -1,7 +1,8 @@
 // What to take along: the most valuable things that a rucksack holds, a model of yes-or-no columns with one row.
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::TARQColType;
 
 namespace {
 
@@ -14,31 +15,30 @@ constexpr double holds = 790;
 
 struct Rucksack {
     Columns take;
-    Ref<ITARQRes> weight;
+    Row weight;
 };
 
-Rucksack build(ITARQModel& model) {
-    check(model.put_Parameter("xminmx", Variant("max")));
-    check(model.put_Parameter("xglgap", Variant(0)));  // not only nearly the best
-    Rucksack rucksack{Columns(model, "take", {things}), newRow(model, "weight")};
-    rucksack.take.put(&ITARQVarSet::put_Type, TARQColType::Binary);
-    rucksack.take.put(&ITARQVarSet::put_Cost, values);
-    check(rucksack.weight->SetLT(holds));
-    check(rucksack.weight->Sum(terms(weights, rucksack.take)));
+Rucksack build(const Model& model) {
+    model.Parameter("xminmx") = "max";
+    model.Parameter("xglgap") = 0;  // not only nearly the best
+    Rucksack rucksack{Columns(model, "take", things), Row(model, "weight")};
+    rucksack.take.Type() = TARQColType::Binary;
+    rucksack.take.Cost() = values;
+    rucksack.weight.atMost(holds);
+    rucksack.weight.sum(weights, rucksack.take);
     return rucksack;
 }
 
 void pack() {
-    const Ref<ITARQModel> model = newModel();
-    const Rucksack rucksack = build(*model);
-    const double worth = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+    const Model model;
+    const Rucksack rucksack = build(model);
+    const double worth = model.optimum();
     const char* separator = "  ";
     for (const std::string& thing : things) {
-        if (rucksack.take.get(&ITARQVarSet::get_IPSol, thing) < 0.5) continue;
+        if (rucksack.take.IPSol(thing).number() < 0.5) continue;
         std::printf("%s%s", std::exchange(separator, ", "), thing.c_str());
     }
-    std::printf("\nworth %g, %g of %g decagrams\n", worth,
-                valueOf<double>([&](double* value) { return rucksack.weight->get_IPSol(value); }), holds);
+    std::printf("\nworth %g, %g of %g decagrams\n", worth, rucksack.weight.IPSol(), holds);
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 //
 // Columns and rows are families over products and months. What is in store at the end of one month is there at the
 // start of the next: the balance of a month has the store of the month before it, a shifted index that one call enters.
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
 
 namespace {
 
@@ -29,34 +29,34 @@ struct Plan {
 };
 
 // In store before, and made, less in store afterwards is what was sold.
-void balanceStore(ITARQModel& model, const Plan& plan) {
-    const Rows balance(model, "balance", {products, months});
+void balanceStore(const Model& model, const Plan& plan) {
+    const Rows balance(model, "balance", products, months);
     balance.exactly(demand);
-    check(model.SetNZStair(balance, plan.make, Variant(1)));
-    check(model.SetNZStair(balance, plan.store, Variant(-1)));
-    check(model.SetNZStair(balance.slice(all, afterFirst), plan.store.slice(all, beforeLast), Variant(1)));
+    model.SetNZStair(balance, plan.make, 1);
+    model.SetNZStair(balance, plan.store, -1);
+    model.SetNZStair(balance.slice(all, afterFirst), plan.store.slice(all, beforeLast), 1);
     for (std::size_t i = 0; i < products.size(); ++i) {
         balance.exactly(demand[i][0] - atFirst[i], products[i], months[0]);
     }
 }
 
-Plan build(ITARQModel& model) {
-    Plan plan{Columns(model, "make", {products, months}), Columns(model, "store", {products, months}),
-              Columns(model, "overtime", {months})};
-    plan.make.put(&ITARQVarSet::put_Cost, cost);
-    plan.overtime.put(&ITARQVarSet::put_UB, overtimeHours);
-    plan.overtime.put(&ITARQVarSet::put_Cost, wage);
+Plan build(const Model& model) {
+    Plan plan{Columns(model, "make", products, months), Columns(model, "store", products, months),
+              Columns(model, "overtime", months)};
+    plan.make.Cost() = cost;
+    plan.overtime.UB() = overtimeHours;
+    plan.overtime.Cost() = wage;
     balanceStore(model, plan);
 
-    const Rows work(model, "hours", {months});
+    const Rows work(model, "hours", months);
     work.atMost(hours);
-    check(model.SetNZStair(work, plan.overtime, Variant(-1)));
-    const Rows stored(model, "room", {months});
+    model.SetNZStair(work, plan.overtime, -1);
+    const Rows stored(model, "room", months);
     stored.atMost(room);
     for (std::size_t i = 0; i < products.size(); ++i) {
-        plan.store.put(&ITARQVarSet::put_Cost, storing[i], products[i]);
-        check(model.SetNZStair(work, plan.make.slice(products[i]), Variant(hoursEach[i])));
-        check(model.SetNZStair(stored, plan.store.slice(products[i]), Variant(1)));
+        plan.store.Cost(products[i]) = storing[i];
+        model.SetNZStair(work, plan.make.slice(products[i]), hoursEach[i]);
+        model.SetNZStair(stored, plan.store.slice(products[i]), 1);
     }
     return plan;
 }
@@ -65,15 +65,15 @@ template <class... Index>
 void showMonths(const char* first, const char* second, const Columns& columns, const Index&... index) {
     std::printf("%-9s%-7s", first, second);
     for (const std::string& month : months) {
-        std::printf("%9.1f", columns.get(&ITARQVarSet::get_LPSol, index..., month));
+        std::printf("%9.1f", columns.LPSol(index..., month).number());
     }
     std::printf("\n");
 }
 
 void produce() {
-    const Ref<ITARQModel> model = newModel();
-    const Plan plan = build(*model);
-    const double spent = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const Model model;
+    const Plan plan = build(model);
+    const double spent = model.optimum();
     std::printf("%16s", "");
     for (const std::string& month : months) std::printf("%9s", month.c_str());
     std::printf("\n");

@@ -2,9 +2,9 @@
 //
 // Columns are a family over plants and cities. A plant's row limits what it sends, a city's row asks for what it
 // wants; the shadow prices of the cities say what one pallet more would cost.
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
 
 namespace {
 
@@ -20,32 +20,31 @@ struct Transport {
     Rows demand;
 };
 
-Transport build(ITARQModel& model) {
-    Transport transport{Columns(model, "ship", {plants, cities}), Rows(model, "demand", {cities})};
-    transport.ship.put(&ITARQVarSet::put_Cost, costs);
+Transport build(const Model& model) {
+    Transport transport{Columns(model, "ship", plants, cities), Rows(model, "demand", cities)};
+    transport.ship.Cost() = costs;
     transport.demand.atLeast(demands);
     for (const std::string& city : cities) {
-        check(transport.demand.row(city)->Sum(terms(transport.ship.slice(all, city))));
+        transport.demand.row(city).sum(transport.ship.slice(all, city));
     }
-    const Rows supply(model, "supply", {plants});
+    const Rows supply(model, "supply", plants);
     supply.atMost(supplies);
-    for (const std::string& plant : plants) check(supply.row(plant)->Sum(terms(transport.ship.slice(plant))));
+    for (const std::string& plant : plants) supply.row(plant).sum(transport.ship.slice(plant));
     return transport;
 }
 
 void transport() {
-    const Ref<ITARQModel> model = newModel();
-    const Transport built = build(*model);
-    const double freight = solve(*model, TARQSolutionStatusTyp::LPOptimalSolution);
+    const Model model;
+    const Transport built = build(model);
+    const double freight = model.optimum();
     std::printf("%-18s", "");
     for (const std::string& city : cities) std::printf("%10s", city.c_str());
     for (const std::string& plant : plants) {
         std::printf("\n%-18s", plant.c_str());
-        for (const std::string& city : cities)
-            std::printf("%10g", built.ship.get(&ITARQVarSet::get_LPSol, plant, city));
+        for (const std::string& city : cities) std::printf("%10g", built.ship.LPSol(plant, city).number());
     }
     std::printf("\n%-18s", "one pallet more");
-    for (const std::string& city : cities) std::printf("%10g", built.demand.get(&ITARQResSet::get_Dual, city));
+    for (const std::string& city : cities) std::printf("%10g", built.demand.Dual(city).number());
     std::printf("\nshipping costs %.2f euros\n", freight);
 }
 

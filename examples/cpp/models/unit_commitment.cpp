@@ -3,9 +3,10 @@
 // A station that runs makes at least so much and at most so much; starting it costs, and in the hour of its start it is
 // not above `ramp`. Stations that run keep a reserve. Families over stations and hours hold the columns; a start is
 // what runs now and did not run an hour before, entered with a shifted index.
-#include "algebra.h"
+#include "../program.h"
 
-using namespace tarq;
+using namespace tarq::client;
+using tarq::TARQColType;
 
 namespace {
 
@@ -42,57 +43,57 @@ struct Day {
     Columns starts;
 };
 
-void coverLoad(ITARQModel& model, const Day& day) {
-    const Rows load(model, "load", {hours});
+void coverLoad(const Model& model, const Day& day) {
+    const Rows load(model, "load", hours);
     load.exactly(loads);
     Numbers reserves;
     for (const double megawatts : loads) reserves.push_back((1 + reserveShare) * megawatts);
-    const Rows reserve(model, "reserve", {hours});
+    const Rows reserve(model, "reserve", hours);
     reserve.atLeast(reserves);
     for (const Station& station : stations) {
-        check(model.SetNZStair(load, day.power.slice(station.name), Variant(1)));
-        check(model.SetNZStair(reserve, day.runs.slice(station.name), Variant(station.most)));
+        model.SetNZStair(load, day.power.slice(station.name), 1);
+        model.SetNZStair(reserve, day.runs.slice(station.name), station.most);
     }
 }
 
 // power - least * runs >= 0 and power - most * runs + (most - ramp) * starts <= 0
-void limitPower(ITARQModel& model, const Day& day) {
-    const Rows least(model, "least", {names, hours});
+void limitPower(const Model& model, const Day& day) {
+    const Rows least(model, "least", names, hours);
     least.atLeast(0);
-    const Rows most(model, "most", {names, hours});
+    const Rows most(model, "most", names, hours);
     most.atMost(0);
-    check(model.SetNZStair(least, day.power, Variant(1)));
-    check(model.SetNZStair(most, day.power, Variant(1)));
+    model.SetNZStair(least, day.power, 1);
+    model.SetNZStair(most, day.power, 1);
     for (const Station& station : stations) {
         const char* const name = station.name;
-        check(model.SetNZStair(least.slice(name), day.runs.slice(name), Variant(-station.least)));
-        check(model.SetNZStair(most.slice(name), day.runs.slice(name), Variant(-station.most)));
-        check(model.SetNZStair(most.slice(name), day.starts.slice(name), Variant(station.most - station.ramp)));
+        model.SetNZStair(least.slice(name), day.runs.slice(name), -station.least);
+        model.SetNZStair(most.slice(name), day.runs.slice(name), -station.most);
+        model.SetNZStair(most.slice(name), day.starts.slice(name), station.most - station.ramp);
     }
 }
 
 // starts - runs + runs an hour before >= 0
-void countStarts(ITARQModel& model, const Day& day) {
-    const Rows begin(model, "begin", {names, hours});
+void countStarts(const Model& model, const Day& day) {
+    const Rows begin(model, "begin", names, hours);
     begin.atLeast(0);
-    check(model.SetNZStair(begin, day.starts, Variant(1)));
-    check(model.SetNZStair(begin, day.runs, Variant(-1)));
-    check(model.SetNZStair(begin.slice(all, afterFirst), day.runs.slice(all, beforeLast), Variant(1)));
+    model.SetNZStair(begin, day.starts, 1);
+    model.SetNZStair(begin, day.runs, -1);
+    model.SetNZStair(begin.slice(all, afterFirst), day.runs.slice(all, beforeLast), 1);
     for (const Station& station : stations) {
-        begin.put(&ITARQResSet::put_LB, station.runsBefore ? -1 : 0, station.name, hours.front());
+        begin.LB(station.name, hours.front()) = station.runsBefore ? -1 : 0;
     }
 }
 
-Day build(ITARQModel& model) {
-    check(model.put_Parameter("xglgap", Variant(0)));
-    Day day{Columns(model, "power", {names, hours}), Columns(model, "runs", {names, hours}),
-            Columns(model, "starts", {names, hours})};
-    day.runs.put(&ITARQVarSet::put_Type, TARQColType::Binary);
-    day.starts.put(&ITARQVarSet::put_UB, 1);
+Day build(const Model& model) {
+    model.Parameter("xglgap") = 0;
+    Day day{Columns(model, "power", names, hours), Columns(model, "runs", names, hours),
+            Columns(model, "starts", names, hours)};
+    day.runs.Type() = TARQColType::Binary;
+    day.starts.UB() = 1;
     for (const Station& station : stations) {
-        day.power.put(&ITARQVarSet::put_Cost, station.cost, station.name);
-        day.runs.put(&ITARQVarSet::put_Cost, station.running, station.name);
-        day.starts.put(&ITARQVarSet::put_Cost, station.starting, station.name);
+        day.power.Cost(station.name) = station.cost;
+        day.runs.Cost(station.name) = station.running;
+        day.starts.Cost(station.name) = station.starting;
     }
     coverLoad(model, day);
     limitPower(model, day);
@@ -101,12 +102,12 @@ Day build(ITARQModel& model) {
 }
 
 void commit() {
-    const Ref<ITARQModel> model = newModel();
-    const Day day = build(*model);
-    const double spent = solve(*model, TARQSolutionStatusTyp::IPOptimalSolution);
+    const Model model;
+    const Day day = build(model);
+    const double spent = model.optimum();
     for (const std::string& name : names) {
         std::printf("%-8s", name.c_str());
-        for (const std::string& hour : hours) std::printf("%7.1f", day.power.get(&ITARQVarSet::get_IPSol, name, hour));
+        for (const std::string& hour : hours) std::printf("%7.1f", day.power.IPSol(name, hour).number());
         std::printf("\n");
     }
     std::printf("the day costs %.2f euros\n", spent);

@@ -50,7 +50,7 @@ inline constexpr std::uint16_t arrayFlag = 0x2000;
 inline constexpr std::uint16_t byReferenceFlag = 0x4000;
 
 /// Code of the Error value that stands for an omitted optional argument.
-inline constexpr std::uint32_t missingCode = 0x80020004;
+inline constexpr std::uint32_t missingCode = status::unknownParameterName.value();
 
 /// Fixed-point number with four decimals: `tenThousandths` / 10000.
 struct Currency {
