@@ -77,7 +77,7 @@ protected:
     Status run() { return run(binding); }
     Status run(EngineBinding& engineBinding) {
         busy = true;
-        RunModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
+        RunnableModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
                            if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
                            if (whenFinished) whenFinished();
                        }};
