@@ -40,6 +40,12 @@ std::int32_t inRun(Operation operation, std::int32_t memoryResult = TarqGeneralE
     return guarded(memoryResult, [&]() -> std::int32_t { return operation(*run); });
 }
 
+// Both forms of the start. An exported operation is not called from here: the host may have one of the same name.
+std::int32_t startRun() {
+    return guarded(TarqGeneralError,
+                   []() -> std::int32_t { return tarq::engine::beginRun() ? TarqSuccess : TarqGeneralError; });
+}
+
 std::int32_t parameterText(const char* name, char* buffer) {
     if (!name || !buffer) return TarqInputError;
     const std::string lower = tarq::engine::lowerCase(name);
@@ -69,12 +75,9 @@ int32_t FreeMemory(void) {
     });
 }
 
-int32_t Initialize(void) {
-    return guarded(TarqGeneralError,
-                   []() -> std::int32_t { return tarq::engine::beginRun() ? TarqSuccess : TarqGeneralError; });
-}
+int32_t Initialize(void) { return startRun(); }
 
-int32_t AllocateMemory(int32_t megabytes) { return megabytes < 0 ? TarqInputError : Initialize(); }
+int32_t AllocateMemory(int32_t megabytes) { return megabytes < 0 ? TarqInputError : startRun(); }
 
 int32_t AbandonRun(int32_t thread) { return tarq::engine::abandonRun(thread) ? TarqSuccess : TarqGeneralError; }
 

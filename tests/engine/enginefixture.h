@@ -1,4 +1,4 @@
-// EngineTest: a model of three columns and two rows and one of the scripted engines to run it on.
+// EngineTest: a model of three columns and two rows, and an engine to run it on.
 #pragma once
 
 #include <dlfcn.h>
@@ -13,12 +13,11 @@
 
 #include "engine/enginelibrary.h"
 #include "engine/run.h"
-#include "tests/engine/scriptedengine.h"
+#include "tests/support/enginefile.h"
 #include "tests/support/outcomematchers.h"
+#include "tests/support/scriptedengine/scriptedengine.h"
 
 namespace tarq {
-
-inline std::string enginePath(std::string_view name) { return ENGINE_FOLDER "/lib" + std::string(name) + ".so"; }
 
 class EngineTest : public ::testing::Test {
 protected:
@@ -52,10 +51,17 @@ protected:
     }
     void makeInteger() { store.column(1).type = TARQColType::Integer; }
 
-    /// Chooses an engine and empties its script. Every result value is served as its place in the table, 1 to 14.
-    EngineScript& use(std::string_view name) {
+    /// Path of the scripted engine without the operations named.
+    static std::string scripted(const std::vector<std::string_view>& missing = {}) {
+        return missing.empty() ? SCRIPTED_ENGINE : engineWithout(missing, SCRIPTED_ENGINE);
+    }
+
+    /// Chooses a scripted engine and begins its script anew with `text`. Every result value is served as its place in
+    /// the table, 1 to 14.
+    EngineScript& use(std::string_view text = {}, const std::vector<std::string_view>& missing = {}) {
         unload();
-        library_ = dlopen(enginePath(name).c_str(), RTLD_NOW);
+        const std::string path = scripted(missing);
+        library_ = dlopen(path.c_str(), RTLD_NOW);
         EXPECT_NE(library_, nullptr) << dlerror();
         script = reinterpret_cast<EngineScript* (*)()>(dlsym(library_, "engineScript"))();
         *script = {};
@@ -63,7 +69,8 @@ protected:
             script->parameters[std::string(resultSlots()[static_cast<std::size_t>(slot)].name)] =
                 std::to_string(slot + 1);
         }
-        EXPECT_THAT(binding.setLocation(enginePath(name)), succeeds());
+        script->play(text);
+        EXPECT_THAT(binding.setLocation(path), succeeds());
         return *script;
     }
 
@@ -78,15 +85,23 @@ protected:
     Status run(EngineBinding& engineBinding) {
         busy = true;
         RunnableModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
-                           if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
-                           if (whenFinished) whenFinished();
-                       }};
+                                if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
+                                if (whenFinished) whenFinished();
+                            }};
+        model.breakPoint = breakPoint;
         const Status ended = runOptimization(model);
         pendingError = model.pendingError;
         return ended;
     }
 
+    void set(const char* parameter, int value) {
+        ASSERT_THAT(parameters.setLong(parameterIndex(parameter), value), succeeds());
+    }
     [[nodiscard]] int resultOf(std::string_view name) const { return parameters.resultLong(resultIndex(name)); }
+
+    [[nodiscard]] bool wasCalled(std::string_view operation) const {
+        return script->log.find(operation) != std::string::npos;
+    }
 
     /// The log with the repeated calls of an operation drawn together: their arguments, or their number beyond three.
     [[nodiscard]] std::string calls() const {
@@ -101,10 +116,8 @@ protected:
         std::string text;
         for (const auto& [operation, arguments] : groups) {
             text += operation;
-            if (arguments.size() > 3)
-                text += " x" + std::to_string(arguments.size());
-            else
-                for (const std::string& argument : arguments) text += argument;
+            if (arguments.size() > 3) text += " x" + std::to_string(arguments.size());
+            for (const std::string& argument : arguments) text += arguments.size() > 3 ? "" : argument;
             text += '\n';
         }
         return text;
@@ -118,24 +131,21 @@ protected:
     std::atomic<bool> busy{false};
     Outcome pendingError;
     std::function<void()> whenFinished;
+    std::function<void(EngineInterface&)> breakPoint;
     EngineScript* script = nullptr;
 
 private:
     void* library_ = nullptr;
 };
 
-/// A binder that takes one of the scripted engines through a class of the test's own.
+/// A binder that takes the scripted engine through a class of the test's own.
 template <class Engine>
 class BindingTo : public EngineBinding {
 public:
-    explicit BindingTo(std::string_view name) : path_(enginePath(name)) {}
     Status bindEngine() override {
-        bind({}, std::make_shared<Engine>(DynamicLibrary::load(path_)));
+        bind({}, std::make_shared<Engine>(DynamicLibrary::load(SCRIPTED_ENGINE)));
         return status::ok;
     }
-
-private:
-    std::string path_;
 };
 
 }  // namespace tarq

@@ -46,10 +46,16 @@ TEST_F(SolutionAccess, GuardsFollowTheStatusOfTheLatestRun) {
     }
 }
 
-TEST_F(SolutionAccess, ValuesAreReadByNumberAndByName) {
-    use("scripted_full");
+TEST_F(SolutionAccess, SummaryAndValuesAreWhatTheEngineWrote) {
+    use();
     makeInteger();
     ASSERT_EQ(run(), status::ok);
+    EXPECT_EQ(summary.lpInfeasibilities, 12);
+    EXPECT_EQ(summary.lpSumInfeasibilities, 14.5);
+    EXPECT_EQ(summary.lpObjectiveValue, 15.5);
+    EXPECT_EQ(summary.integerSolutions, 22);
+    EXPECT_EQ(summary.ipBestPossible, 24.5);
+    EXPECT_EQ(summary.ipObjectiveValue, 25.5);
     const SolvedModel model{store, summary};
     EXPECT_EQ(*columnLpValue(model, Variant(2)), 101.0);
     EXPECT_EQ(*columnIpValue(model, Variant("z")), 202.0);
