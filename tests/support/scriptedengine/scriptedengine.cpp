@@ -41,7 +41,7 @@ EngineScript scriptOfEnvironment() {
 }
 
 EngineScript* played() {
-    static EngineScript script;
+    static EngineScript script{.parameters = {{"xversn", "played"}}};
     if (std::getenv(scriptVariable) == nullptr) return &script;
     static thread_local EngineScript own = scriptOfEnvironment();
     return &own;
