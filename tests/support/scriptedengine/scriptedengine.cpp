@@ -41,7 +41,11 @@ EngineScript scriptOfEnvironment() {
 }
 
 EngineScript* played() {
-    static EngineScript script{.parameters = {{"xversn", "played"}}};
+    static EngineScript script = [] {
+        EngineScript untold;
+        untold.play("xversn=played");
+        return untold;
+    }();
     if (std::getenv(scriptVariable) == nullptr) return &script;
     static thread_local EngineScript own = scriptOfEnvironment();
     return &own;
