@@ -36,8 +36,7 @@ protected:
 
     /// Runs the model on the engine; one that doesn't compute plays its part by `scriptText`.
     Status runOn(const std::string& scriptText = {}) {
-        const auto missing =
-            GetParam().startsNewly ? std::vector<std::string_view>{} : std::vector<std::string_view>{"Initialize"};
+        const Names missing = GetParam().startsNewly ? Names{} : noInitialize;
         if (GetParam().computes) {
             EXPECT_THAT(binding.setLocation(missing.empty() ? HIGHS_ENGINE : engineWithout(missing, HIGHS_ENGINE)),
                         succeeds());

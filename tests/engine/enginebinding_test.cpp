@@ -98,19 +98,12 @@ TEST_F(Binding, EmptySlotsAnswerWithAFailure) {
     ASSERT_EQ(binding.bindEngine(), status::ok) << "binding tests nothing";
     EngineInterface& engine = *binding.engine();
     EXPECT_FALSE(engine.hasInitialize() || engine.hasSetCallback() || engine.hasGetParameter());
-    char buffer[TarqTextSize] = "";
-    for (const std::int32_t result :
-         {engine.FreeMemory(), engine.Initialize(), engine.AllocateMemory(1),
-          engine.GetMaxDim(nullptr, nullptr, nullptr), engine.SetMaxLPDim(1, 1, 1), engine.InitModel(),
-          engine.SetParameter("a=1"), engine.GetParameter("a", buffer), engine.SetCallback(nullptr, 0),
-          engine.GetLPSolution(nullptr, nullptr, nullptr, nullptr, nullptr),
-          engine.GetIPSolution(nullptr, nullptr, nullptr, nullptr, nullptr)}) {
-        EXPECT_NE(result, TarqSuccess);
-    }
-    // What the engine needs none of to run: any but one of these ends the run.
+    EXPECT_NE(engine.Initialize(), TarqSuccess);
+    EXPECT_NE(engine.SetMaxLPDim(1, 1, 1), TarqSuccess);
+    EXPECT_NE(engine.GetLPSolution(nullptr, nullptr, nullptr, nullptr, nullptr), TarqSuccess);
     makeInteger();
     struct Case {
-        std::vector<std::string_view> missing;
+        Names missing;
         Status status;
         TARQSolverStatusTyp solver;
         TARQSolutionStatusTyp solution;

@@ -9,7 +9,6 @@
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "engine/enginelibrary.h"
 #include "engine/run.h"
@@ -35,40 +34,33 @@ protected:
     ~EngineTest() override { unload(); }
 
     void addColumn(const char* name, double lower, double upper, double cost) {
-        ColumnRecord column;
-        column.name = name;
-        column.lowerBound = lower;
-        column.upperBound = upper;
-        column.cost = cost;
-        ASSERT_THAT(store.addColumnRecord(std::move(column)), succeeds());
+        ASSERT_THAT(store.addColumnRecord({.name = name, .lowerBound = lower, .upperBound = upper, .cost = cost}),
+                    succeeds());
     }
     void addRow(const char* name, double lower, double upper) {
-        RowRecord row;
-        row.name = name;
-        row.lowerBound = lower;
-        row.upperBound = upper;
-        ASSERT_THAT(store.addRowRecord(std::move(row)), succeeds());
+        ASSERT_THAT(store.addRowRecord({.name = name, .lowerBound = lower, .upperBound = upper}), succeeds());
     }
     void makeInteger() { store.column(1).type = TARQColType::Integer; }
 
+    using Names = std::vector<std::string_view>;
+    static inline const Names noInitialize{"Initialize"};
+
     /// Path of the scripted engine without the operations named.
-    static std::string scripted(const std::vector<std::string_view>& missing = {}) {
+    static std::string scripted(const Names& missing = {}) {
         return missing.empty() ? SCRIPTED_ENGINE : engineWithout(missing, SCRIPTED_ENGINE);
     }
 
     /// Chooses a scripted engine and begins its script anew with `text`. Every result value is served as its place in
     /// the table, 1 to 14.
-    EngineScript& use(std::string_view text = {}, const std::vector<std::string_view>& missing = {}) {
+    EngineScript& use(std::string_view text = {}, const Names& missing = {}) {
         unload();
         const std::string path = scripted(missing);
         library_ = dlopen(path.c_str(), RTLD_NOW);
         EXPECT_NE(library_, nullptr) << dlerror();
         script = reinterpret_cast<EngineScript* (*)()>(dlsym(library_, "engineScript"))();
         *script = {};
-        for (int slot = 0; slot < resultCount; ++slot) {
-            script->parameters[std::string(resultSlots()[static_cast<std::size_t>(slot)].name)] =
-                std::to_string(slot + 1);
-        }
+        int place = 0;
+        for (const auto& slot : resultSlots()) script->parameters[std::string(slot.name)] = std::to_string(++place);
         script->play(text);
         EXPECT_THAT(binding.setLocation(path), succeeds());
         return *script;
@@ -103,22 +95,18 @@ protected:
         return script->log.find(operation) != std::string::npos;
     }
 
-    /// The log with the repeated calls of an operation drawn together: their arguments, or their number beyond three.
+    /// The log, in which calls of one operation after another are only counted.
     [[nodiscard]] std::string calls() const {
-        std::istringstream lines(script->log);
-        std::vector<std::pair<std::string, std::vector<std::string>>> groups;
-        for (std::string line; std::getline(lines, line);) {
-            const std::size_t blank = std::min(line.find(' '), line.size());
-            const std::string operation = line.substr(0, blank);
-            if (groups.empty() || groups.back().first != operation) groups.push_back({operation, {}});
-            groups.back().second.push_back(line.substr(blank));
-        }
         std::string text;
-        for (const auto& [operation, arguments] : groups) {
-            text += operation;
-            if (arguments.size() > 3) text += " x" + std::to_string(arguments.size());
-            for (const std::string& argument : arguments) text += arguments.size() > 3 ? "" : argument;
-            text += '\n';
+        std::string last;
+        std::size_t count = 0;
+        std::istringstream lines(script->log);
+        for (std::string line; std::getline(lines, line);) {
+            const std::string operation = line.substr(0, line.find(' '));
+            count = operation == last ? count + 1 : 1;
+            if (count > 1) text.erase(text.rfind(operation));
+            text += count > 1 ? operation + " x" + std::to_string(count) + "\n" : line + "\n";
+            last = operation;
         }
         return text;
     }

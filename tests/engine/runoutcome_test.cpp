@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
+#include "engine/solution.h"
 #include "tests/engine/enginefixture.h"
 
 namespace tarq {
@@ -20,40 +22,32 @@ TEST_F(RunOutcome, StagesEndTheRunByTheirResults) {
         TARQSolutionStatusTyp solution;
     };
     const auto limit = status::resourceLimit;
-    const auto failed = status::crucialError;
-    const Case cases[] = {
-        {"OptimizeLP=0", status::ok, LPFinished, LPOnlyDualFeasible},
-        {"OptimizeLP=0 lpStatus=1", status::ok, LPFinished, LPInfeasible},
-        {"OptimizeLP=0 lpStatus=2", status::ok, LPFinished, LPUnbounded},
-        {"OptimizeLP=0 lpStatus=3", status::ok, LPFinished, LPOnlyDualFeasible},
-        {"OptimizeLP=1 lpStatus=1 xertyp=1", limit, LPxmiterReached, LPOnlyDualFeasible},
-        {"OptimizeLP=1 xertyp=' 2'", limit, LPxmxtlpReached, LPOnlyDualFeasible},
-        {"OptimizeLP=1 xertyp=4", limit, LPxmitipReached, LPOnlyDualFeasible},
-        {"OptimizeLP=1 xertyp=3", limit, LPOtherResourceLimitReached, LPOnlyDualFeasible},
-        {"OptimizeLP=1 xertyp=?", limit, LPOtherResourceLimitReached, LPOnlyDualFeasible},
-        {"OptimizeLP=999 lpStatus=2 xertyp=1", status::stoppedAtBreak, LPxfriteReached, LPOnlyDualFeasible},
-        {"OptimizeLP=2", failed, LPInputError, UndefinedSolutionStatus},
-        {"OptimizeLP=3 lpStatus=1", failed, LPOutputError, UndefinedSolutionStatus},
-        {"OptimizeLP=4", failed, LPNumericError, UndefinedSolutionStatus},
-        {"OptimizeLP=5", failed, LPGeneralError, UndefinedSolutionStatus},
-        {"OptimizeLP=6", failed, LPInternalSystemError, UndefinedSolutionStatus},
-        {"OptimizeLP=7", failed, LPGeneralError, UndefinedSolutionStatus},
-        {"OptimizeLP=-1", failed, LPGeneralError, UndefinedSolutionStatus},
-        {"OptimizeLP=1000", failed, LPGeneralError, UndefinedSolutionStatus},
-        {"OptimizeIP=0 stopReason=6", status::ok, IPFinished, IPSubOptimalSolution},
-        {"OptimizeIP=1 stopReason=3", limit, IPxmxminReached, IPSubOptimalSolution},
-        {"OptimizeIP=1 stopReason=6", limit, IPxmxnodReached, IPSubOptimalSolution},
-        {"OptimizeIP=1 stopReason=7", limit, IPNodesBufferTooSmall, IPSubOptimalSolution},
-        {"OptimizeIP=1 stopReason=9", limit, IPxmxdskExceeded, IPSubOptimalSolution},
-        {"OptimizeIP=1", limit, IPOtherResourceLimitReached, IPSubOptimalSolution},
-        {"OptimizeIP=999 stopReason=3", status::stoppedAtBreak, IPxfrndsReached, IPSubOptimalSolution},
-        {"OptimizeIP=2", failed, IPInputError, UndefinedSolutionStatus},
-        {"OptimizeIP=3", failed, IPOutputError, UndefinedSolutionStatus},
-        {"OptimizeIP=4", failed, IPNumericError, UndefinedSolutionStatus},
-        {"OptimizeIP=5", failed, IPGeneralError, UndefinedSolutionStatus},
-        {"OptimizeIP=6", failed, IPInternalSystemError, UndefinedSolutionStatus},
-        {"OptimizeIP=998", failed, IPGeneralError, UndefinedSolutionStatus},
-    };
+    std::vector<Case> cases{{"OptimizeLP=0", status::ok, LPFinished, LPOnlyDualFeasible},
+                            {"OptimizeLP=0 lpStatus=1", status::ok, LPFinished, LPInfeasible},
+                            {"OptimizeLP=0 lpStatus=2", status::ok, LPFinished, LPUnbounded},
+                            {"OptimizeLP=0 lpStatus=3", status::ok, LPFinished, LPOnlyDualFeasible},
+                            {"OptimizeLP=1 lpStatus=1 xertyp=1", limit, LPxmiterReached, LPOnlyDualFeasible},
+                            {"OptimizeLP=1 xertyp=' 2'", limit, LPxmxtlpReached, LPOnlyDualFeasible},
+                            {"OptimizeLP=1 xertyp=4", limit, LPxmitipReached, LPOnlyDualFeasible},
+                            {"OptimizeLP=1 xertyp=3", limit, LPOtherResourceLimitReached, LPOnlyDualFeasible},
+                            {"OptimizeLP=1 xertyp=?", limit, LPOtherResourceLimitReached, LPOnlyDualFeasible},
+                            {"OptimizeLP=999 lpStatus=2", status::stoppedAtBreak, LPxfriteReached, LPOnlyDualFeasible},
+                            {"OptimizeIP=0 stopReason=6", status::ok, IPFinished, IPSubOptimalSolution},
+                            {"OptimizeIP=1 stopReason=3", limit, IPxmxminReached, IPSubOptimalSolution},
+                            {"OptimizeIP=1 stopReason=6", limit, IPxmxnodReached, IPSubOptimalSolution},
+                            {"OptimizeIP=1 stopReason=7", limit, IPNodesBufferTooSmall, IPSubOptimalSolution},
+                            {"OptimizeIP=1 stopReason=9", limit, IPxmxdskExceeded, IPSubOptimalSolution},
+                            {"OptimizeIP=1", limit, IPOtherResourceLimitReached, IPSubOptimalSolution},
+                            {"OptimizeIP=999", status::stoppedAtBreak, IPxfrndsReached, IPSubOptimalSolution}};
+    const std::tuple<int, TARQSolverStatusTyp, TARQSolverStatusTyp> failures[] = {
+        {2, LPInputError, IPInputError},      {3, LPOutputError, IPOutputError},
+        {4, LPNumericError, IPNumericError},  {5, LPGeneralError, IPGeneralError},
+        {7, LPGeneralError, IPGeneralError},  {6, LPInternalSystemError, IPInternalSystemError},
+        {-1, LPGeneralError, IPGeneralError}, {998, LPGeneralError, IPGeneralError}};
+    for (const auto& [result, lp, ip] : failures) {
+        cases.push_back({"OptimizeLP=" + std::to_string(result), status::crucialError, lp, UndefinedSolutionStatus});
+        cases.push_back({"OptimizeIP=" + std::to_string(result), status::crucialError, ip, UndefinedSolutionStatus});
+    }
     for (const Case& ending : cases) {
         SCOPED_TRACE(ending.script);
         const bool integer = ending.script.starts_with("OptimizeIP");
@@ -62,9 +56,8 @@ TEST_F(RunOutcome, StagesEndTheRunByTheirResults) {
         EXPECT_EQ(run(), ending.status);
         EXPECT_EQ(summary.solverStatus, ending.solver);
         EXPECT_EQ(summary.solutionStatus, ending.solution);
-        EXPECT_EQ(
-            pendingError.description(),
-            ending.status.failed() ? "Crucial error. Check SolverStatus() and LastSolverMessage() for details." : "");
+        const auto* const text = "Crucial error. Check SolverStatus() and LastSolverMessage() for details.";
+        EXPECT_EQ(pendingError.description(), ending.status.failed() ? text : "");
         EXPECT_EQ(wasCalled(integer ? "GetIPSolution" : "GetLPSolution"),
                   ending.solution == (integer ? IPSubOptimalSolution : LPOnlyDualFeasible));
         EXPECT_TRUE(script->log.ends_with("FreeMemory\nfinished\n"));
@@ -72,27 +65,26 @@ TEST_F(RunOutcome, StagesEndTheRunByTheirResults) {
     }
 }
 
+// What is told of a solution follows the status of the latest run, also where values of an earlier one stay.
 TEST_F(RunOutcome, SolutionIsCopiedOnlyWhenTheStatusDeliversOne) {
     struct Case {
         std::string script;
         TARQSolutionStatusTyp solution;
-        bool lpCopied;
-        bool ipCopied;
+        bool lpCopied, ipCopied, lpTold, ipTold;
     };
-    const Case cases[] = {
-        {"lpSolution=0", LPOptimalSolution, true, false},
-        {"lpSolution=1", LPInfeasible, false, false},
-        {"lpSolution=2", LPUnbounded, false, false},
-        {"lpSolution=3", LPOnlyPrimalFeasible, false, false},
-        {"lpSolution=4", LPOnlyDualFeasible, false, false},
-        {"lpSolution=5", LPInfeasible, false, false},
-        {"lpSolution=6", UndefinedSolutionStatus, false, false},
-        {"lpSolution=0 ipSolution=0", IPOptimalSolution, true, true},
-        {"lpSolution=0 ipSolution=3", IPSubOptimalSolution, true, true},
-        {"lpSolution=0 ipSolution=4", IPNoSolution, true, false},
-        {"lpSolution=3 ipSolution=0", IPOptimalSolution, false, true},
-        {"lpSolution=0 ipSolution=7", UndefinedSolutionStatus, true, false},
-    };
+    const Case cases[] = {{"lpSolution=0", LPOptimalSolution, true, false, true, false},
+                          {"lpSolution=1", LPInfeasible, false, false, false, false},
+                          {"lpSolution=2", LPUnbounded, false, false, false, false},
+                          {"lpSolution=3", LPOnlyPrimalFeasible, false, false, true, false},
+                          {"lpSolution=4", LPOnlyDualFeasible, false, false, true, false},
+                          {"lpSolution=5", LPInfeasible, false, false, false, false},
+                          {"lpSolution=6", UndefinedSolutionStatus, false, false, false, false},
+                          {"lpSolution=0 ipSolution=0", IPOptimalSolution, true, true, true, true},
+                          {"lpSolution=0 ipSolution=3", IPSubOptimalSolution, true, true, true, true},
+                          {"lpSolution=0 ipSolution=4", IPNoSolution, true, false, true, true},
+                          {"lpSolution=3 ipSolution=0", IPOptimalSolution, false, true, true, true},
+                          {"lpSolution=0 ipSolution=7", UndefinedSolutionStatus, true, false, false, false}};
+    const SolvedModel model{store, summary};
     for (const Case& delivery : cases) {
         SCOPED_TRACE(delivery.script);
         const bool integer = delivery.script.find("ip") != std::string::npos;
@@ -115,7 +107,40 @@ TEST_F(RunOutcome, SolutionIsCopiedOnlyWhenTheStatusDeliversOne) {
         EXPECT_EQ(row.dual, anyCopied ? duals + 4 : stale);
         EXPECT_EQ(static_cast<int>(column.status), anyCopied ? TarqAtUpperBound : TarqBasisUndefined);
         EXPECT_EQ(static_cast<int>(row.status), anyCopied ? TarqSuperbasic : TarqBasisUndefined);
+
+        // An address that leads nowhere shows whether the guard came first.
+        for (const auto get : {columnLpValue, columnReducedCost, columnIpValue, rowLpValue, rowDual, rowIpValue}) {
+            const bool ip = get == columnIpValue || get == rowIpValue;
+            const bool told = ip ? delivery.ipTold : delivery.lpTold;
+            const Status untold = ip ? status::noIpSolution : status::noLpSolution;
+            EXPECT_EQ(get(model, Variant(99)).outcome().status(), told ? status::invalidArgument : untold);
+        }
+        for (const auto get : {columnStatus, rowStatus}) {
+            EXPECT_EQ(get(model, Variant(99)).outcome().status(),
+                      delivery.lpTold ? status::invalidArgument : status::noLpSolution);
+        }
     }
+}
+
+TEST_F(RunOutcome, SummaryAndValuesAreWhatTheEngineWrote) {
+    use();
+    makeInteger();
+    ASSERT_EQ(run(), status::ok);
+    EXPECT_EQ(summary.lpInfeasibilities, 12);
+    EXPECT_EQ(summary.lpSumInfeasibilities, 14.5);
+    EXPECT_EQ(summary.lpObjectiveValue, 15.5);
+    EXPECT_EQ(summary.integerSolutions, 22);
+    EXPECT_EQ(summary.ipBestPossible, 24.5);
+    EXPECT_EQ(summary.ipObjectiveValue, 25.5);
+    const SolvedModel model{store, summary};
+    EXPECT_EQ(*columnLpValue(model, Variant(2)), 101.0);
+    EXPECT_EQ(*columnIpValue(model, Variant("z")), 202.0);
+    EXPECT_EQ(*columnReducedCost(model, Variant(2.6)), 252.0);
+    EXPECT_EQ(*rowLpValue(model, Variant("second")), 104.0);
+    EXPECT_EQ(*rowIpValue(model, Variant(1)), 203.0);
+    EXPECT_EQ(*rowDual(model, Variant(1)), 253.0);
+    EXPECT_EQ(*columnStatus(model, Variant(2)), TARQColRowStatusType::StatusLB);
+    EXPECT_EQ(*rowStatus(model, Variant("first")), TARQColRowStatusType::StatusFixed);
 }
 
 TEST_F(RunOutcome, IpStageIsLeftOutWhenItIsNotWanted) {
