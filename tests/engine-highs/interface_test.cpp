@@ -13,9 +13,9 @@ using testing::StartsWith;
 class InterfaceTest : public EngineTest {
 protected:
     static std::int32_t optimizeLpNow(std::int32_t* iterations) {
-        return library.OptimizeLP(0, iterations, iterations, iterations, &real, &real);
+        return ::OptimizeLP(0, iterations, iterations, iterations, &real, &real);
     }
-    static std::int32_t optimizeIpNow() { return library.OptimizeIP(-1, &whole, &whole, &whole, &real, &real); }
+    static std::int32_t optimizeIpNow() { return ::OptimizeIP(-1, &whole, &whole, &whole, &real, &real); }
 
     static inline std::int32_t whole = 0;
     static inline double real = 0.0;
@@ -69,7 +69,7 @@ TEST_F(InterfaceTest, RejectedModelsSayWhy) {
 
 TEST_F(InterfaceTest, OperationsOutOfOrderFail) {
     const auto lpSolution = [](double* objective, double* values) {
-        return library.GetLPSolution(&whole, objective, values, reals.data(), states.data());
+        return ::GetLPSolution(&whole, objective, values, reals.data(), states.data());
     };
     EXPECT_NE(optimizeLpNow(&whole), TarqSuccess);
     EXPECT_THAT(message(), HasSubstr("no model"));
@@ -81,18 +81,18 @@ TEST_F(InterfaceTest, OperationsOutOfOrderFail) {
     ASSERT_EQ(optimizeLpNow(&whole), TarqSuccess);
     EXPECT_NE(optimizeIpNow(), TarqSuccess);
     EXPECT_THAT(message(), HasSubstr("no integer columns"));
-    EXPECT_NE(library.GetIPSolution(&whole, &real, reals.data(), reals.data(), states.data()), TarqSuccess);
+    EXPECT_NE(::GetIPSolution(&whole, &real, reals.data(), reals.data(), states.data()), TarqSuccess);
     EXPECT_NE(lpSolution(nullptr, reals.data()), TarqSuccess);
     EXPECT_NE(lpSolution(&real, nullptr), TarqSuccess);
     EXPECT_EQ(lpSolution(&real, reals.data()), TarqSuccess);
     startAnew();
     EXPECT_NE(lpSolution(&real, reals.data()), TarqSuccess);
-    for (const auto unused : {library.Break, library.GetDim, library.NewModel, library.Optimize, library.SetMaxIPDim}) {
+    for (const auto unused : {::Break, ::GetDim, ::NewModel, ::Optimize, ::SetMaxIPDim}) {
         EXPECT_NE(unused(), TarqSuccess);
     }
-    EXPECT_NE(library.AllocateMemory(-1), TarqSuccess);
-    EXPECT_NE(library.SetMaxLPDim(-1, 0, 0, 0, 0, 0, 0, 0), TarqSuccess);
-    EXPECT_NE(library.GetMaxDim(nullptr, &whole, &whole), TarqSuccess);
+    EXPECT_NE(::AllocateMemory(-1), TarqSuccess);
+    EXPECT_NE(::SetMaxLPDim(-1, 0, 0, 0, 0, 0, 0, 0), TarqSuccess);
+    EXPECT_NE(::GetMaxDim(nullptr, &whole, &whole), TarqSuccess);
 }
 
 TEST_F(InterfaceTest, AssignmentsAreTakenAndShownAgain) {
@@ -115,11 +115,11 @@ TEST_F(InterfaceTest, AssignmentsAreTakenAndShownAgain) {
         EXPECT_FALSE(message().empty()) << refused;
     }
     EXPECT_EQ(get("xtolx"), "2e-5");
-    EXPECT_NE(library.SetParameter(nullptr), TarqSuccess);
+    EXPECT_NE(::SetParameter(nullptr), TarqSuccess);
     char buffer[TarqTextSize];
-    EXPECT_NE(library.GetParameter("xnever", buffer), TarqSuccess);
-    EXPECT_NE(library.GetParameter(nullptr, buffer), TarqSuccess);
-    EXPECT_NE(library.GetParameter("xtolx", nullptr), TarqSuccess);
+    EXPECT_NE(::GetParameter("xnever", buffer), TarqSuccess);
+    EXPECT_NE(::GetParameter(nullptr, buffer), TarqSuccess);
+    EXPECT_NE(::GetParameter("xtolx", nullptr), TarqSuccess);
     startAnew();
     EXPECT_EQ(get("xglgap"), "0.0001");
 }

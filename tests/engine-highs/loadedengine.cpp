@@ -1,7 +1,5 @@
 #include "loadedengine.h"
 
-#include <dlfcn.h>
-
 #include <charconv>
 #include <random>
 
@@ -11,19 +9,19 @@ namespace {
 
 std::function<void()> callbackAction;
 
-Operations load() {
-    void* const handle = dlopen(TARQ_ENGINE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    Operations loaded;
-#define TARQ_OPERATION(name) loaded.name = reinterpret_cast<decltype(::name)*>(dlsym(handle, #name));
-    TARQ_ENGINE_OPERATIONS(TARQ_OPERATION)
-    TARQ_ENGINE_EXTENSIONS(TARQ_OPERATION)
-#undef TARQ_OPERATION
-    return loaded;
-}
-
 }  // namespace
 
-const Operations library = load();
+std::vector<Parameters> combinations(const std::vector<Parameters>& lists) {
+    std::vector<Parameters> all{{}};
+    for (const Parameters& list : lists) {
+        std::vector<Parameters> longer;
+        for (const Parameters& begun : all) {
+            for (const std::string& value : list) longer.emplace_back(begun).push_back(value);
+        }
+        all = std::move(longer);
+    }
+    return all;
+}
 
 TestModel& TestModel::column(double lower, double upper, double price, std::int32_t kind) {
     ++columns;
@@ -56,13 +54,13 @@ TestModel& TestModel::negateCosts() {
 }
 
 void EngineTest::startAnew() {
-    library.FreeMemory();
-    EXPECT_EQ(library.Initialize(), TarqSuccess);
+    ::FreeMemory();
+    EXPECT_EQ(::Initialize(), TarqSuccess);
 }
 
 std::string EngineTest::get(const std::string& name) {
     char buffer[TarqTextSize] = "?";
-    return library.GetParameter(name.c_str(), buffer) == TarqSuccess ? buffer : "";
+    return ::GetParameter(name.c_str(), buffer) == TarqSuccess ? buffer : "";
 }
 
 double EngineTest::number(const std::string& name) {
@@ -79,9 +77,9 @@ std::int32_t EngineTest::put(const TestModel& model) {
     lower.insert(lower.end(), model.rowLower.begin(), model.rowLower.end());
     upper.insert(upper.end(), model.rowUpper.begin(), model.rowUpper.end());
     entries_ = lower.size();
-    return library.PutModel(0, model.infinity, model.rows, model.columns, model.nonzeros, model.rowIndices.data(),
-                            model.columnIndices.data(), model.values.data(), lower.data(), upper.data(),
-                            model.cost.data(), model.type.data());
+    return ::PutModel(0, model.infinity, model.rows, model.columns, model.nonzeros, model.rowIndices.data(),
+                      model.columnIndices.data(), model.values.data(), lower.data(), upper.data(), model.cost.data(),
+                      model.type.data());
 }
 
 StageResult& EngineTest::fetch(StageResult& stage, decltype(::GetLPSolution)* getSolution) const {
@@ -96,16 +94,16 @@ StageResult& EngineTest::fetch(StageResult& stage, decltype(::GetLPSolution)* ge
 
 StageResult EngineTest::solveLp(std::int32_t iterationFrequency) const {
     StageResult stage;
-    stage.result = library.OptimizeLP(iterationFrequency, &stage.iterations, &stage.infeasibilities, &stage.lpStatus,
-                                      &stage.objective, &stage.bestPossible);
-    return fetch(stage, library.GetLPSolution);
+    stage.result = ::OptimizeLP(iterationFrequency, &stage.iterations, &stage.infeasibilities, &stage.lpStatus,
+                                &stage.objective, &stage.bestPossible);
+    return fetch(stage, ::GetLPSolution);
 }
 
 StageResult EngineTest::solveIp(std::int32_t nodeFrequency) const {
     StageResult stage;
-    stage.result = library.OptimizeIP(nodeFrequency, &stage.iterations, &stage.integerSolutions, &stage.stopReason,
-                                      &stage.objective, &stage.bestPossible);
-    return fetch(stage, library.GetIPSolution);
+    stage.result = ::OptimizeIP(nodeFrequency, &stage.iterations, &stage.integerSolutions, &stage.stopReason,
+                                &stage.objective, &stage.bestPossible);
+    return fetch(stage, ::GetIPSolution);
 }
 
 void EngineTest::prepare(const TestModel& model, const Parameters& parameters) {
@@ -126,7 +124,7 @@ StageResult EngineTest::optimizeIp(const TestModel& model, const Parameters& par
 
 void EngineTest::onCallback(std::function<void()> action) {
     callbackAction = std::move(action);
-    library.SetCallback([] { callbackAction(); }, TarqModelWithIntegers);
+    ::SetCallback([] { callbackAction(); }, TarqModelWithIntegers);
 }
 
 TestModel smallLp() {

@@ -1,4 +1,4 @@
-// The engine library as a client sees it: loaded by name, driven through its C interface.
+// The engine library as a client sees it: driven through its C interface.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -14,14 +14,6 @@
 namespace tarq::test {
 
 inline constexpr double infinite = 1e25;
-
-/// The operations that the library exports; null where there is none.
-struct Operations {
-#define TARQ_OPERATION(name) decltype(::name)* name = nullptr;
-    TARQ_ENGINE_OPERATIONS(TARQ_OPERATION) TARQ_ENGINE_EXTENSIONS(TARQ_OPERATION)
-#undef TARQ_OPERATION
-};
-extern const Operations library;
 
 /// A model in the form PutModel takes it; built row by row.
 struct TestModel {
@@ -64,16 +56,19 @@ struct StageResult {
 
 using Parameters = std::vector<std::string>;
 
+/// One value of each list, in all ways.
+std::vector<Parameters> combinations(const std::vector<Parameters>& lists);
+
 /// A fixture with a fresh engine. All of it is for one thread, since a run is.
 class EngineTest : public testing::Test {
 protected:
     void SetUp() override { startAnew(); }
-    void TearDown() override { EXPECT_EQ(library.FreeMemory(), TarqSuccess); }
+    void TearDown() override { EXPECT_EQ(::FreeMemory(), TarqSuccess); }
 
     /// Ends the run that there may be, and starts the next one.
     static void startAnew();
 
-    static std::int32_t set(const std::string& assignment) { return library.SetParameter(assignment.c_str()); }
+    static std::int32_t set(const std::string& assignment) { return ::SetParameter(assignment.c_str()); }
     /// Value of a parameter or result; the empty text when the engine refuses the name.
     [[nodiscard]] static std::string get(const std::string& name);
     [[nodiscard]] static double number(const std::string& name);

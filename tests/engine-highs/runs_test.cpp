@@ -23,7 +23,7 @@ using RunsTest = EngineTest;
 
 // None of the threads ends its last run; it is given up with them.
 TEST_F(RunsTest, FortyModelsOnEightThreadsGiveFortyAnswers) {
-    EXPECT_EQ(library.FreeMemory(), 0);
+    EXPECT_EQ(::FreeMemory(), 0);
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 8; ++thread) {
         threads.emplace_back([thread] {
@@ -47,12 +47,12 @@ TEST_F(RunsTest, OnlyTheThreadOfARunIsServed) {
     std::thread([&] {
         EXPECT_EQ(set("xtolx=1"), TarqGeneralError);
         EXPECT_EQ(put(smallLp()), TarqGeneralError);
-        for (const auto operation : {library.FreeMemory, library.InitModel}) EXPECT_EQ(operation(), TarqGeneralError);
+        for (const auto operation : {::FreeMemory, ::InitModel}) EXPECT_EQ(operation(), TarqGeneralError);
         EXPECT_EQ(get("xline1"), "");
         EXPECT_THAT(get("xversn"), StartsWith("HiGHS"));
     }).join();
-    EXPECT_EQ(library.Initialize(), TarqGeneralError);
-    EXPECT_EQ(library.AllocateMemory(300), TarqGeneralError);
+    EXPECT_EQ(::Initialize(), TarqGeneralError);
+    EXPECT_EQ(::AllocateMemory(300), TarqGeneralError);
     EXPECT_EQ(message(), text);
     EXPECT_NEAR(number("xtolx"), 1e-4, 1e-12);
 }
@@ -67,7 +67,7 @@ void sleepOn(int /*signal*/) {
 
 // One thread is stopped in a stage, one as it waits for its turn. Once they may go on, the first has lost its run.
 TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
-    const auto abandon = library.AbandonRun;
+    const auto abandon = ::AbandonRun;
     EXPECT_EQ(abandon(gettid()), 0);
     EXPECT_EQ(abandon(gettid()), TarqGeneralError);
     stopped = true;
@@ -85,7 +85,7 @@ TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
         });
         std::int32_t whole = 0;
         double real = 0.0;
-        lost = library.OptimizeIP(-1, &whole, &whole, &whole, &real, &real);
+        lost = ::OptimizeIP(-1, &whole, &whole, &whole, &real, &real);
     });
     while (asleep < 1) usleep(1000);
     std::atomic<int> waiting{0};
@@ -102,7 +102,7 @@ TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
     stopped = false;
     first.join();
     EXPECT_EQ(lost, TarqStoppedAtBreak);
-    EXPECT_EQ(library.FreeMemory(), 0);
+    EXPECT_EQ(::FreeMemory(), 0);
     second.join();
     startAnew();
 }

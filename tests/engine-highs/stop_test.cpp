@@ -126,10 +126,8 @@ TEST_F(StopTest, LargeLpsAreStoppedByTheClock) {
 
 TEST_F(StopTest, AStopAtOnceLeavesTheModelUsable) {
     prepare(denseLp(40));
-    onCallback([&] { set("XCBSTP=1"); });
-    const StageResult stopped = solveLp();
-    EXPECT_EQ(stopped.result, TarqStoppedAtBreak);
-    EXPECT_EQ(stopped.solutionStatus, TarqLPSolutionUndefined);
+    onCallback([] { set("XCBSTP=1"); });
+    EXPECT_EQ(solveLp().solutionStatus, TarqLPSolutionUndefined);
     onCallback([] {});
     EXPECT_EQ(solveLp().solutionStatus, TarqLPSolutionOptimal);
 }
@@ -138,12 +136,12 @@ TEST_F(StopTest, TheEngineRefusesOtherWorkDuringAStage) {
     ASSERT_EQ(optimizeLp(smallLp()).result, TarqSuccess);
     onCallback([&] {
         EXPECT_NE(put(smallLp()), TarqSuccess);
-        for (const auto operation : {library.FreeMemory, library.Initialize, library.InitModel}) {
+        for (const auto operation : {::FreeMemory, ::Initialize, ::InitModel}) {
             EXPECT_NE(operation(), TarqSuccess);
         }
         std::int32_t whole = 0;
         double real = 0.0;
-        EXPECT_NE(library.OptimizeLP(0, &whole, &whole, &whole, &real, &real), TarqSuccess);
+        EXPECT_NE(::OptimizeLP(0, &whole, &whole, &whole, &real, &real), TarqSuccess);
     });
     EXPECT_EQ(solveLp().solutionStatus, TarqLPSolutionOptimal);
 }
