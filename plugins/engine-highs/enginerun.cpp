@@ -21,15 +21,15 @@ public:
     OwnRun& operator=(const OwnRun&) = delete;
     ~OwnRun() { end(); }
 
-    [[nodiscard]] EngineState* state() const { return turns.isCurrent(turn_) ? state_.get() : nullptr; }
+    [[nodiscard]] RunOperations* operations() const { return turns.isCurrent(turn_) ? operations_.get() : nullptr; }
 
     bool begin() {
         // A run that was given up may still be in a stage, whose callback this is.
-        if (state() || (state_ && state_->isAtWork())) return false;
-        state_.reset();
+        if (operations() || (operations_ && operations_->isAtWork())) return false;
+        operations_.reset();
         turn_ = turns.take();
         try {
-            state_ = std::make_unique<EngineState>([turn = turn_] { return !turns.isCurrent(turn); });
+            operations_ = std::make_unique<RunOperations>([turn = turn_] { return !turns.isCurrent(turn); });
         } catch (...) {
             end();
             throw;
@@ -40,15 +40,15 @@ public:
     void end() {
         if (turn_ == 0) return;
         // The process ends within a stage, which goes on using its state.
-        if (state_ && state_->isAtWork()) static_cast<void>(state_.release());
-        state_.reset();
+        if (operations_ && operations_->isAtWork()) static_cast<void>(operations_.release());
+        operations_.reset();
         turns.end(turn_);
         turn_ = 0;
     }
 
 private:
     TurnQueue::Turn turn_ = 0;
-    std::unique_ptr<EngineState> state_;
+    std::unique_ptr<RunOperations> operations_;
 };
 
 thread_local OwnRun run;
@@ -57,7 +57,7 @@ thread_local OwnRun run;
 
 bool beginRun() { return run.begin(); }
 
-EngineState* ownRun() noexcept { return run.state(); }
+RunOperations* ownRun() noexcept { return run.operations(); }
 
 void endRun() noexcept { run.end(); }
 

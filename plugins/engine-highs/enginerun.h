@@ -1,12 +1,12 @@
 // The run of a thread: from its start to FreeMemory the engine belongs to the thread that started it.
 //
-// Each run has a state of its own, which no other thread touches. So a run that is given up while its thread is still
-// at work in it leaves the next one alone.
+// Each run has operations and values of its own, which no other thread touches. So a run that is given up while its
+// thread is still at work in it leaves the next one alone.
 #pragma once
 
 #include <cstdint>
 
-#include "enginestate.h"
+#include "runoperations.h"
 
 namespace tarq::engine {
 
@@ -14,7 +14,7 @@ namespace tarq::engine {
 [[nodiscard]] bool beginRun();
 
 /// The run of the calling thread; null when it has none, or one that was given up.
-[[nodiscard]] EngineState* ownRun() noexcept;
+[[nodiscard]] RunOperations* ownRun() noexcept;
 
 /// Ends the run of the calling thread, if there is one.
 void endRun() noexcept;

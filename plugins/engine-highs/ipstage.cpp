@@ -7,14 +7,13 @@
 
 #include "freerows.h"
 #include "optionmapping.h"
+#include "resultvalues.h"
 
 namespace tarq::engine {
 
 namespace {
 
 constexpr auto relaxed = std::memory_order_relaxed;
-constexpr std::int32_t noSolution = 4;
-constexpr double noCutoff = 1e20;
 
 class IpStage {
 public:
@@ -30,7 +29,7 @@ public:
           frequency_(nodeFrequency > 0 ? nodeFrequency : 0),
           nodeLimit_(frequency_ > 0 ? std::min(frequency_, mostNodes_) : mostNodes_) {
         const double cutoff = parameters.number("xipbnd");
-        model_.objectiveBound = std::abs(cutoff) >= noCutoff ? kHighsInf : model_.sense() * cutoff;
+        model_.objectiveBound = std::abs(cutoff) >= unknownValue ? kHighsInf : model_.sense() * cutoff;
     }
 
     StageOutcome run();
@@ -120,7 +119,7 @@ void IpStage::takeSolution(const HighsSolution& solution) {
     solution_.values = solution.col_value;
     solution_.values.insert(solution_.values.end(), rowValues.begin(), rowValues.end());
     solution_.reducedCosts.assign(solution_.values.size(), 0.0);
-    solution_.states.assign(solution_.values.size(), 0);
+    solution_.states.assign(solution_.values.size(), TarqBasisUndefined);
 }
 
 HighsModelStatus IpStage::settle() {
@@ -185,10 +184,10 @@ void IpStage::polish() {
 
 void IpStage::describe(StageOutcome& outcome) {
     outcome.bestPossible = progress_.bestPossible.load(relaxed);
-    outcome.solutionStatus = noSolution;
+    outcome.solutionStatus = TarqIPSolutionNone;
     if (!found_ || !beatsCutoff(check_.objective)) return;
     polish();
-    outcome.solutionStatus = outcome.result == 0 ? 0 : 3;
+    outcome.solutionStatus = outcome.result == TarqSuccess ? TarqIPSolutionOptimal : TarqIPSolutionSuboptimal;
     outcome.objective = check_.objective;
     outcome.solution = std::move(solution_);
     progress_.objective.store(outcome.objective, relaxed);
@@ -200,31 +199,27 @@ void IpStage::describe(StageOutcome& outcome) {
 
 StageOutcome IpStage::ended(HighsModelStatus status) {
     StageOutcome outcome;
-    outcome.result = 1;
     const StopReason reason = control_.stopReason();
     const bool nodesReached = mostSolutions_ > 0 && watch_->nodesBefore >= nodeLimit_;
     const bool timeUp = status == HighsModelStatus::kTimeLimit || status == HighsModelStatus::kInterrupt;
     const bool atBreak = frequency_ > 0 && frequency_ <= mostNodes_ && nodesReached;
-    if (reason == StopReason::Request || (atBreak && !timeUp)) {
-        outcome.result = resultStopped;
-    } else if (timeUp) {
-        outcome.limit = stopReasonTime;
-    } else {
-        // HiGHS also counts solutions that the checks refuse, so its count may be reached when ours isn't.
-        const bool solutions = !nodesReached || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
-        outcome.limit = solutions ? stopReasonSolutions : stopReasonNodes;
-    }
+    // HiGHS also counts solutions that the checks refuse, so its count may be reached when ours isn't.
+    const bool solutions = !nodesReached || progress_.integerSolutions.load(relaxed) >= mostSolutions_;
+    outcome.endEarly(reason == StopReason::Request || (atBreak && !timeUp), timeUp      ? TarqIPTimeLimit
+                                                                            : solutions ? TarqIPSolutionLimit
+                                                                                        : TarqIPNodeLimit);
     describe(outcome);
     return outcome;
 }
 
 StageOutcome IpStage::failed(HighsModelStatus status) {
     StageOutcome outcome;
-    outcome.result = status == HighsModelStatus::kMemoryLimit ? 5 : 4;
-    outcome.solutionStatus = noSolution;
-    outcome.message = status == HighsModelStatus::kMemoryLimit
-                          ? std::string("Not enough memory.")
-                          : fmt::format("Branch and bound failed: {}.", highs_.modelStatusToString(status));
+    outcome.solutionStatus = TarqIPSolutionNone;
+    if (status == HighsModelStatus::kMemoryLimit) {
+        outcome.fail(TarqGeneralError, outOfMemoryText);
+    } else {
+        outcome.fail(TarqNumericError, fmt::format("Branch and bound failed: {}.", highs_.modelStatusToString(status)));
+    }
     return outcome;
 }
 
@@ -238,7 +233,7 @@ StageOutcome IpStage::run() {
         case HighsModelStatus::kInfeasible:
         case HighsModelStatus::kObjectiveBound:
         case HighsModelStatus::kObjectiveTarget:
-            outcome.result = 0;
+            outcome.result = TarqSuccess;
             describe(outcome);
             return outcome;
         case HighsModelStatus::kTimeLimit:
@@ -260,18 +255,17 @@ StageOutcome solveIp(SolverModel& model, const ParameterValues& parameters, cons
 
 StageOutcome incumbentOutcome(Incumbent& incumbent, StopReason reason) {
     StageOutcome outcome;
-    outcome.result = reason == StopReason::Request ? resultStopped : 1;
-    outcome.limit = reason == StopReason::Request ? 0 : stopReasonTime;
-    outcome.solutionStatus = noSolution;
+    outcome.endEarly(reason == StopReason::Request, TarqIPTimeLimit);
+    outcome.solutionStatus = TarqIPSolutionNone;
     const std::lock_guard lock(incumbent.mutex);
     if (!incumbent.found) return outcome;
-    outcome.solutionStatus = 3;
+    outcome.solutionStatus = TarqIPSolutionSuboptimal;
     outcome.objective = incumbent.objective;
     outcome.solution.values = incumbent.columnValues;
     outcome.solution.values.insert(outcome.solution.values.end(), incumbent.rowValues.begin(),
                                    incumbent.rowValues.end());
     outcome.solution.reducedCosts.assign(outcome.solution.values.size(), 0.0);
-    outcome.solution.states.assign(outcome.solution.values.size(), 0);
+    outcome.solution.states.assign(outcome.solution.values.size(), TarqBasisUndefined);
     return outcome;
 }
 

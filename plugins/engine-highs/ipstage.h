@@ -16,8 +16,4 @@ namespace tarq::engine {
 /// The best integer solution so far as an outcome without duals, for a stage that was given up.
 [[nodiscard]] StageOutcome incumbentOutcome(Incumbent& incumbent, StopReason reason);
 
-inline constexpr std::int32_t stopReasonTime = 3;
-inline constexpr std::int32_t stopReasonNodes = 6;
-inline constexpr std::int32_t stopReasonSolutions = 10;
-
 }  // namespace tarq::engine

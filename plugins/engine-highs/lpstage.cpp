@@ -52,6 +52,7 @@ private:
     void countIterations(const Highs& highs, HighsInt simplexBegin = 0);
     [[nodiscard]] HighsModelStatus settle();
     [[nodiscard]] StageOutcome solved();
+    [[nodiscard]] static StageOutcome withoutOptimum(TarqLPStatus status);
     [[nodiscard]] StageOutcome ended(HighsModelStatus status);
     [[nodiscard]] StageOutcome withoutColumns();
     [[nodiscard]] bool checkPrimal();
@@ -276,9 +277,9 @@ HighsModelStatus LpStage::settle() {
 
 StageOutcome LpStage::solved() {
     StageOutcome outcome;
-    outcome.result = 0;
+    outcome.result = TarqSuccess;
     const bool feasible = checkPrimal();
-    outcome.solutionStatus = feasible ? 0 : 4;
+    outcome.solutionStatus = feasible ? TarqLPSolutionOptimal : TarqLPSolutionDualFeasible;
     outcome.objective = check_.objective;
     outcome.solution = arrays();
     showInfeasibilities();
@@ -289,23 +290,30 @@ StageOutcome LpStage::solved() {
     return outcome;
 }
 
+// The two statuses of such a model are those of a solution as well.
+StageOutcome LpStage::withoutOptimum(TarqLPStatus status) {
+    static_assert(int{TarqLPInfeasible} == int{TarqLPSolutionInfeasible});
+    static_assert(int{TarqLPUnbounded} == int{TarqLPSolutionUnbounded});
+    StageOutcome outcome;
+    outcome.result = TarqSuccess;
+    outcome.lpStatus = outcome.solutionStatus = status;
+    return outcome;
+}
+
 // A stage that came to no end of its own: by a limit, a break or a stop.
 StageOutcome LpStage::ended(HighsModelStatus status) {
     StageOutcome outcome;
     const StopReason reason = control_.stopReason();
     const bool broken = status == HighsModelStatus::kIterationLimit && frequency_ > 0 &&
                         frequency_ <= mostIterations_ && simplexIterations_ >= frequency_;
-    if (reason == StopReason::Request || (broken && reason == StopReason::None)) {
-        outcome.result = resultStopped;
-    } else {
-        outcome.result = 1;
-        outcome.limit = status == HighsModelStatus::kIterationLimit ? 1 : 2;
-    }
-    outcome.solutionStatus = nothingFeasible;
+    outcome.endEarly(reason == StopReason::Request || (broken && reason == StopReason::None),
+                     status == HighsModelStatus::kIterationLimit ? TarqLPIterationLimit : TarqLPTimeLimit);
+    outcome.solutionStatus = TarqLPSolutionUndefined;
     if (!solution().value_valid) return outcome;
     const bool primal = checkPrimal();
     const bool dual = highs_.getInfo().valid && highs_.getInfo().num_dual_infeasibilities == 0;
-    outcome.solutionStatus = primal ? 3 : dual ? 4 : nothingFeasible;
+    if (dual) outcome.solutionStatus = TarqLPSolutionDualFeasible;
+    if (primal) outcome.solutionStatus = TarqLPSolutionPrimalFeasible;
     outcome.objective = check_.objective;
     outcome.solution = arrays();
     showInfeasibilities();
@@ -314,17 +322,13 @@ StageOutcome LpStage::ended(HighsModelStatus status) {
 
 StageOutcome LpStage::withoutColumns() {
     StageOutcome outcome;
-    outcome.result = 0;
+    outcome.result = TarqSuccess;
     const HighsLp& lp = highs_.getLp();
     std::vector<double> rowValues;
-    if (!checkPoint(lp, {}, {}, model_.tolerance, rowValues).feasible) {
-        outcome.modelStatus = 1;
-        outcome.solutionStatus = 1;
-        return outcome;
-    }
+    if (!checkPoint(lp, {}, {}, model_.tolerance, rowValues).feasible) return withoutOptimum(TarqLPInfeasible);
     outcome.solution.values = rowValues;
     outcome.solution.reducedCosts.assign(rowValues.size(), 0.0);
-    outcome.solution.states.assign(rowValues.size(), 1);
+    outcome.solution.states.assign(rowValues.size(), TarqBasic);
     return outcome;
 }
 
@@ -333,26 +337,21 @@ StageOutcome LpStage::run() {
     const HighsModelStatus status = settle();
     if (isStopped(status)) return ended(status);
     StageOutcome outcome;
-    outcome.solutionStatus = nothingFeasible;
+    outcome.solutionStatus = TarqLPSolutionUndefined;
     switch (status) {
         case HighsModelStatus::kOptimal:
             return solved();
         case HighsModelStatus::kInfeasible:
-            outcome.result = 0;
-            outcome.modelStatus = outcome.solutionStatus = 1;
-            return outcome;
+            return withoutOptimum(TarqLPInfeasible);
         case HighsModelStatus::kUnbounded:
-            outcome.result = 0;
-            outcome.modelStatus = outcome.solutionStatus = 2;
-            return outcome;
+            return withoutOptimum(TarqLPUnbounded);
         case HighsModelStatus::kMemoryLimit:
-            outcome.result = 5;
-            outcome.message = "Not enough memory.";
+            outcome.fail(TarqGeneralError, outOfMemoryText);
             return outcome;
         default:
             if (control_.stopReason() != StopReason::None) return ended(HighsModelStatus::kInterrupt);
-            outcome.result = 4;
-            outcome.message = fmt::format("The LP could not be solved: {}.", highs_.modelStatusToString(status));
+            outcome.fail(TarqNumericError,
+                         fmt::format("The LP could not be solved: {}.", highs_.modelStatusToString(status)));
             return outcome;
     }
 }

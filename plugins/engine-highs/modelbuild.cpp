@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "tarq/engine.h"
+
 namespace tarq::engine {
 
 namespace {
@@ -63,17 +65,18 @@ std::string takeColumns(const ModelArrays& arrays, BuiltModel& model) {
             return fmt::format("The cost {:g} of column {} is not a finite number below {:g}.", arrays.cost[column],
                                column + 1, largestCost);
         }
-        if (arrays.type[column] < 0 || arrays.type[column] > 2) {
+        if (arrays.type[column] < TarqContinuousColumn || arrays.type[column] > TarqBinaryColumn) {
             return fmt::format("The type {} of column {} is unknown.", arrays.type[column], column + 1);
         }
-        integer = integer || arrays.type[column] != 0;
+        integer = integer || arrays.type[column] != TarqContinuousColumn;
     }
     model.lp.col_cost_.assign(arrays.cost, arrays.cost + arrays.columns);
     model.integrality.clear();
     if (!integer) return {};
     model.integrality.resize(static_cast<std::size_t>(arrays.columns), HighsVarType::kContinuous);
     for (std::int32_t column = 0; column < arrays.columns; ++column) {
-        if (arrays.type[column] != 0) model.integrality[static_cast<std::size_t>(column)] = HighsVarType::kInteger;
+        if (arrays.type[column] == TarqContinuousColumn) continue;
+        model.integrality[static_cast<std::size_t>(column)] = HighsVarType::kInteger;
     }
     return {};
 }

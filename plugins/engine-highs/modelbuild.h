@@ -21,7 +21,7 @@ struct ModelArrays {
     const double* lower;
     const double* upper;
     const double* cost;
-    const std::int32_t* type;
+    const std::int32_t* type;  ///< a TarqColumnType each
 };
 
 struct BuiltModel {

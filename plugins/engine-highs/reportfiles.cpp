@@ -11,16 +11,22 @@ namespace tarq::engine {
 
 namespace {
 
-constexpr std::array<const char*, 6> stateNames{"undefined", "basic", "lower", "upper", "fixed", "superbasic"};
+// By TarqBasisStatus.
+constexpr std::array<const char*, TarqSuperbasic + 1> stateNames{"undefined", "basic", "lower",
+                                                                 "upper",     "fixed", "superbasic"};
 
 struct StatusName {
     std::int32_t status;
     const char* name;
 };
 
-constexpr std::array lpNames{StatusName{0, "optimal"}, StatusName{1, "infeasible"}, StatusName{2, "unbounded"},
-                             StatusName{3, "primal feasible"}, StatusName{4, "dual feasible"}};
-constexpr std::array ipNames{StatusName{0, "optimal"}, StatusName{3, "suboptimal"}, StatusName{4, "no solution"}};
+constexpr std::array lpNames{
+    StatusName{TarqLPSolutionOptimal, "optimal"}, StatusName{TarqLPSolutionInfeasible, "infeasible"},
+    StatusName{TarqLPSolutionUnbounded, "unbounded"}, StatusName{TarqLPSolutionPrimalFeasible, "primal feasible"},
+    StatusName{TarqLPSolutionDualFeasible, "dual feasible"}};
+constexpr std::array ipNames{StatusName{TarqIPSolutionOptimal, "optimal"},
+                             StatusName{TarqIPSolutionSuboptimal, "suboptimal"},
+                             StatusName{TarqIPSolutionNone, "no solution"}};
 
 template <typename Names>
 const char* nameOf(const Names& names, std::int32_t status) {
@@ -30,8 +36,8 @@ const char* nameOf(const Names& names, std::int32_t status) {
     return "not feasible";
 }
 
-const char* statusName(const char* stage, std::int32_t status) {
-    return std::string_view(stage) == "LP" ? nameOf(lpNames, status) : nameOf(ipNames, status);
+const char* statusName(Stage stage, std::int32_t status) {
+    return stage == Stage::Lp ? nameOf(lpNames, status) : nameOf(ipNames, status);
 }
 
 void appendSection(std::string& text, const char* title, const char* dual, const SolutionArrays& solution,
@@ -47,11 +53,11 @@ void appendSection(std::string& text, const char* title, const char* dual, const
 
 }  // namespace
 
-std::string solutionReport(const ReportedModel& model, const StageOutcome& outcome, const char* stage, bool withRows) {
+std::string solutionReport(const ReportedModel& model, const StageOutcome& outcome, Stage stage, bool withRows) {
     std::string text =
-        fmt::format("{} solution\nstatus     {}\nobjective  {}\ndirection  {}\ncolumns    {}\nrows       {}\n", stage,
-                    statusName(stage, outcome.solutionStatus), outcome.objective, model.maximize ? "max" : "min",
-                    model.columns, model.rows);
+        fmt::format("{} solution\nstatus     {}\nobjective  {}\ndirection  {}\ncolumns    {}\nrows       {}\n",
+                    stage == Stage::Lp ? "LP" : "IP", statusName(stage, outcome.solutionStatus), outcome.objective,
+                    model.maximize ? "max" : "min", model.columns, model.rows);
     const auto columns = static_cast<std::size_t>(model.columns);
     const auto rows = static_cast<std::size_t>(model.rows);
     if (outcome.solution.values.size() != columns + rows) return text;
@@ -69,8 +75,7 @@ std::string statisticsReport(const ReportedModel& model, const ResultValues& res
     fmt::format_to(out, "  integer columns    {}\n  direction          {}\n", model.integers,
                    model.maximize ? "max" : "min");
     fmt::format_to(out, "LP\n  result             {}\n  status             {}\n  objective          {}\n", lp.result,
-                   lp.modelStatus != 0 ? nameOf(lpNames, lp.modelStatus) : nameOf(lpNames, lp.solutionStatus),
-                   lp.objective);
+                   nameOf(lpNames, lp.lpStatus != TarqLPSolvable ? lp.lpStatus : lp.solutionStatus), lp.objective);
     fmt::format_to(out, "  iterations         {}\n  seconds            {:.3f}\n", results.iterations,
                    results.lpSeconds);
     if (ip) {

@@ -4,11 +4,13 @@
 
 #include <string>
 
-#include "lpstage.h"
+#include "optionmapping.h"
 #include "resultvalues.h"
+#include "stageoutcome.h"
 
 namespace tarq::engine {
 
+/// What the files tell of a model.
 struct ReportedModel {
     std::int32_t rows;
     std::int32_t columns;
@@ -18,7 +20,7 @@ struct ReportedModel {
 };
 
 /// A solution: its head, the column section, and with `withRows` the row section.
-[[nodiscard]] std::string solutionReport(const ReportedModel& model, const StageOutcome& outcome, const char* stage,
+[[nodiscard]] std::string solutionReport(const ReportedModel& model, const StageOutcome& outcome, Stage stage,
                                          bool withRows);
 
 /// The statistics of a run so far; `ip` is null before the IP stage.

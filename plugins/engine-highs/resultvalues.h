@@ -30,6 +30,7 @@ struct ResultValues {
 /// Text of the result of a lower-case name; nothing when there is no such result.
 [[nodiscard]] std::optional<std::string> resultText(const ResultValues& results, std::string_view name);
 
+/// Stands for what isn't known or isn't limited, with either sign.
 inline constexpr double unknownValue = 1e20;
 
 }  // namespace tarq::engine

@@ -3,20 +3,22 @@
 #include <algorithm>
 #include <cmath>
 
+#include "tarq/engine.h"
+
 namespace tarq::engine {
 
 namespace {
 
 std::int32_t stateOf(HighsBasisStatus status, double lower, double upper) {
-    if (status == HighsBasisStatus::kBasic) return 1;
-    if (lower == upper) return 4;
+    if (status == HighsBasisStatus::kBasic) return TarqBasic;
+    if (lower == upper) return TarqFixed;
     switch (status) {
         case HighsBasisStatus::kLower:
-            return 2;
+            return TarqAtLowerBound;
         case HighsBasisStatus::kUpper:
-            return 3;
+            return TarqAtUpperBound;
         default:
-            return 5;
+            return TarqSuperbasic;
     }
 }
 
@@ -25,9 +27,9 @@ std::int32_t stateAt(double value, double lower, double upper) {
     const auto at = [&](double bound) {
         return std::isfinite(bound) && std::abs(value - bound) <= tolerance * std::max(1.0, std::abs(bound));
     };
-    if (lower == upper) return 4;
-    if (at(lower)) return 2;
-    return at(upper) ? 3 : 5;
+    if (lower == upper) return TarqFixed;
+    if (at(lower)) return TarqAtLowerBound;
+    return at(upper) ? TarqAtUpperBound : TarqSuperbasic;
 }
 
 }  // namespace

@@ -12,8 +12,8 @@ namespace tarq::engine {
 /// Values, duals and states of all columns, then of all rows.
 struct SolutionArrays {
     std::vector<double> values;
-    std::vector<double> reducedCosts;
-    std::vector<std::int32_t> states;
+    std::vector<double> reducedCosts;  ///< the duals in the row part
+    std::vector<std::int32_t> states;  ///< a TarqBasisStatus each
 };
 
 /// States come from the basis, or from the values when it isn't valid.

@@ -18,10 +18,10 @@ constexpr auto patience = 1s;
 
 }  // namespace
 
-BackgroundRun::BackgroundRun(Ref<IUnknown> model, RunModel run) : model_(std::move(model)), run_(std::move(run)) {
+BackgroundRun::BackgroundRun(Ref<IUnknown> model, RunnableModel run) : model_(std::move(model)), run_(std::move(run)) {
     run_.breakPoint = [this](EngineInterface& engine) {
         if (phase_.load() != Phase::Killed) return;
-        engine.SetParameter("XCBSTP=1");  // ends threads of the engine's own making
+        engine.requestStop();  // ends threads of the engine's own making
         park();
     };
     run_.ending = [this] {

@@ -19,7 +19,7 @@ namespace tarq {
 class BackgroundRun {
 public:
     /// `model` is the reference by which the run keeps its model until it has ended.
-    BackgroundRun(Ref<IUnknown> model, RunModel run);
+    BackgroundRun(Ref<IUnknown> model, RunnableModel run);
 
     /// Starts the thread of `run`; false when there is no thread to be had.
     [[nodiscard]] static bool start(const std::shared_ptr<BackgroundRun>& run) noexcept;
@@ -38,7 +38,7 @@ private:
     std::atomic<Phase> phase_{Phase::Running};
     std::atomic<bool> parked_{false};
     Ref<IUnknown> model_;  // dropped by the run at its end, or by who kills it
-    RunModel run_;
+    RunnableModel run_;
     std::mutex threadMutex_;  // of the handle, which is there only after the thread has begun
     std::unique_ptr<DetachedThread> thread_;
 };

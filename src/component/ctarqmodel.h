@@ -185,7 +185,8 @@ private:
     void setOutput(std::string bytes) override;
 
     void resetSolution();
-    RunModel runModel();
+    /// This model as a run takes it.
+    RunnableModel runnableModel();
 
     ModelStore store_;
     ParameterTable parameters_;

@@ -8,7 +8,7 @@
 
 namespace tarq {
 
-RunModel CTARQModel::runModel() {
+RunnableModel CTARQModel::runnableModel() {
     return {.store = store_,
             .parameters = parameters_,
             .summary = summary_,
@@ -23,7 +23,7 @@ Status CTARQModel::Optimize() {
     return guarded(classid::TARQModel, [&] {
         // A sink may drop the last reference but this one.
         const Ref<IUnknown> held(static_cast<ITARQModel*>(this));
-        RunModel model = runModel();
+        RunnableModel model = runnableModel();
         const Status ended = runOptimization(model);
         return model.pendingError.isOk() ? Outcome(ended) : std::move(model.pendingError);
     });
@@ -31,7 +31,8 @@ Status CTARQModel::Optimize() {
 
 Status CTARQModel::OptimizeAsync() {
     return guarded(classid::TARQModel, [&] {
-        const auto run = std::make_shared<BackgroundRun>(Ref<IUnknown>(static_cast<ITARQModel*>(this)), runModel());
+        const auto run =
+            std::make_shared<BackgroundRun>(Ref<IUnknown>(static_cast<ITARQModel*>(this)), runnableModel());
         if (busy_.exchange(true)) return Outcome(status::componentFailure, "Component is busy at the moment.");
         {
             // Before the thread can call a sink that starts the next run.

@@ -10,7 +10,10 @@ namespace {
 template <class Getter, class Value>
 Status solutionValue(Getter getter, const SolvedModel& model, const Variant& address, Value* value) {
     if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return getter(model, address, *value); });
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        TARQ_ASSIGN(*value, getter(model, address));
+        return {};
+    });
 }
 
 }  // namespace

@@ -22,15 +22,15 @@ const ThreadSlot& slotOfRun() {
     return slot;
 }
 
-RunModel* runOfThisThread() { return static_cast<RunModel*>(slotOfRun().get()); }
+RunnableModel* runOfThisThread() { return static_cast<RunnableModel*>(slotOfRun().get()); }
 
 // Of all runs in progress the one that began last, null when that has ended. An engine may call back on a thread of its
 // own making, hence release and acquire.
-constinit std::atomic<RunModel*> latestRun{nullptr};
+constinit std::atomic<RunnableModel*> latestRun{nullptr};
 
 }  // namespace
 
-NotedRun::NotedRun(RunModel& model) : model_(model), outer_(runOfThisThread()) {
+NotedRun::NotedRun(RunnableModel& model) : model_(model), outer_(runOfThisThread()) {
     if (!slotOfRun().set(&model)) throw std::bad_alloc();
     latestRun.store(&model, std::memory_order_release);
 }
@@ -40,22 +40,22 @@ NotedRun::~NotedRun() {
     forget(model_);
 }
 
-void NotedRun::forget(RunModel& model) noexcept {
-    RunModel* noted = &model;
+void NotedRun::forget(RunnableModel& model) noexcept {
+    RunnableModel* noted = &model;
     latestRun.compare_exchange_strong(noted, nullptr, std::memory_order_acq_rel);
 }
 
 void tarqEngineCallback() {
-    RunModel* const own = runOfThisThread();
-    RunModel* const model = own != nullptr ? own : latestRun.load(std::memory_order_acquire);
+    RunnableModel* const own = runOfThisThread();
+    RunnableModel* const model = own != nullptr ? own : latestRun.load(std::memory_order_acquire);
     if (model == nullptr || !model->engine) return;
     EngineInterface& engine = *model->engine;
-    if (model->stopRequested.load(std::memory_order_relaxed)) engine.SetParameter("XCBSTP=1");
+    if (model->stopRequested.load(std::memory_order_relaxed)) engine.requestStop();
     readResultValues(*model);
     if (model->breakPoint) model->breakPoint(engine);
 }
 
-void readResultValues(RunModel& model) {
+void readResultValues(RunnableModel& model) {
     const bool maximizing = readShared(model.maximizing);
     const auto slots = resultSlots();
     EngineText text;

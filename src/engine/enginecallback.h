@@ -5,23 +5,23 @@
 
 namespace tarq {
 
-struct RunModel;
+struct RunnableModel;
 
 /// Notes a run as that of the calling thread and as the latest one; at its end the thread's is again what it was.
 class NotedRun {
 public:
     /// Throws std::bad_alloc where the thread has no memory for the note.
-    explicit NotedRun(RunModel& model);
+    explicit NotedRun(RunnableModel& model);
     NotedRun(const NotedRun&) = delete;
     NotedRun& operator=(const NotedRun&) = delete;
     ~NotedRun();
 
     /// For whoever has stopped the thread of a run for good.
-    static void forget(RunModel& model) noexcept;
+    static void forget(RunnableModel& model) noexcept;
 
 private:
-    RunModel& model_;
-    RunModel* const outer_;
+    RunnableModel& model_;
+    RunnableModel* const outer_;
 };
 
 /// Registered with the engine, which calls it at its break points: passes on a requested stop and refreshes the result
@@ -30,6 +30,6 @@ extern "C" void tarqEngineCallback();
 
 /// Asks the engine of a run for the 14 result values and stores what it delivers. The engine holds xzlbnd, xzubnd and
 /// xzbest in minimization form, so they change sign when maximizing.
-void readResultValues(RunModel& model);
+void readResultValues(RunnableModel& model);
 
 }  // namespace tarq

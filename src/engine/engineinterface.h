@@ -1,8 +1,10 @@
 // EngineInterface: the operations of a solver engine that a run uses.
 //
-// The operations bear the names, arguments and results of the C interface in tarq/engine.h. A result of 0 means success
-// unless an operation says otherwise. An engine holds one model and one set of parameters, so all operations of a run
-// come from one thread; only GetParameter may come from another, for the version, and abandonRun. Nothing here throws.
+// The operations bear the names, arguments, results (a TarqResult) and values of the C interface in tarq/engine.h,
+// which says what they mean; here stands what a run relies on. A stub or another solver derives from this class and is
+// offered by an EngineBinding of its own. An engine holds one model and one set of parameters, so all operations of a
+// run come from one thread; only GetParameter may come from another, for the version, and abandonRun. Nothing here
+// throws.
 #pragma once
 
 #include <cstdint>
@@ -46,25 +48,27 @@ public:
     virtual std::int32_t SetMaxLPDim(std::int32_t rows, std::int32_t columns, std::int32_t nonzeros) = 0;
     virtual std::int32_t InitModel() = 0;
 
-    /// Takes "name=value", string values in single quotes, or "XCBSTP=1", the request to stop.
+    /// Takes "name=value", string values in single quotes. Nobody looks at the result.
     virtual std::int32_t SetParameter(const char* assignment) = 0;
-    /// Writes the value as text; `buffer` holds at least 255 characters.
+    /// Asks the engine to end its stage at the next opportunity.
+    void requestStop() { SetParameter("XCBSTP=1"); }
+    /// Writes the value as text; `buffer` has room for TarqTextSize characters at least.
     virtual std::int32_t GetParameter(const char* name, char* buffer) = 0;
-    /// flag: 1 for a model without integer columns, 0 for one with.
+    /// flag: a TarqModelKind.
     virtual std::int32_t SetCallback(TarqCallback callback, std::int32_t flag) = 0;
 
-    /// Result 1: not enough memory; 2: input error; anything else: accepted. The arrays live only for the call.
+    /// TarqOutOfMemory, TarqInputError, or any other result: accepted. The arrays live only for the call.
     virtual std::int32_t PutModel(std::int32_t zero, double infinity, std::int32_t rows, std::int32_t columns,
                                   std::int32_t nonzeros, const std::int32_t* rowIndices,
                                   const std::int32_t* columnIndices, const double* values, const double* lower,
                                   const double* upper, const double* cost, const std::int32_t* type) = 0;
 
-    /// Result 0: solved; 1: a resource limit ended it; 2 input, 3 output, 4 numeric, 5 general, 6 internal error;
-    /// 999: stopped at a break. The outputs may change during the call.
+    /// TarqSuccess: solved; TarqLimitReached and TarqStoppedAtBreak: ended early, with what there is; else failed. The
+    /// outputs may change during the call.
     virtual std::int32_t OptimizeLP(std::int32_t iterationFrequency, std::int32_t* iterations,
                                     std::int32_t* infeasibilities, std::int32_t* lpStatus, double* objective,
                                     double* sumOfInfeasibilities) = 0;
-    /// Results as of OptimizeLP.
+    /// Results and outputs as of OptimizeLP.
     virtual std::int32_t OptimizeIP(std::int32_t nodeFrequency, std::int32_t* nodes, std::int32_t* integerSolutions,
                                     std::int32_t* stopReason, double* objective, double* bestPossible) = 0;
 

@@ -10,7 +10,7 @@ namespace tarq {
 bool EngineText::read(EngineInterface& engine, const char* name) {
     buffer_.fill('\0');
     if (!engine.hasGetParameter()) return false;
-    if (engine.GetParameter(name, buffer_.data()) != 0) {
+    if (engine.GetParameter(name, buffer_.data()) != TarqSuccess) {
         buffer_.front() = '\0';
         return false;
     }

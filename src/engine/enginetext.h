@@ -21,8 +21,9 @@ public:
     [[nodiscard]] std::int32_t integer() const;
 
 private:
-    // Engines are promised 255 characters; one that writes a few more must not spoil the stack.
+    // Engines count on less; one that writes a few characters more must not spoil the stack.
     std::array<char, 1024> buffer_{};
+    static_assert(sizeof(buffer_) >= TarqTextSize);
 };
 
 }  // namespace tarq

@@ -8,6 +8,13 @@
 namespace tarq {
 namespace {
 
+// The published values are the engine's own, so they pass as they are.
+static_assert(static_cast<int>(TARQColType::Continuous) == TarqContinuousColumn);
+static_assert(static_cast<int>(TARQColType::Integer) == TarqIntegerColumn);
+static_assert(static_cast<int>(TARQColType::Binary) == TarqBinaryColumn);
+static_assert(static_cast<int>(TARQColRowStatusType::StatusBasic) == TarqBasic);
+static_assert(static_cast<int>(TARQColRowStatusType::StatusSuperBasic) == TarqSuperbasic);
+
 constexpr std::size_t largestCount = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace

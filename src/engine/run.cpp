@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +22,9 @@ constexpr std::int32_t smallestMemory = 64;
 constexpr std::int32_t largestMemory = 2000;
 constexpr std::int32_t automaticMemory = 300;
 
+/// Where an engine leaves a solution's status alone: none of its values.
+constexpr std::int32_t nothingDelivered = -1;
+
 /// How a run ends.
 struct Ending {
     Outcome outcome;
@@ -31,7 +33,7 @@ struct Ending {
 
 class Run {
 public:
-    explicit Run(RunModel& model) : model_(model) {}
+    explicit Run(RunnableModel& model) : model_(model) {}
 
     Status execute();
 
@@ -72,28 +74,26 @@ private:
     Ending failCrucially(TARQSolverStatusTyp status);
     void captureMessage();
 
-    RunModel& model_;
+    RunnableModel& model_;
     std::optional<NotedRun> noted_;
     bool memoryTaken_ = false;
     bool hasIntegerColumn_ = false;
     ModelDimensions dimensions_;
-    std::int32_t lpResult_ = 0;
-    std::int32_t ipResult_ = 0;
-    std::int32_t ipStopReason_ = 0;
+    std::int32_t lpResult_ = TarqSuccess;
+    std::int32_t ipResult_ = TarqSuccess;
+    std::int32_t ipStopReason_ = TarqIPOtherLimit;
 };
 
 Status Run::execute() {
     model_.stopRequested.store(false, std::memory_order_relaxed);
     const auto steps = [this] {
-        try {
-            noted_.emplace(model_);
-            return runSteps();
-        } catch (const std::bad_alloc&) {
-            return end(status::outOfMemory);
-        }
+        noted_.emplace(model_);
+        return runSteps();
     };
     // Whatever comes, the engine has to be released and the run has to end in order.
-    return close(withoutException(steps, [] { return end(status::generalFailure); }));
+    return close(withoutException(steps, [](const Thrown& thrown) {
+        return end(thrown.outOfMemory ? status::outOfMemory : status::generalFailure);
+    }));
 }
 
 Ending Run::runSteps() {
@@ -132,7 +132,7 @@ Run::Step Run::bind() {
 
 Run::Step Run::takeMemory() {
     engine().SetParameter("xoutlv=1");
-    std::int32_t result = 0;
+    std::int32_t result = TarqSuccess;
     writeShared(model_.engineThread, currentThreadNumber());
     memoryTaken_ = true;
     if (engine().hasInitialize()) {
@@ -143,7 +143,7 @@ Run::Step Run::takeMemory() {
         result = engine().AllocateMemory(usable ? megabytes : automaticMemory);
     }
     if (!engine().licenceAccepted()) return fail(status::engineSetup, "Error initializing TARQ.DLL.");
-    if (result != 0) return fail(status::engineMemory, "Error, cannot allocate requested memory");
+    if (result != TarqSuccess) return fail(status::engineMemory, "Error, cannot allocate requested memory");
     return {};
 }
 
@@ -158,8 +158,8 @@ Run::Step Run::prepareEmptyModel() {
     const std::int32_t result =
         engine().SetMaxLPDim(std::max(maximal.rows, needed.rows), std::max(maximal.columns, needed.columns),
                              std::max(maximal.nonzeros, needed.nonzeros));
-    if (result != 0) return fail(status::engineSetup, "Error setting max LP dimensions.");
-    if (engine().InitModel() != 0) return fail(status::engineSetup, "Error initializing TARQ.DLL.");
+    if (result != TarqSuccess) return fail(status::engineSetup, "Error setting max LP dimensions.");
+    if (engine().InitModel() != TarqSuccess) return fail(status::engineSetup, "Error initializing TARQ.DLL.");
     return {};
 }
 
@@ -187,7 +187,9 @@ Run::Step Run::prepareCallback() {
         const auto held = model_.store.gate().moment();
         hasIntegerColumn_ = model_.store.hasIntegerColumn();
     }
-    if (engine().hasSetCallback()) engine().SetCallback(&tarqEngineCallback, hasIntegerColumn_ ? 0 : 1);
+    if (engine().hasSetCallback()) {
+        engine().SetCallback(&tarqEngineCallback, hasIntegerColumn_ ? TarqModelWithIntegers : TarqContinuousModel);
+    }
     return {};
 }
 
@@ -197,18 +199,16 @@ std::optional<ModelArrays> Run::flattened() {
 }
 
 Run::Step Run::transferModel() {
-    constexpr std::int32_t outOfMemory = 1;
-    constexpr std::int32_t inputError = 2;
-    std::int32_t result = inputError;
+    std::int32_t result = TarqInputError;
     if (const auto arrays = flattened()) {
         dimensions_ = arrays->dimensions();
         result = arrays->putInto(engine());
         captureMessage();
     }
-    if (result == outOfMemory) {
+    if (result == TarqOutOfMemory) {
         return fail(status::engineMemory, "Not enough memory for model in TARQ.DLL increase XMREAL.");
     }
-    if (result == inputError) return fail(status::engineSetup, "Input error while transfering model to TARQ.DLL.");
+    if (result == TarqInputError) return fail(status::engineSetup, "Input error while transfering model to TARQ.DLL.");
     return {};
 }
 
@@ -219,16 +219,15 @@ Run::Step Run::resetSummary() {
 }
 
 Run::Step Run::solveLp() {
-    constexpr std::int32_t infeasible = 1;
-    constexpr std::int32_t unbounded = 2;
     SolutionSummary& summary = model_.summary;
-    std::int32_t lpStatus = 0;
+    std::int32_t lpStatus = TarqLPSolvable;
     lpResult_ = engine().OptimizeLP(longParameter("xfrite"), &summary.lpIterations, &summary.lpInfeasibilities,
                                     &lpStatus, &summary.lpObjectiveValue, &summary.lpSumInfeasibilities);
     captureMessage();
     if (isCrucial(lpResult_)) return failCrucially(lpErrorStatus(lpResult_));
-    if (lpResult_ == stageresult::solved && (lpStatus == infeasible || lpStatus == unbounded)) {
-        setSolutionStatus(lpSolutionStatus(lpStatus));
+    if (lpResult_ == TarqSuccess && (lpStatus == TarqLPInfeasible || lpStatus == TarqLPUnbounded)) {
+        setSolutionStatus(lpStatus == TarqLPInfeasible ? TARQSolutionStatusTyp::LPInfeasible
+                                                       : TARQSolutionStatusTyp::LPUnbounded);
         setSolverStatus(TARQSolverStatusTyp::LPFinished);
         return finish();
     }
@@ -236,13 +235,13 @@ Run::Step Run::solveLp() {
 }
 
 Run::Step Run::fetchLpSolution() {
-    constexpr std::int32_t optimal = 0;
-    std::int32_t status = -1;
+    std::int32_t status = nothingDelivered;
     {
         SolutionArrays solution(dimensions_);
         engine().GetLPSolution(&status, &model_.summary.lpObjectiveValue, solution.values.data(),
                                solution.reducedCosts.data(), solution.basisStatus.data());
-        if (status == optimal) solution.copyInto(model_.store, &ColumnRecord::lpValue, &RowRecord::lpValue);
+        if (status == TarqLPSolutionOptimal)
+            solution.copyInto(model_.store, &ColumnRecord::lpValue, &RowRecord::lpValue);
     }
     readResultValues(model_);
     setSolutionStatus(lpSolutionStatus(status));
@@ -250,12 +249,12 @@ Run::Step Run::fetchLpSolution() {
 }
 
 Run::Step Run::endAtLpLimit() {
-    if (lpResult_ == stageresult::limitReached) {
+    if (lpResult_ == TarqLimitReached) {
         EngineText limit;
-        setSolverStatus(lpLimitStatus(limit.read(engine(), "xertyp") ? limit.integer() : 0));
+        setSolverStatus(lpLimitStatus(limit.read(engine(), "xertyp") ? limit.integer() : TarqLPOtherLimit));
         return end(status::resourceLimit);
     }
-    if (lpResult_ == stageresult::stoppedAtBreak) {
+    if (lpResult_ == TarqStoppedAtBreak) {
         setSolverStatus(TARQSolverStatusTyp::LPxfriteReached);
         return end(status::stoppedAtBreak);
     }
@@ -263,7 +262,7 @@ Run::Step Run::endAtLpLimit() {
 }
 
 Run::Step Run::decideOnIp() {
-    if (lpResult_ == stageresult::solved) setSolverStatus(TARQSolverStatusTyp::LPFinished);
+    if (lpResult_ == TarqSuccess) setSolverStatus(TARQSolverStatusTyp::LPFinished);
     if (!hasIntegerColumn_ || longParameter("xlpmip") == 0 || stopRequested()) return finish();
     // Holds for every status that the LP stage leaves: a run always starts from the beginning, and one that stopped at
     // a break isn't continued.
@@ -284,14 +283,12 @@ Run::Step Run::solveIp() {
 }
 
 Run::Step Run::fetchIpSolution() {
-    constexpr std::int32_t optimal = 0;
-    constexpr std::int32_t suboptimal = 3;
-    std::int32_t status = -1;
+    std::int32_t status = nothingDelivered;
     {
         SolutionArrays solution(dimensions_);
         engine().GetIPSolution(&status, &model_.summary.ipObjectiveValue, solution.values.data(),
                                solution.reducedCosts.data(), solution.basisStatus.data());
-        if (status == optimal || status == suboptimal) {
+        if (status == TarqIPSolutionOptimal || status == TarqIPSolutionSuboptimal) {
             solution.copyInto(model_.store, &ColumnRecord::ipValue, &RowRecord::ipValue);
         }
     }
@@ -301,11 +298,11 @@ Run::Step Run::fetchIpSolution() {
 }
 
 Run::Step Run::endAtIpLimit() {
-    if (ipResult_ == stageresult::limitReached) {
+    if (ipResult_ == TarqLimitReached) {
         setSolverStatus(ipLimitStatus(ipStopReason_));
         return end(status::resourceLimit);
     }
-    if (ipResult_ == stageresult::stoppedAtBreak) {
+    if (ipResult_ == TarqStoppedAtBreak) {
         setSolverStatus(TARQSolverStatusTyp::IPxfrndsReached);
         return end(status::stoppedAtBreak);
     }
@@ -344,6 +341,6 @@ void SolutionSummary::reset() {
     lastSolverMessage.set({});
 }
 
-Status runOptimization(RunModel& model) { return Run(model).execute(); }
+Status runOptimization(RunnableModel& model) { return Run(model).execute(); }
 
 }  // namespace tarq

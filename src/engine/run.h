@@ -38,8 +38,9 @@ struct SolutionSummary {
     void reset();
 };
 
-/// All that a run reads and writes of its model. It must outlive the run; the fields are set before it.
-struct RunModel {
+/// A model as a run sees it: what the run reads, and where it leaves its traces. It must outlive the run; the fields
+/// are set before it.
+struct RunnableModel {
     ModelStore& store;
     ParameterTable& parameters;
     SolutionSummary& summary;
@@ -76,6 +77,6 @@ struct RunModel {
 ///
 /// In every ending the engine's memory is released first, then `busy` is cleared, then `finished` is called, on this
 /// thread; it may start the next run.
-[[nodiscard]] Status runOptimization(RunModel& model);
+[[nodiscard]] Status runOptimization(RunnableModel& model);
 
 }  // namespace tarq

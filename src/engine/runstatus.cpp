@@ -19,21 +19,30 @@ struct Meaning {
 template <class Published, std::size_t size>
 using Meanings = std::array<Meaning<Published>, size>;
 
-constexpr Meanings<TARQSolverStatusTyp, 4> lpErrors{
-    {{2, LPInputError}, {3, LPOutputError}, {4, LPNumericError}, {6, LPInternalSystemError}}};
-constexpr Meanings<TARQSolverStatusTyp, 4> ipErrors{
-    {{2, IPInputError}, {3, IPOutputError}, {4, IPNumericError}, {6, IPInternalSystemError}}};
-constexpr Meanings<TARQSolverStatusTyp, 3> lpLimits{{{1, LPxmiterReached}, {2, LPxmxtlpReached}, {4, LPxmitipReached}}};
-constexpr Meanings<TARQSolverStatusTyp, 4> ipLimits{
-    {{3, IPxmxminReached}, {6, IPxmxnodReached}, {7, IPNodesBufferTooSmall}, {9, IPxmxdskExceeded}}};
-constexpr Meanings<TARQSolutionStatusTyp, 6> lpSolutions{{{0, LPOptimalSolution},
-                                                          {1, LPInfeasible},
-                                                          {2, LPUnbounded},
-                                                          {3, LPOnlyPrimalFeasible},
-                                                          {4, LPOnlyDualFeasible},
-                                                          {5, LPInfeasible}}};
-constexpr Meanings<TARQSolutionStatusTyp, 3> ipSolutions{
-    {{0, IPOptimalSolution}, {3, IPSubOptimalSolution}, {4, IPNoSolution}}};
+constexpr Meanings<TARQSolverStatusTyp, 4> lpErrors{{{TarqInputError, LPInputError},
+                                                     {TarqOutputError, LPOutputError},
+                                                     {TarqNumericError, LPNumericError},
+                                                     {TarqInternalError, LPInternalSystemError}}};
+constexpr Meanings<TARQSolverStatusTyp, 4> ipErrors{{{TarqInputError, IPInputError},
+                                                     {TarqOutputError, IPOutputError},
+                                                     {TarqNumericError, IPNumericError},
+                                                     {TarqInternalError, IPInternalSystemError}}};
+constexpr Meanings<TARQSolverStatusTyp, 3> lpLimits{{{TarqLPIterationLimit, LPxmiterReached},
+                                                     {TarqLPTimeLimit, LPxmxtlpReached},
+                                                     {TarqLPNodeIterationLimit, LPxmitipReached}}};
+constexpr Meanings<TARQSolverStatusTyp, 4> ipLimits{{{TarqIPTimeLimit, IPxmxminReached},
+                                                     {TarqIPNodeLimit, IPxmxnodReached},
+                                                     {TarqIPNodeBufferFull, IPNodesBufferTooSmall},
+                                                     {TarqIPDiskFull, IPxmxdskExceeded}}};
+constexpr Meanings<TARQSolutionStatusTyp, 6> lpSolutions{{{TarqLPSolutionOptimal, LPOptimalSolution},
+                                                          {TarqLPSolutionInfeasible, LPInfeasible},
+                                                          {TarqLPSolutionUnbounded, LPUnbounded},
+                                                          {TarqLPSolutionPrimalFeasible, LPOnlyPrimalFeasible},
+                                                          {TarqLPSolutionDualFeasible, LPOnlyDualFeasible},
+                                                          {TarqLPSolutionNoneFeasible, LPInfeasible}}};
+constexpr Meanings<TARQSolutionStatusTyp, 3> ipSolutions{{{TarqIPSolutionOptimal, IPOptimalSolution},
+                                                          {TarqIPSolutionSuboptimal, IPSubOptimalSolution},
+                                                          {TarqIPSolutionNone, IPNoSolution}}};
 
 template <class Published, std::size_t size>
 Published published(const Meanings<Published, size>& meanings, std::int32_t code, Published otherwise) {

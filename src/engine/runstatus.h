@@ -4,32 +4,26 @@
 
 #include <cstdint>
 
+#include "tarq/engine.h"
 #include "tarq/interfaces/enumerations.h"
 
 namespace tarq {
 
-/// Results of OptimizeLP and OptimizeIP that leave something to fetch.
-namespace stageresult {
-inline constexpr std::int32_t solved = 0;
-inline constexpr std::int32_t limitReached = 1;
-inline constexpr std::int32_t stoppedAtBreak = 999;
-}  // namespace stageresult
-
-/// True for every other result: the run can't go on.
+/// Whether a stage failed: it has left nothing to fetch, and the run can't go on.
 [[nodiscard]] constexpr bool isCrucial(std::int32_t result) {
-    return result != stageresult::solved && result != stageresult::limitReached &&
-           result != stageresult::stoppedAtBreak;
+    return result != TarqSuccess && result != TarqLimitReached && result != TarqStoppedAtBreak;
 }
 
-/// What a crucial result means.
+/// What a crucial result of OptimizeLP or OptimizeIP means.
 [[nodiscard]] TARQSolverStatusTyp lpErrorStatus(std::int32_t result);
 [[nodiscard]] TARQSolverStatusTyp ipErrorStatus(std::int32_t result);
 
-/// Which limit ended a stage: by the value of xertyp for the LP, by the stop reason of OptimizeIP.
+/// Which limit ended a stage: by the value of xertyp (a TarqLPLimit), by the stop reason of OptimizeIP (a
+/// TarqIPStopReason).
 [[nodiscard]] TARQSolverStatusTyp lpLimitStatus(std::int32_t xertyp);
 [[nodiscard]] TARQSolverStatusTyp ipLimitStatus(std::int32_t stopReason);
 
-/// What the status of GetLPSolution or GetIPSolution says of the solution.
+/// What the status of GetLPSolution (a TarqLPSolution) or GetIPSolution (a TarqIPSolution) says of the solution.
 [[nodiscard]] TARQSolutionStatusTyp lpSolutionStatus(std::int32_t status);
 [[nodiscard]] TARQSolutionStatusTyp ipSolutionStatus(std::int32_t status);
 

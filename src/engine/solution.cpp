@@ -7,26 +7,21 @@ namespace {
 
 // Reads one field of the record that an address leads to, once the guard has let the caller through.
 template <class Field>
-Outcome readColumn(Status guard, const SolvedModel& model, const Variant& address, Field ColumnRecord::*field,
-                   Field& value) {
-    if (!guard.isOk()) return guard;
+Result<Field> readColumn(Status guard, const SolvedModel& model, const Variant& address, Field ColumnRecord::*field) {
+    TARQ_TRY(guard);
     std::int32_t position = 0;
-    Outcome resolved = resolveColumn(model.store, address, position);
-    if (!resolved.isOk()) return resolved;
+    TARQ_TRY(resolveColumn(model.store, address, position));
     const auto held = model.store.gate().edit();
-    value = readShared(model.store.column(position).*field);
-    return resolved;
+    return readShared(model.store.column(position).*field);
 }
 
 template <class Field>
-Outcome readRow(Status guard, const SolvedModel& model, const Variant& address, Field RowRecord::*field, Field& value) {
-    if (!guard.isOk()) return guard;
+Result<Field> readRow(Status guard, const SolvedModel& model, const Variant& address, Field RowRecord::*field) {
+    TARQ_TRY(guard);
     std::int32_t position = 0;
-    Outcome resolved = resolveRow(model.store, address, position);
-    if (!resolved.isOk()) return resolved;
+    TARQ_TRY(resolveRow(model.store, address, position));
     const auto held = model.store.gate().edit();
-    value = readShared(model.store.row(position).*field);
-    return resolved;
+    return readShared(model.store.row(position).*field);
 }
 
 }  // namespace
@@ -50,36 +45,36 @@ Status lpGuard(const SolutionSummary& summary) { return hasLpSolution(summary) ?
 
 Status ipGuard(const SolutionSummary& summary) { return hasIpSolution(summary) ? status::ok : status::noIpSolution; }
 
-Outcome columnLpValue(const SolvedModel& model, const Variant& column, double& value) {
-    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::lpValue, value);
+Result<double> columnLpValue(const SolvedModel& model, const Variant& column) {
+    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::lpValue);
 }
 
-Outcome columnReducedCost(const SolvedModel& model, const Variant& column, double& value) {
-    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::reducedCost, value);
+Result<double> columnReducedCost(const SolvedModel& model, const Variant& column) {
+    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::reducedCost);
 }
 
-Outcome columnStatus(const SolvedModel& model, const Variant& column, TARQColRowStatusType& value) {
-    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::status, value);
+Result<TARQColRowStatusType> columnStatus(const SolvedModel& model, const Variant& column) {
+    return readColumn(lpGuard(model.summary), model, column, &ColumnRecord::status);
 }
 
-Outcome rowLpValue(const SolvedModel& model, const Variant& row, double& value) {
-    return readRow(lpGuard(model.summary), model, row, &RowRecord::lpValue, value);
+Result<double> rowLpValue(const SolvedModel& model, const Variant& row) {
+    return readRow(lpGuard(model.summary), model, row, &RowRecord::lpValue);
 }
 
-Outcome rowDual(const SolvedModel& model, const Variant& row, double& value) {
-    return readRow(lpGuard(model.summary), model, row, &RowRecord::dual, value);
+Result<double> rowDual(const SolvedModel& model, const Variant& row) {
+    return readRow(lpGuard(model.summary), model, row, &RowRecord::dual);
 }
 
-Outcome rowStatus(const SolvedModel& model, const Variant& row, TARQColRowStatusType& value) {
-    return readRow(lpGuard(model.summary), model, row, &RowRecord::status, value);
+Result<TARQColRowStatusType> rowStatus(const SolvedModel& model, const Variant& row) {
+    return readRow(lpGuard(model.summary), model, row, &RowRecord::status);
 }
 
-Outcome columnIpValue(const SolvedModel& model, const Variant& column, double& value) {
-    return readColumn(ipGuard(model.summary), model, column, &ColumnRecord::ipValue, value);
+Result<double> columnIpValue(const SolvedModel& model, const Variant& column) {
+    return readColumn(ipGuard(model.summary), model, column, &ColumnRecord::ipValue);
 }
 
-Outcome rowIpValue(const SolvedModel& model, const Variant& row, double& value) {
-    return readRow(ipGuard(model.summary), model, row, &RowRecord::ipValue, value);
+Result<double> rowIpValue(const SolvedModel& model, const Variant& row) {
+    return readRow(ipGuard(model.summary), model, row, &RowRecord::ipValue);
 }
 
 }  // namespace tarq

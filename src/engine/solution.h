@@ -1,12 +1,13 @@
 // What clients fetch of a solution: the values of columns and rows that a run left in the model store.
 //
 // Each getter is guarded by the status of the latest run. While the guard fails it answers noLpSolution or
-// noIpSolution, both success codes, without looking at the address. Only a getter that returns 0 writes its output.
+// noIpSolution, both success codes, without looking at the address.
 // Values may be read during a run and are then either the old or the new ones. LPInfeasible and LPUnbounded fail the
 // guard although values of an earlier run may still be there.
 #pragma once
 
 #include "engine/run.h"
+#include "frame/result.h"
 #include "model/modelstore.h"
 #include "tarq/frame/status.h"
 #include "tarq/frame/variant.h"
@@ -29,17 +30,17 @@ struct SolvedModel {
     const SolutionSummary& summary;
 };
 
-/// LP guard. `column` and `row` are a 1-based number or a name, as everywhere; their failures are those of
-/// resolveColumn and resolveRow.
-[[nodiscard]] Outcome columnLpValue(const SolvedModel& model, const Variant& column, double& value);
-[[nodiscard]] Outcome columnReducedCost(const SolvedModel& model, const Variant& column, double& value);
-[[nodiscard]] Outcome columnStatus(const SolvedModel& model, const Variant& column, TARQColRowStatusType& value);
-[[nodiscard]] Outcome rowLpValue(const SolvedModel& model, const Variant& row, double& value);
-[[nodiscard]] Outcome rowDual(const SolvedModel& model, const Variant& row, double& value);
-[[nodiscard]] Outcome rowStatus(const SolvedModel& model, const Variant& row, TARQColRowStatusType& value);
+/// The value of a column or row, behind the LP guard. The address is a 1-based number or a name, as everywhere; its
+/// failures are those of resolveColumn and resolveRow.
+[[nodiscard]] Result<double> columnLpValue(const SolvedModel& model, const Variant& column);
+[[nodiscard]] Result<double> columnReducedCost(const SolvedModel& model, const Variant& column);
+[[nodiscard]] Result<TARQColRowStatusType> columnStatus(const SolvedModel& model, const Variant& column);
+[[nodiscard]] Result<double> rowLpValue(const SolvedModel& model, const Variant& row);
+[[nodiscard]] Result<double> rowDual(const SolvedModel& model, const Variant& row);
+[[nodiscard]] Result<TARQColRowStatusType> rowStatus(const SolvedModel& model, const Variant& row);
 
-/// IP guard.
-[[nodiscard]] Outcome columnIpValue(const SolvedModel& model, const Variant& column, double& value);
-[[nodiscard]] Outcome rowIpValue(const SolvedModel& model, const Variant& row, double& value);
+/// The same behind the IP guard.
+[[nodiscard]] Result<double> columnIpValue(const SolvedModel& model, const Variant& column);
+[[nodiscard]] Result<double> rowIpValue(const SolvedModel& model, const Variant& row);
 
 }  // namespace tarq

@@ -28,7 +28,7 @@ protected:
     // A run that is still under way would call a test that is gone.
     ~BackgroundRunTest() override { (void)unadviseFinished(*model.get(), cookie); }
 
-    /// Uses an engine that plays `run` (see playedengine.cpp) instead of solving.
+    /// Uses an engine that plays `run` (see scriptedengine.h) instead of solving.
     void play(const char* run) {
         ASSERT_EQ(setenv("PLAYED_RUN", run, 1), 0);
         ASSERT_THAT(model->put_LocationOfTARQDLL(PLAYED_ENGINE), succeeds());

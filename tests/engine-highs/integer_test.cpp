@@ -6,113 +6,114 @@
 
 namespace tarq::test {
 
-using testing::DoubleNear;
 using testing::ElementsAre;
 
-class IntegerTest : public EngineTest {};
+using IntegerTest = EngineTest;
 
 // A knapsack: max 10x + 13y + 7z, 3x + 4y + 2z <= 6 and binary; the best is 20 with y and z.
 TestModel knapsack(double sign = 1.0) {
     return TestModel{}
-        .column(0, 1, 10 * sign, 2)
-        .column(0, 1, 13 * sign, 2)
-        .column(0, 1, 7 * sign, 2)
+        .column(0, 1, 10 * sign, TarqBinaryColumn)
+        .column(0, 1, 13 * sign, TarqBinaryColumn)
+        .column(0, 1, 7 * sign, TarqBinaryColumn)
         .row(-infinite, {3, 4, 2}, 6);
 }
 
 TEST_F(IntegerTest, OptimumHasTheSignOfTheClientsObjective) {
-    struct Case {
-        const char* direction;
-        double sign;
-    };
-    for (const Case& direction : {Case{"xminmx='max'", 1.0}, Case{"xminmx='min'", -1.0}}) {
+    for (const double sign : {1.0, -1.0}) {
+        const std::string direction = sign > 0 ? "xminmx='max'" : "xminmx='min'";
         for (const char* presolve : {"xnopre=0", "xnopre=1"}) {
-            const StageResult best = optimizeIp(knapsack(direction.sign), {direction.direction, presolve, "xheutp=0"});
-            EXPECT_EQ(best.result, 0) << message();
-            EXPECT_EQ(best.solutionStatus, 0);
-            EXPECT_NEAR(best.objective, 20 * direction.sign, 1e-9);
-            EXPECT_NEAR(best.solutionObjective, 20 * direction.sign, 1e-9);
-            EXPECT_NEAR(best.bestPossible, 20 * direction.sign, 1e-9);
+            const StageResult best = optimizeIp(knapsack(sign), {direction, presolve, "xheutp=0"});
+            EXPECT_EQ(best.result, TarqSuccess) << message();
+            EXPECT_EQ(best.solutionStatus, TarqIPSolutionOptimal);
             EXPECT_THAT(best.values, ElementsAre(0, 1, 1, 6));
-            EXPECT_NEAR(number("xipfun"), 20 * direction.sign, 1e-9);
-            EXPECT_NEAR(number("xzbest"), -20, 1e-9);
-            EXPECT_NEAR(number("xzlbnd"), -20, 1e-9);
-            EXPECT_NEAR(number("xzubnd"), -20, 1e-9);
+            for (const double told : {best.objective, best.solutionObjective, best.bestPossible, number("xipfun")}) {
+                EXPECT_NEAR(told, 20 * sign, 1e-9);
+            }
+            for (const char* name : {"xzbest", "xzlbnd", "xzubnd"}) EXPECT_NEAR(number(name), -20, 1e-9);
             EXPECT_NEAR(number("xcmgap"), 0, 1e-9);
             EXPECT_GE(number("xnints"), 1);
         }
     }
 }
 
-TEST_F(IntegerTest, NoIntegerPointIsToldWithoutASolution) {
-    const TestModel model = TestModel{}.column(0, 10, 1, 1).column(0, 10, 1, 1).row(1, {2, 2}, 1);
+TEST_F(IntegerTest, NoIntegerPointIsToldAndBoundsHold) {
+    const TestModel model =
+        TestModel{}.column(0, 10, 1, TarqIntegerColumn).column(0, 10, 1, TarqIntegerColumn).row(1, {2, 2}, 1);
     const StageResult none = optimizeIp(model);
-    EXPECT_EQ(none.result, 0);
-    EXPECT_EQ(none.solutionStatus, 4);
+    EXPECT_EQ(none.result, TarqSuccess);
+    EXPECT_EQ(none.solutionStatus, TarqIPSolutionNone);
     EXPECT_EQ(number("xzbest"), 1e20);
-}
-
-TEST_F(IntegerTest, IntegerColumnsKeepTheirOwnBounds) {
-    // A binary with bounds of its own, and fractional bounds.
-    const TestModel model = TestModel{}.column(0, 3, -1, 2).column(0.5, 2.7, -1, 1).row(-infinite, {1, 1}, 10);
-    EXPECT_THAT(optimizeIp(model).values, ElementsAre(3, 2, 5));
+    // Columns keep bounds of their own, a binary one too, and fractional ones.
+    const TestModel bounded = TestModel{}
+                                  .column(0, 3, -1, TarqBinaryColumn)
+                                  .column(0.5, 2.7, -1, TarqIntegerColumn)
+                                  .row(-infinite, {1, 1}, 10);
+    EXPECT_THAT(optimizeIp(bounded).values, ElementsAre(3, 2, 5));
 }
 
 TEST_F(IntegerTest, OnlySolutionsBetterThanTheCutOffCount) {
-    struct Case {
-        const char* bound;
-        int status;
-    };
-    for (const Case& bound : {Case{"xipbnd=20", 4}, Case{"xipbnd=25", 4}, Case{"xipbnd=19", 0}, Case{"xipbnd=-1e20", 0},
-                              Case{"xipbnd=1e20", 0}}) {
-        const StageResult best = optimizeIp(knapsack(), {"xminmx='max'", bound.bound});
-        EXPECT_EQ(best.result, 0) << bound.bound;
-        EXPECT_EQ(best.solutionStatus, bound.status) << bound.bound;
-        EXPECT_EQ(best.integerSolutions > 0, bound.status == 0) << bound.bound;
+    for (const char* tooGood : {"xipbnd=20", "xipbnd=25"}) {
+        const StageResult none = optimizeIp(knapsack(), {"xminmx='max'", tooGood});
+        EXPECT_EQ(none.result, TarqSuccess);
+        EXPECT_EQ(none.solutionStatus, TarqIPSolutionNone);
+        EXPECT_EQ(none.integerSolutions, 0);
     }
-    EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-20"}).solutionStatus, 4);
-    EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-19.5"}).solutionStatus, 0);
+    for (const char* bound : {"xipbnd=19", "xipbnd=-1e20", "xipbnd=1e20"}) {
+        const StageResult best = optimizeIp(knapsack(), {"xminmx='max'", bound});
+        EXPECT_EQ(best.solutionStatus, TarqIPSolutionOptimal) << bound;
+        EXPECT_GT(best.integerSolutions, 0);
+    }
+    EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-20"}).solutionStatus, TarqIPSolutionNone);
+    EXPECT_EQ(optimizeIp(knapsack(-1), {"xipbnd=-19.5"}).solutionStatus, TarqIPSolutionOptimal);
 }
 
 // With its integers held, a solution is that of an LP, whose duals are delivered.
 TEST_F(IntegerTest, DualsAreThoseOfTheLpWithIntegersHeld) {
-    TestModel model =
-        TestModel{}.column(0, 5, -3, 1).column(0, infinite, -2).row(-infinite, {2, 1}, 7.5).row(-infinite, {-1, 1}, 1);
+    TestModel model = TestModel{}
+                          .column(0, 5, -3, TarqIntegerColumn)
+                          .column(0, infinite, -2)
+                          .row(-infinite, {2, 1}, 7.5)
+                          .row(-infinite, {-1, 1}, 1);
     const StageResult best = optimizeIp(model);
-    ASSERT_EQ(best.solutionStatus, 0);
+    ASSERT_EQ(best.solutionStatus, TarqIPSolutionOptimal);
     EXPECT_THAT(best.values, ElementsAre(2, 3, 7, 1));
     EXPECT_THAT(best.reducedCosts, ElementsAre(-5, 0, 0, -2));
-    EXPECT_THAT(best.states, ElementsAre(4, 1, 1, 3));
+    EXPECT_THAT(best.states, ElementsAre(TarqFixed, TarqBasic, TarqBasic, TarqAtUpperBound));
     model.rowUpper[1] += 0.1;
     EXPECT_NEAR(optimizeIp(model).objective, best.objective - 0.2, 1e-9);
 }
 
 TEST_F(IntegerTest, LimitsEndBranchAndBoundWithWhatItHas) {
     struct Case {
-        std::vector<std::string> parameters;
+        Parameters parameters;
         std::int32_t frequency;
         std::int32_t result;
         std::int32_t stopReason;
     };
-    const std::vector<Case> cases{
-        {{"xmxnod=20"}, -1, 1, 6},  {{"xmxmin=0.01"}, -1, 1, 3},  // 0.6 seconds
-        {{"xmxint=1"}, -1, 1, 10},  {{"xmxint=0"}, -1, 1, 10},    {{}, 20, 999, 0},
-        {{"xmxnod=20"}, 500, 1, 6}, {{"xmxnod=500"}, 20, 999, 0}, {{"xmxnod=0"}, -1, 1, 6},
+    constexpr auto none = TarqNoNodeBreak;
+    const Case cases[] = {
+        {{"xmxnod=20"}, none, TarqLimitReached, TarqIPNodeLimit},
+        {{"xmxnod=0"}, none, TarqLimitReached, TarqIPNodeLimit},
+        {{"xmxnod=20"}, 500, TarqLimitReached, TarqIPNodeLimit},
+        {{"xmxmin=0.01"}, none, TarqLimitReached, TarqIPTimeLimit},  // 0.6 seconds
+        {{"xmxint=1"}, none, TarqLimitReached, TarqIPSolutionLimit},
+        {{"xmxint=0"}, none, TarqLimitReached, TarqIPSolutionLimit},
+        {{}, 20, TarqStoppedAtBreak, TarqIPOtherLimit},
+        {{"xmxnod=500"}, 20, TarqStoppedAtBreak, TarqIPOtherLimit},
     };
     for (const Case& limit : cases) {
         SCOPED_TRACE(testing::PrintToString(limit.parameters));
-        ASSERT_EQ(optimizeLp(hardIp(), limit.parameters).result, 0);
+        ASSERT_EQ(optimizeLp(hardIp(), limit.parameters).result, TarqSuccess);
         const StageResult best = solveIp(limit.frequency);
         EXPECT_EQ(best.result, limit.result) << message();
         EXPECT_EQ(best.stopReason, limit.stopReason);
-        if (limit.stopReason != 3) {
-            EXPECT_LE(best.iterations, 700);
-        }
-        if (best.solutionStatus == 4) {
+        EXPECT_LE(best.iterations, limit.stopReason == TarqIPTimeLimit ? 1e9 : 700);
+        if (best.solutionStatus == TarqIPSolutionNone) {
             EXPECT_EQ(best.integerSolutions, 0);
             continue;
         }
-        EXPECT_EQ(best.solutionStatus, 3);
+        EXPECT_EQ(best.solutionStatus, TarqIPSolutionSuboptimal);
         EXPECT_GE(best.integerSolutions, 1);
         EXPECT_LE(best.bestPossible, best.objective);
         for (std::size_t column = 0; column < 30; ++column) {
@@ -123,10 +124,10 @@ TEST_F(IntegerTest, LimitsEndBranchAndBoundWithWhatItHas) {
 
 // What HiGHS holds then is the point of the LP, here an integral one and here a fractional one.
 TEST_F(IntegerTest, AStageThatEndsBeforeItsStartHasNoSolution) {
-    const TestModel integral = TestModel{}.column(0, 3, -1, 1).row(-infinite, {1}, 5);
+    const TestModel integral = TestModel{}.column(0, 3, -1, TarqIntegerColumn).row(-infinite, {1}, 5);
     for (const char* limit : {"xmxint=0", "xmxmin=0"}) {
         for (const TestModel& model : {integral, knapsack(-1)}) {
-            EXPECT_EQ(optimizeIp(model, {limit}).solutionStatus, 4) << limit;
+            EXPECT_EQ(optimizeIp(model, {limit}).solutionStatus, TarqIPSolutionNone) << limit;
             EXPECT_EQ(message(), "") << limit;
         }
     }
@@ -138,15 +139,15 @@ TEST_F(IntegerTest, RowsWithoutBoundsChangeNothing) {
     for (int row = 0; row < 40; ++row) model.row(-infinite, {1, 1}, infinite);
     optimizeLp(model, {"xnopre=0", "xmxnod=20"});
     const StageResult best = solveIp();
-    EXPECT_EQ(best.stopReason, 6);
+    EXPECT_EQ(best.stopReason, TarqIPNodeLimit);
     EXPECT_EQ(best.values.back(), best.values[0] + best.values[1]);
 }
 
 TEST_F(IntegerTest, EachRunHasItsWholeTime) {
-    ASSERT_EQ(optimizeLp(hardIp(), {"xmxmin=0.01", "xmxtlp=0.01"}).result, 0);
+    ASSERT_EQ(optimizeLp(hardIp(), {"xmxmin=0.01", "xmxtlp=0.01"}).result, TarqSuccess);
     for (int run = 0; run < 3; ++run) {
         const StageResult best = solveIp();
-        EXPECT_EQ(best.stopReason, 3);
+        EXPECT_EQ(best.stopReason, TarqIPTimeLimit);
         EXPECT_GE(number("xiptim"), 0.55) << "run " << run;
     }
 }
@@ -154,8 +155,8 @@ TEST_F(IntegerTest, EachRunHasItsWholeTime) {
 TEST_F(IntegerTest, GapsEndTheSearchEarly) {
     for (const char* gap : {"xglgap=1", "xabgap=1e6"}) {
         const StageResult best = optimizeIp(hardIp(), {gap, "xmxmin=1"});
-        EXPECT_EQ(best.result, 0) << gap;
-        EXPECT_EQ(best.solutionStatus, 0) << gap;
+        EXPECT_EQ(best.result, TarqSuccess) << gap;
+        EXPECT_EQ(best.solutionStatus, TarqIPSolutionOptimal) << gap;
         EXPECT_GT(best.objective, best.bestPossible) << gap;
     }
 }

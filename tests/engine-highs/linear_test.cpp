@@ -10,27 +10,26 @@ namespace tarq::test {
 
 using testing::DoubleNear;
 using testing::ElementsAre;
+using testing::Pointwise;
 
-class LinearTest : public EngineTest {};
+using LinearTest = EngineTest;
+
+auto basics(const StageResult& stage) { return std::ranges::count(stage.states, TarqBasic); }
 
 TEST_F(LinearTest, EveryAlgorithmFindsTheOptimum) {
     const TestModel dense = denseLp(25);
     const double expected = optimizeLp(dense).objective;
-    for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
-        for (const char* crossover : {"xipxov=0", "xipxov=1", "xipxov=2", "xipxov=3"}) {
-            for (const char* other : {"xrduce=0", "xrduce=2", "xscale=0", "xdjscl=3", "xfrinv=20"}) {
-                SCOPED_TRACE(fmt::format("{} {} {}", algorithm, crossover, other));
-                const StageResult small = optimizeLp(smallLp(), {algorithm, crossover, other});
-                EXPECT_EQ(small.result, 0) << message();
-                EXPECT_EQ(small.solutionStatus, 0);
-                EXPECT_THAT(small.values, ElementsAre(DoubleNear(3, 1e-6), DoubleNear(1, 1e-6), DoubleNear(4, 1e-6),
-                                                      DoubleNear(6, 1e-6)));
-                EXPECT_NEAR(small.solutionObjective, -5, 1e-6);
-                const StageResult large = optimizeLp(dense, {algorithm, crossover, other});
-                EXPECT_EQ(large.solutionStatus, 0);
-                EXPECT_NEAR(large.objective, expected, 1e-6 * std::abs(expected));
-            }
-        }
+    for (const Parameters& parameters : combinations({{"xlptyp=0", "xlptyp=2", "xlptyp=4"},
+                                                      {"xipxov=0", "xipxov=1", "xipxov=2", "xipxov=3"},
+                                                      {"xrduce=0", "xrduce=2", "xscale=0", "xdjscl=3", "xfrinv=20"}})) {
+        SCOPED_TRACE(testing::PrintToString(parameters));
+        const StageResult small = optimizeLp(smallLp(), parameters);
+        EXPECT_EQ(small.solutionStatus, TarqLPSolutionOptimal) << message();
+        EXPECT_THAT(small.values, Pointwise(DoubleNear(1e-6), {3, 1, 4, 6}));
+        EXPECT_NEAR(small.solutionObjective, -5, 1e-6);
+        const StageResult large = optimizeLp(dense, parameters);
+        EXPECT_EQ(large.solutionStatus, TarqLPSolutionOptimal);
+        EXPECT_NEAR(large.objective, expected, 1e-6 * std::abs(expected));
     }
 }
 
@@ -47,35 +46,25 @@ TEST_F(LinearTest, InfeasibleAndUnboundedAreToldApart) {
                               .column(0, infinite, 1)
                               .row(0, {0, -3, 3}, 0);
     TestModel neither = TestModel{}.column(0, infinite, -1).column(0, infinite, 0).row(1, {0, 1}, 2).row(3, {0, 1}, 4);
-    for (const char* algorithm : {"xlptyp=0", "xlptyp=2", "xlptyp=4"}) {
-        for (const char* crossover : {"xipxov=0", "xipxov=2"}) {
-            for (const char* presolve : {"xrduce=0", "xrduce=2"}) {
-                SCOPED_TRACE(fmt::format("{} {} {}", algorithm, crossover, presolve));
-                const StageResult none = optimizeLp(infeasible, {algorithm, crossover, presolve});
-                EXPECT_EQ(none.result, 0);
-                EXPECT_EQ(none.lpStatus, 1);
-                EXPECT_EQ(none.solutionStatus, 1);
-                for (const TestModel& model : {unbounded, rowless, endlessly}) {
-                    const StageResult endless = optimizeLp(model, {algorithm, crossover, presolve});
-                    EXPECT_EQ(endless.result, 0);
-                    EXPECT_EQ(endless.lpStatus, 2);
-                    EXPECT_EQ(endless.solutionStatus, 2);
-                    EXPECT_LE(endless.iterations, 1000);
-                }
-                EXPECT_EQ(optimizeLp(neither, {algorithm, crossover, presolve}).lpStatus, 1);
-            }
-        }
+    for (const Parameters& parameters :
+         combinations({{"xlptyp=0", "xlptyp=2", "xlptyp=4"}, {"xipxov=0", "xipxov=2"}, {"xrduce=0", "xrduce=2"}})) {
+        SCOPED_TRACE(testing::PrintToString(parameters));
+        const auto isTold = [&](const TestModel& model, std::int32_t status) {
+            const StageResult told = optimizeLp(model, parameters);
+            EXPECT_EQ(told.result, TarqSuccess);
+            EXPECT_EQ(told.lpStatus, status);
+            EXPECT_EQ(told.solutionStatus, status);
+            EXPECT_LE(told.iterations, 1000);
+        };
+        for (const TestModel& model : {infeasible, neither}) isTold(model, TarqLPInfeasible);
+        for (const TestModel& model : {unbounded, rowless, endlessly}) isTold(model, TarqLPUnbounded);
     }
-}
-
-TEST_F(LinearTest, AnUnboundedRelaxationEndsInTheLpStage) {
-    const TestModel model = TestModel{}.column(0, infinite, -1, 1).row(0, {1}, infinite);
-    EXPECT_EQ(optimizeLp(model).lpStatus, 2);
+    const TestModel relaxed = TestModel{}.column(0, infinite, -1, TarqIntegerColumn).row(0, {1}, infinite);
+    EXPECT_EQ(optimizeLp(relaxed).lpStatus, TarqLPUnbounded);
 }
 
 TEST_F(LinearTest, DirectionDecidesTheSign) {
-    TestModel model = smallLp();
-    for (double& cost : model.cost) cost = -cost;
+    const TestModel model = smallLp().negateCosts();
     for (const char* direction : {"xminmx='max'", "xminmx='MAX'"}) {
         const StageResult largest = optimizeLp(model, {direction});
         EXPECT_NEAR(largest.objective, 5, 1e-9);
@@ -101,23 +90,20 @@ TEST_F(LinearTest, DualsAreDerivativesOfTheObjective) {
     };
     for (const bool maximize : {false, true}) {
         // With a time limit presolve and the way back are steps of their own; without crossover there is no basis.
-        const std::vector<std::vector<std::string>> algorithms{{"xlptyp=0"},
-                                                               {"xlptyp=2"},
-                                                               {"xlptyp=2", "xmxtlp=9"},
-                                                               {"xlptyp=4"},
-                                                               {"xlptyp=4", "xrduce=0"},
-                                                               {"xlptyp=4", "xipxov=0"},
-                                                               {"xlptyp=4", "xipxov=0", "xrduce=0"},
-                                                               {"xlptyp=4", "xipxov=0", "xmxtlp=9"}};
-        for (std::vector<std::string> parameters : algorithms) {
+        for (Parameters parameters : {Parameters{"xlptyp=0"},
+                                      {"xlptyp=2"},
+                                      {"xlptyp=2", "xmxtlp=9"},
+                                      {"xlptyp=4"},
+                                      {"xlptyp=4", "xrduce=0"},
+                                      {"xlptyp=4", "xipxov=0"},
+                                      {"xlptyp=4", "xipxov=0", "xrduce=0"},
+                                      {"xlptyp=4", "xipxov=0", "xmxtlp=9"}}) {
             SCOPED_TRACE(fmt::format("{} {}", testing::PrintToString(parameters), maximize));
             parameters.push_back(maximize ? "xminmx='max'" : "xminmx='min'");
             TestModel model = base();
-            if (maximize) {
-                for (double& cost : model.cost) cost = -cost;
-            }
+            if (maximize) model.negateCosts();
             const StageResult optimum = optimizeLp(model, parameters);
-            ASSERT_EQ(optimum.solutionStatus, 0);
+            ASSERT_EQ(optimum.solutionStatus, TarqLPSolutionOptimal);
             int tight = 0;
             for (std::size_t position = 0; position < optimum.values.size(); ++position) {
                 TestModel moved = model;
@@ -142,22 +128,20 @@ TEST_F(LinearTest, ReducedCostsFollowFromTheDuals) {
     std::swap(model.rowLower, model.rowUpper);
     for (double& lower : model.rowLower) lower = -infinite;
     model.column(0, infinite, 3).row(-infinite, {0, 1, 0, 0, 0, 0, 0, 0, 1}, 4);
-    for (const char* crossover : {"xipxov=0", "xipxov=2"}) {
-        for (const char* limit : {"xmxtlp=1e20", "xmxtlp=9"}) {
-            SCOPED_TRACE(fmt::format("{} {}", crossover, limit));
-            const StageResult optimum = optimizeLp(model, {"xlptyp=4", "xminmx='max'", crossover, limit});
-            ASSERT_EQ(optimum.solutionStatus, 0);
-            std::vector<double> expected = model.cost;
-            for (std::size_t nonzero = 0; nonzero < model.values.size(); ++nonzero) {
-                const std::size_t row = model.cost.size() + static_cast<std::size_t>(model.rowIndices[nonzero] - 1);
-                expected[static_cast<std::size_t>(model.columnIndices[nonzero] - 1)] -=
-                    model.values[nonzero] * optimum.reducedCosts[row];
-            }
-            for (std::size_t column = 0; column < expected.size(); ++column) {
-                EXPECT_NEAR(optimum.reducedCosts[column], expected[column], 1e-5) << "at " << column;
-            }
-            EXPECT_GT(optimum.reducedCosts[model.cost.size() + 8], 1);  // the last row holds the last column
+    for (const Parameters& parameters :
+         combinations({{"xlptyp=4"}, {"xminmx='max'"}, {"xipxov=0", "xipxov=2"}, {"xmxtlp=1e20", "xmxtlp=9"}})) {
+        SCOPED_TRACE(testing::PrintToString(parameters));
+        const StageResult optimum = optimizeLp(model, parameters);
+        ASSERT_EQ(optimum.solutionStatus, TarqLPSolutionOptimal);
+        std::vector<double> expected = model.cost;
+        for (std::size_t nonzero = 0; nonzero < model.values.size(); ++nonzero) {
+            const std::size_t row = model.cost.size() + static_cast<std::size_t>(model.rowIndices[nonzero] - 1);
+            expected[static_cast<std::size_t>(model.columnIndices[nonzero] - 1)] -=
+                model.values[nonzero] * optimum.reducedCosts[row];
         }
+        EXPECT_GT(optimum.reducedCosts[model.cost.size() + 8], 1);  // the last row holds the last column
+        EXPECT_THAT(std::vector(optimum.reducedCosts.begin(), optimum.reducedCosts.begin() + model.columns),
+                    Pointwise(DoubleNear(1e-5), expected));
     }
 }
 
@@ -173,41 +157,37 @@ TEST_F(LinearTest, StatesAreThePublishedOnes) {
                                 .row(3, {1, 0, 0, 1, 0}, 3);
     for (const char* presolve : {"xrduce=0", "xrduce=2"}) {
         const StageResult optimum = optimizeLp(model, {presolve});
-        ASSERT_EQ(optimum.solutionStatus, 0);
-        EXPECT_EQ(optimum.states[0], 3);
-        EXPECT_EQ(optimum.states[1], 2);
-        EXPECT_EQ(optimum.states[2], 4);
-        EXPECT_EQ(optimum.states[4], 1);
-        EXPECT_EQ(optimum.states[5], 3);
-        EXPECT_EQ(optimum.states[6], 1);
+        ASSERT_EQ(optimum.solutionStatus, TarqLPSolutionOptimal);
+        EXPECT_THAT(optimum.states, ElementsAre(TarqAtUpperBound, TarqAtLowerBound, TarqFixed, testing::_, TarqBasic,
+                                                TarqAtUpperBound, TarqBasic, testing::_));
         // A basis has as many basic members as there are rows.
-        EXPECT_EQ(std::count(optimum.states.begin(), optimum.states.end(), 1), 3);
+        EXPECT_EQ(basics(optimum), 3);
     }
     // Without a basis a value between its bounds is superbasic.
     const StageResult interior = optimizeLp(denseLp(5), {"xlptyp=4", "xipxov=0", "xrduce=0"});
-    EXPECT_EQ(std::count(interior.states.begin(), interior.states.end(), 1), 0);
-    EXPECT_GT(std::count(interior.states.begin(), interior.states.end(), 5), 0);
-    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, infinite, 0)).states.at(0), 5);
+    EXPECT_EQ(basics(interior), 0);
+    EXPECT_GT(std::ranges::count(interior.states, TarqSuperbasic), 0);
+    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, infinite, 0)).states.at(0), TarqSuperbasic);
 }
 
 TEST_F(LinearTest, ModelsWithoutRowsOrColumnsAreSolved) {
     const StageResult noRows = optimizeLp(TestModel{}.column(-2, 5, 3));
-    EXPECT_EQ(noRows.solutionStatus, 0);
+    EXPECT_EQ(noRows.solutionStatus, TarqLPSolutionOptimal);
     EXPECT_THAT(noRows.values, ElementsAre(-2));
-    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, 5, 3)).lpStatus, 2);
+    EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, 5, 3)).lpStatus, TarqLPUnbounded);
     const StageResult noColumns = optimizeLp(TestModel{}.row(-1, {}, 1));
-    EXPECT_EQ(noColumns.solutionStatus, 0);
-    EXPECT_THAT(noColumns.states, ElementsAre(1));
-    EXPECT_EQ(optimizeLp(TestModel{}.row(1, {}, 2)).lpStatus, 1);
-    EXPECT_EQ(optimizeLp(TestModel{}).solutionStatus, 0);
-    EXPECT_EQ(optimizeLp(TestModel{}.column(0, 1, -1, 1)).solutionStatus, 0);
+    EXPECT_EQ(noColumns.solutionStatus, TarqLPSolutionOptimal);
+    EXPECT_THAT(noColumns.states, ElementsAre(TarqBasic));
+    EXPECT_EQ(optimizeLp(TestModel{}.row(1, {}, 2)).lpStatus, TarqLPInfeasible);
+    EXPECT_EQ(optimizeLp(TestModel{}).solutionStatus, TarqLPSolutionOptimal);
+    EXPECT_EQ(optimizeLp(TestModel{}.column(0, 1, -1, TarqIntegerColumn)).solutionStatus, TarqLPSolutionOptimal);
     EXPECT_NEAR(solveIp().objective, -1, 1e-9);
 }
 
 TEST_F(LinearTest, ElementsBelowTheDropToleranceAreLeftOut) {
     const TestModel model = TestModel{}.column(0, infinite, -1).row(-infinite, {1e-6}, 1);
     EXPECT_NEAR(optimizeLp(model, {"xdropm=1e-7"}).objective, -1e6, 1e-3);
-    EXPECT_EQ(optimizeLp(model, {"xdropm=1e-5"}).lpStatus, 2);
+    EXPECT_EQ(optimizeLp(model, {"xdropm=1e-5"}).lpStatus, TarqLPUnbounded);
 }
 
 TEST_F(LinearTest, RunsRepeatWithOtherThreadsAndTheSameOutcome) {
@@ -215,15 +195,10 @@ TEST_F(LinearTest, RunsRepeatWithOtherThreadsAndTheSameOutcome) {
         EXPECT_NEAR(optimizeLp(smallLp(), {threads}).objective, -5, 1e-9) << message();
     }
     // One model, several stages: each starts from the beginning.
-    ASSERT_EQ(put(smallLp()), 0);
-    EXPECT_EQ(solveLp().result, 0);
     EXPECT_NEAR(solveLp().objective, -5, 1e-9);
     // So do the options: after a stage without crossover one with it.
-    const auto basics = [](const StageResult& stage) {
-        return std::count(stage.states.begin(), stage.states.end(), 1);
-    };
     EXPECT_EQ(basics(optimizeLp(denseLp(25), {"xlptyp=4", "xipxov=0"})), 0);
-    ASSERT_EQ(set("xipxov=2"), 0);
+    ASSERT_EQ(set("xipxov=2"), TarqSuccess);
     EXPECT_EQ(basics(solveLp()), 25);
 }
 

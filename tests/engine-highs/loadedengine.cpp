@@ -1,7 +1,5 @@
 #include "loadedengine.h"
 
-#include <dlfcn.h>
-
 #include <charconv>
 #include <random>
 
@@ -11,15 +9,22 @@ namespace {
 
 std::function<void()> callbackAction;
 
-void callAction() { callbackAction(); }
-
-std::size_t entries(std::int32_t rows, std::int32_t columns) {
-    return static_cast<std::size_t>(rows) + static_cast<std::size_t>(columns);
-}
-
 }  // namespace
 
+std::vector<Parameters> combinations(const std::vector<Parameters>& lists) {
+    std::vector<Parameters> all{{}};
+    for (const Parameters& list : lists) {
+        std::vector<Parameters> longer;
+        for (const Parameters& begun : all) {
+            for (const std::string& value : list) longer.emplace_back(begun).push_back(value);
+        }
+        all = std::move(longer);
+    }
+    return all;
+}
+
 TestModel& TestModel::column(double lower, double upper, double price, std::int32_t kind) {
+    ++columns;
     columnLower.push_back(lower);
     columnUpper.push_back(upper);
     cost.push_back(price);
@@ -28,45 +33,37 @@ TestModel& TestModel::column(double lower, double upper, double price, std::int3
 }
 
 TestModel& TestModel::row(double lower, const std::vector<double>& coefficients, double upper) {
+    ++rows;
     rowLower.push_back(lower);
     rowUpper.push_back(upper);
-    for (std::size_t position = 0; position < coefficients.size(); ++position) {
-        if (coefficients[position] == 0.0) continue;
-        rowIndices.push_back(rows());
-        columnIndices.push_back(static_cast<std::int32_t>(position) + 1);
-        values.push_back(coefficients[position]);
+    std::int32_t column = 0;
+    for (const double coefficient : coefficients) {
+        ++column;
+        if (coefficient == 0.0) continue;
+        ++nonzeros;
+        rowIndices.push_back(rows);
+        columnIndices.push_back(column);
+        values.push_back(coefficient);
     }
     return *this;
 }
 
-void* EngineTest::symbol(const char* name) {
-    static void* const library = dlopen(TARQ_ENGINE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    return library ? dlsym(library, name) : nullptr;
+TestModel& TestModel::negateCosts() {
+    for (double& price : cost) price = -price;
+    return *this;
 }
-
-void EngineTest::SetUp() {
-    ASSERT_NE(symbol("Initialize"), nullptr) << dlerror();
-    startAnew();
-}
-
-void EngineTest::TearDown() { EXPECT_EQ(operation<decltype(FreeMemory)>("FreeMemory")(), 0); }
 
 void EngineTest::startAnew() {
-    operation<decltype(FreeMemory)>("FreeMemory")();
-    EXPECT_EQ(operation<decltype(Initialize)>("Initialize")(), 0);
+    ::FreeMemory();
+    EXPECT_EQ(::Initialize(), TarqSuccess);
 }
 
-std::int32_t EngineTest::set(const std::string& assignment) const {
-    return operation<decltype(SetParameter)>("SetParameter")(assignment.c_str());
+std::string EngineTest::get(const std::string& name) {
+    char buffer[TarqTextSize] = "?";
+    return ::GetParameter(name.c_str(), buffer) == TarqSuccess ? buffer : "";
 }
 
-std::string EngineTest::get(const std::string& name) const {
-    char buffer[255] = "?";
-    if (operation<decltype(GetParameter)>("GetParameter")(name.c_str(), buffer) != 0) return {};
-    return buffer;
-}
-
-double EngineTest::number(const std::string& name) const {
+double EngineTest::number(const std::string& name) {
     const std::string text = get(name);
     double value = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -79,59 +76,55 @@ std::int32_t EngineTest::put(const TestModel& model) {
     std::vector<double> upper = model.columnUpper;
     lower.insert(lower.end(), model.rowLower.begin(), model.rowLower.end());
     upper.insert(upper.end(), model.rowUpper.begin(), model.rowUpper.end());
-    rows_ = model.rows();
-    columns_ = model.columns();
-    return operation<decltype(PutModel)>("PutModel")(
-        0, infinite, rows_, columns_, static_cast<std::int32_t>(model.values.size()), model.rowIndices.data(),
-        model.columnIndices.data(), model.values.data(), lower.data(), upper.data(), model.cost.data(),
-        model.type.data());
+    entries_ = lower.size();
+    return ::PutModel(0, model.infinity, model.rows, model.columns, model.nonzeros, model.rowIndices.data(),
+                      model.columnIndices.data(), model.values.data(), lower.data(), upper.data(), model.cost.data(),
+                      model.type.data());
+}
+
+StageResult& EngineTest::fetch(StageResult& stage, decltype(::GetLPSolution)* getSolution) const {
+    stage.values.resize(entries_);
+    stage.reducedCosts.resize(entries_);
+    stage.states.resize(entries_);
+    EXPECT_EQ(getSolution(&stage.solutionStatus, &stage.solutionObjective, stage.values.data(),
+                          stage.reducedCosts.data(), stage.states.data()),
+              TarqSuccess);
+    return stage;
 }
 
 StageResult EngineTest::solveLp(std::int32_t iterationFrequency) const {
     StageResult stage;
-    double sum = 0.0;
-    stage.result = operation<decltype(OptimizeLP)>("OptimizeLP")(
-        iterationFrequency, &stage.iterations, &stage.infeasibilities, &stage.lpStatus, &stage.objective, &sum);
-    stage.values.resize(entries(rows_, columns_));
-    stage.reducedCosts.resize(stage.values.size());
-    stage.states.resize(stage.values.size());
-    EXPECT_EQ(operation<decltype(GetLPSolution)>("GetLPSolution")(&stage.solutionStatus, &stage.solutionObjective,
-                                                                  stage.values.data(), stage.reducedCosts.data(),
-                                                                  stage.states.data()),
-              0);
-    return stage;
+    stage.result = ::OptimizeLP(iterationFrequency, &stage.iterations, &stage.infeasibilities, &stage.lpStatus,
+                                &stage.objective, &stage.bestPossible);
+    return fetch(stage, ::GetLPSolution);
 }
 
 StageResult EngineTest::solveIp(std::int32_t nodeFrequency) const {
     StageResult stage;
-    stage.result =
-        operation<decltype(OptimizeIP)>("OptimizeIP")(nodeFrequency, &stage.iterations, &stage.integerSolutions,
-                                                      &stage.stopReason, &stage.objective, &stage.bestPossible);
-    stage.values.resize(entries(rows_, columns_));
-    stage.reducedCosts.resize(stage.values.size());
-    stage.states.resize(stage.values.size());
-    EXPECT_EQ(operation<decltype(GetIPSolution)>("GetIPSolution")(&stage.solutionStatus, &stage.solutionObjective,
-                                                                  stage.values.data(), stage.reducedCosts.data(),
-                                                                  stage.states.data()),
-              0);
-    return stage;
+    stage.result = ::OptimizeIP(nodeFrequency, &stage.iterations, &stage.integerSolutions, &stage.stopReason,
+                                &stage.objective, &stage.bestPossible);
+    return fetch(stage, ::GetIPSolution);
 }
 
-StageResult EngineTest::optimizeLp(const TestModel& model, const std::vector<std::string>& parameters) {
+void EngineTest::prepare(const TestModel& model, const Parameters& parameters) {
     startAnew();
-    for (const std::string& parameter : parameters) EXPECT_EQ(set(parameter), 0) << parameter;
-    EXPECT_EQ(put(model), 0) << message();
+    for (const std::string& parameter : parameters) EXPECT_EQ(set(parameter), TarqSuccess) << parameter;
+    EXPECT_EQ(put(model), TarqSuccess) << message();
+}
+
+StageResult EngineTest::optimizeLp(const TestModel& model, const Parameters& parameters) {
+    prepare(model, parameters);
     return solveLp();
 }
 
-StageResult EngineTest::optimizeIp(const TestModel& model, const std::vector<std::string>& parameters) {
-    EXPECT_EQ(optimizeLp(model, parameters).result, 0);
+StageResult EngineTest::optimizeIp(const TestModel& model, const Parameters& parameters) {
+    EXPECT_EQ(optimizeLp(model, parameters).result, TarqSuccess) << message();
     return solveIp();
 }
 
-void EngineTest::onCallback(std::function<void()> action) const {
+void EngineTest::onCallback(std::function<void()> action) {
     callbackAction = std::move(action);
-    operation<decltype(SetCallback)>("SetCallback")(callAction, 0);
+    ::SetCallback([] { callbackAction(); }, TarqModelWithIntegers);
 }
 
 TestModel smallLp() {
@@ -142,10 +135,9 @@ TestModel denseLp(int size) {
     std::mt19937 random(7);
     const auto draw = [&] { return 1.0 + static_cast<double>(random() % 1000) / 100.0; };
     TestModel model;
-    const auto columns = static_cast<std::size_t>(size);
-    for (std::size_t column = 0; column < columns; ++column) model.column(0, infinite, draw());
+    for (int column = 0; column < size; ++column) model.column(0, infinite, draw());
     for (int row = 0; row < size; ++row) {
-        std::vector<double> coefficients(columns);
+        std::vector<double> coefficients(model.cost.size());
         for (double& coefficient : coefficients) coefficient = draw();
         model.row(100.0 + draw(), coefficients, infinite);
     }
@@ -157,7 +149,7 @@ TestModel hardIp() {
     constexpr std::size_t equations = 3;
     std::mt19937 random(3);
     TestModel model;
-    for (std::size_t column = 0; column < binaries; ++column) model.column(0, 1, 0, 2);
+    for (std::size_t column = 0; column < binaries; ++column) model.column(0, 1, 0, TarqBinaryColumn);
     for (std::size_t column = 0; column < 2 * equations; ++column) model.column(0, infinite, 1);
     for (std::size_t row = 0; row < equations; ++row) {
         std::vector<double> coefficients(binaries + 2 * equations, 0.0);

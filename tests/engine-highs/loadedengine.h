@@ -1,4 +1,4 @@
-// The engine library as a client sees it: loaded by name, driven through its C interface.
+// The engine library as a client sees it: driven through its C interface.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -17,6 +17,10 @@ inline constexpr double infinite = 1e25;
 
 /// A model in the form PutModel takes it; built row by row.
 struct TestModel {
+    std::int32_t rows = 0;
+    std::int32_t columns = 0;
+    std::int32_t nonzeros = 0;
+    double infinity = infinite;
     std::vector<std::int32_t> rowIndices;
     std::vector<std::int32_t> columnIndices;
     std::vector<double> values;
@@ -27,12 +31,10 @@ struct TestModel {
     std::vector<double> cost;
     std::vector<std::int32_t> type;
 
-    TestModel& column(double lower, double upper, double price, std::int32_t kind = 0);
+    TestModel& column(double lower, double upper, double price, std::int32_t kind = TarqContinuousColumn);
     /// `coefficients` holds one value a column; zeros are left out.
     TestModel& row(double lower, const std::vector<double>& coefficients, double upper);
-
-    [[nodiscard]] std::int32_t columns() const { return static_cast<std::int32_t>(cost.size()); }
-    [[nodiscard]] std::int32_t rows() const { return static_cast<std::int32_t>(rowLower.size()); }
+    TestModel& negateCosts();
 };
 
 /// What one stage delivered: the operation's outputs, then those of Get..Solution.
@@ -44,7 +46,7 @@ struct StageResult {
     std::int32_t integerSolutions = 0;
     std::int32_t stopReason = 0;
     double objective = 0.0;
-    double bestPossible = 0.0;
+    double bestPossible = 0.0;  ///< sum of infeasibilities of an LP stage
     std::int32_t solutionStatus = -1;
     double solutionObjective = 0.0;
     std::vector<double> values;
@@ -52,41 +54,41 @@ struct StageResult {
     std::vector<std::int32_t> states;
 };
 
+using Parameters = std::vector<std::string>;
+
+/// One value of each list, in all ways.
+std::vector<Parameters> combinations(const std::vector<Parameters>& lists);
+
 /// A fixture with a fresh engine. All of it is for one thread, since a run is.
 class EngineTest : public testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    void SetUp() override { startAnew(); }
+    void TearDown() override { EXPECT_EQ(::FreeMemory(), TarqSuccess); }
 
     /// Ends the run that there may be, and starts the next one.
     static void startAnew();
 
-    std::int32_t set(const std::string& assignment) const;
+    static std::int32_t set(const std::string& assignment) { return ::SetParameter(assignment.c_str()); }
     /// Value of a parameter or result; the empty text when the engine refuses the name.
-    [[nodiscard]] std::string get(const std::string& name) const;
-    [[nodiscard]] double number(const std::string& name) const;
-    [[nodiscard]] std::string message() const { return get("xline1"); }
+    [[nodiscard]] static std::string get(const std::string& name);
+    [[nodiscard]] static double number(const std::string& name);
+    [[nodiscard]] static std::string message() { return get("xline1"); }
 
     std::int32_t put(const TestModel& model);
-    StageResult solveLp(std::int32_t iterationFrequency = 0) const;
-    StageResult solveIp(std::int32_t nodeFrequency = -1) const;
-    /// Starts anew, sets the parameters, and goes through the LP stage.
-    StageResult optimizeLp(const TestModel& model, const std::vector<std::string>& parameters = {});
-    StageResult optimizeIp(const TestModel& model, const std::vector<std::string>& parameters = {});
+    /// Starts anew, sets the parameters, and puts the model.
+    void prepare(const TestModel& model, const Parameters& parameters = {});
+    StageResult solveLp(std::int32_t iterationFrequency = TarqNoIterationBreak) const;
+    StageResult solveIp(std::int32_t nodeFrequency = TarqNoNodeBreak) const;
+    StageResult optimizeLp(const TestModel& model, const Parameters& parameters = {});
+    StageResult optimizeIp(const TestModel& model, const Parameters& parameters = {});
 
     /// Has `action` called at the engine's break points.
-    void onCallback(std::function<void()> action) const;
-
-    template <typename Operation>
-    [[nodiscard]] static Operation* operation(const char* name) {
-        return reinterpret_cast<Operation*>(symbol(name));
-    }
+    static void onCallback(std::function<void()> action);
 
 private:
-    static void* symbol(const char* name);
+    StageResult& fetch(StageResult& stage, decltype(::GetLPSolution)* getSolution) const;
 
-    std::int32_t rows_ = 0;
-    std::int32_t columns_ = 0;
+    std::size_t entries_ = 0;
 };
 
 /// min -x - 2y; x + y <= 4, x + 3y <= 6; 0 <= x <= 3: the optimum is -5 at (3, 1).

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <limits>
 #include <stdexcept>
 #include <thread>
 
@@ -27,25 +28,29 @@ HighsLp twoColumns() {
 }
 
 TEST(SolutionCheck, PointsAreJudgedByTheModel) {
-    struct Case {
-        const char* what;
-        std::vector<double> point;
-        bool feasible;
-    };
     const std::vector<HighsVarType> integrality{HighsVarType::kContinuous, HighsVarType::kInteger};
-    for (const Case& judged :
-         {Case{"inside", {0.5, 1}, true}, Case{"within tolerance", {-1e-7, 1.000001}, true},
-          Case{"below a bound", {-0.01, 1}, false}, Case{"above a bound", {3.01, 0}, false},
-          Case{"row too small", {0.5, 0}, false}, Case{"row too large", {3, 1}, false},
-          Case{"fractional", {1, 0.5}, false}, Case{"not a number", {kHighsInf - kHighsInf, 1}, false},
-          Case{"endless", {kHighsInf, 1}, false}, Case{"row overflows", {1, 1.7e308}, false},
-          Case{"too short", {1}, false}}) {
-        std::vector<double> rows;
-        const PointCheck check = checkPoint(twoColumns(), integrality, judged.point, {1e-6, 1e-5}, rows);
-        EXPECT_EQ(check.feasible, judged.feasible) << judged.what;
-    }
     std::vector<double> rows;
-    EXPECT_DOUBLE_EQ(checkPoint(twoColumns(), integrality, {0.5, 1}, {1e-6, 1e-5}, rows).objective, 10.5);
+    const auto check = [&](const std::vector<double>& point) {
+        return checkPoint(twoColumns(), integrality, point, {1e-6, 1e-5}, rows);
+    };
+    constexpr double overflowing = 1.7e308;
+    constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+    for (const std::vector<double>& inside : {std::vector<double>{0.5, 1}, {-1e-7, 1.000001}}) {
+        EXPECT_TRUE(check(inside).feasible) << testing::PrintToString(inside);
+    }
+    // Beyond the bounds, beyond the row, fractional, no finite numbers, too few.
+    for (const std::vector<double>& outside : {std::vector<double>{-0.01, 1},
+                                               {3.01, 0},
+                                               {0.5, 0},
+                                               {3, 1},
+                                               {1, 0.5},
+                                               {noNumber, 1},
+                                               {kHighsInf, 1},
+                                               {1, overflowing},
+                                               {1}}) {
+        EXPECT_FALSE(check(outside).feasible) << testing::PrintToString(outside);
+    }
+    EXPECT_DOUBLE_EQ(check({0.5, 1}).objective, 10.5);
     EXPECT_EQ(rows, std::vector<double>{2.5});
 }
 
@@ -82,11 +87,10 @@ TEST(StageControl, TimeLimitEndsAtTheNextInterruptPoint) {
     EXPECT_EQ(control->stopReason(), StopReason::TimeLimit);
 }
 
-TEST(StageControl, FailuresOfTheWorkReachTheCaller) {
-    auto control = std::make_shared<StageControl>(1e9, 0);
-    EXPECT_THROW(static_cast<void>(runStage(
-                     control, [] { throw std::runtime_error("broken"); }, [] {})),
-                 std::runtime_error);
+TEST(StageControl, FailuresReachTheCaller) {
+    const auto fail = [] { throw std::runtime_error("broken"); };
+    const auto control = std::make_shared<StageControl>(1e9, 0);
+    EXPECT_THROW(static_cast<void>(runStage(control, fail, [] {})), std::runtime_error);
     // A caller that leaves early gives the stage up, which then ends by itself.
     auto left = std::make_shared<StageControl>(1e9, 0);
     auto ended = std::make_shared<std::atomic<bool>>(false);

@@ -19,11 +19,11 @@ public:
     void TestBody() override {}
 };
 
-class RunsTest : public EngineTest {};
+using RunsTest = EngineTest;
 
 // None of the threads ends its last run; it is given up with them.
 TEST_F(RunsTest, FortyModelsOnEightThreadsGiveFortyAnswers) {
-    EXPECT_EQ(operation<decltype(FreeMemory)>("FreeMemory")(), 0);
+    EXPECT_EQ(::FreeMemory(), 0);
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 8; ++thread) {
         threads.emplace_back([thread] {
@@ -45,14 +45,14 @@ TEST_F(RunsTest, OnlyTheThreadOfARunIsServed) {
     ASSERT_NE(set("xtolx=abc"), 0);
     const std::string text = message();
     std::thread([&] {
-        EXPECT_EQ(set("xtolx=1"), 5);
-        EXPECT_EQ(put(smallLp()), 5);
-        for (const char* name : {"FreeMemory", "InitModel"}) EXPECT_EQ(operation<std::int32_t()>(name)(), 5) << name;
+        EXPECT_EQ(set("xtolx=1"), TarqGeneralError);
+        EXPECT_EQ(put(smallLp()), TarqGeneralError);
+        for (const auto operation : {::FreeMemory, ::InitModel}) EXPECT_EQ(operation(), TarqGeneralError);
         EXPECT_EQ(get("xline1"), "");
         EXPECT_THAT(get("xversn"), StartsWith("HiGHS"));
     }).join();
-    EXPECT_EQ(operation<decltype(Initialize)>("Initialize")(), 5);
-    EXPECT_EQ(operation<decltype(AllocateMemory)>("AllocateMemory")(300), 5);
+    EXPECT_EQ(::Initialize(), TarqGeneralError);
+    EXPECT_EQ(::AllocateMemory(300), TarqGeneralError);
     EXPECT_EQ(message(), text);
     EXPECT_NEAR(number("xtolx"), 1e-4, 1e-12);
 }
@@ -67,9 +67,9 @@ void sleepOn(int /*signal*/) {
 
 // One thread is stopped in a stage, one as it waits for its turn. Once they may go on, the first has lost its run.
 TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
-    const auto abandon = operation<decltype(AbandonRun)>("AbandonRun");
+    const auto abandon = ::AbandonRun;
     EXPECT_EQ(abandon(gettid()), 0);
-    EXPECT_EQ(abandon(gettid()), 5);
+    EXPECT_EQ(abandon(gettid()), TarqGeneralError);
     stopped = true;
     asleep = 0;
     std::signal(SIGUSR1, sleepOn);
@@ -85,7 +85,7 @@ TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
         });
         std::int32_t whole = 0;
         double real = 0.0;
-        lost = operation<decltype(OptimizeIP)>("OptimizeIP")(-1, &whole, &whole, &whole, &real, &real);
+        lost = ::OptimizeIP(-1, &whole, &whole, &whole, &real, &real);
     });
     while (asleep < 1) usleep(1000);
     std::atomic<int> waiting{0};
@@ -101,8 +101,8 @@ TEST_F(RunsTest, StoppedThreadsHoldUpNobody) {
     EXPECT_NEAR(optimizeLp(smallLp()).objective, -5, 1e-9);
     stopped = false;
     first.join();
-    EXPECT_EQ(lost, 999);
-    EXPECT_EQ(operation<decltype(FreeMemory)>("FreeMemory")(), 0);
+    EXPECT_EQ(lost, TarqStoppedAtBreak);
+    EXPECT_EQ(::FreeMemory(), 0);
     second.join();
     startAnew();
 }

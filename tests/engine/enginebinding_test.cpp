@@ -1,6 +1,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "tests/engine/enginefixture.h"
@@ -10,8 +11,8 @@ namespace {
 
 using Binding = EngineTest;
 
-bool isLoaded(std::string_view name) {
-    void* handle = dlopen(enginePath(name).c_str(), RTLD_NOW | RTLD_NOLOAD);
+bool isLoaded(const std::string& path) {
+    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
     if (handle != nullptr) dlclose(handle);
     return handle != nullptr;
 }
@@ -25,7 +26,8 @@ TEST_F(Binding, LocationStartsAtTheOrdinaryNameAndIsLimitedTo255) {
 }
 
 TEST_F(Binding, MissingLibraryIsSilentForTheVersionAndAFailureForTheRun) {
-    for (const auto* location : {"/nowhere/engine.so", "no_such_engine.dll", "", ENGINE_FOLDER}) {
+    const std::string folder = std::filesystem::path(SCRIPTED_ENGINE).parent_path();
+    for (const std::string& location : {std::string("/nowhere/engine.so"), std::string(), folder}) {
         ASSERT_THAT(binding.setLocation(location), succeeds());
         EXPECT_EQ(binding.versionText(), "unknown") << location;
         EXPECT_EQ(binding.bindEngine(), status::libraryNotFound) << location;
@@ -33,80 +35,104 @@ TEST_F(Binding, MissingLibraryIsSilentForTheVersionAndAFailureForTheRun) {
 }
 
 TEST_F(Binding, VersionIsWhatTheEngineTells) {
-    use("scripted_full").parameters["xversn"] = "7.25";
-    EXPECT_EQ(binding.versionText(), "7.25");
-    EXPECT_NE(binding.engine(), nullptr) << "the query binds";
-    script->results["GetParameter"] = 1;
+    use("xversn=7.25");
+    // The conventional name stands for the native library.
+    const std::string conventional = std::filesystem::path(SCRIPTED_ENGINE).parent_path() / "scripted_engine.dll";
+    for (const std::string& location : {std::string(SCRIPTED_ENGINE), conventional}) {
+        ASSERT_THAT(binding.setLocation(location), succeeds());
+        EXPECT_EQ(binding.versionText(), "7.25");
+        EXPECT_EQ(binding.location(), location);
+        EXPECT_NE(binding.engine(), nullptr) << "the query binds";
+    }
+    script->play("GetParameter=1");
     EXPECT_EQ(binding.versionText(), "unknown");
-    use("scripted_without_parameters");
+    use("xversn=7.25", {"GetParameter"});
     EXPECT_EQ(binding.versionText(), "unknown");
     EXPECT_NE(binding.engine(), nullptr);
 }
 
-TEST_F(Binding, ConventionalNameStandsForTheNativeLibrary) {
-    use("scripted_full").parameters["xversn"] = "7.25";
-    for (const std::string location : {ENGINE_FOLDER "/scripted_full.dll", "scripted_full.dll"}) {
-        ASSERT_THAT(binding.setLocation(location), succeeds());
-        EXPECT_EQ(binding.versionText(), "7.25") << location;
-        EXPECT_EQ(binding.location(), location);
-    }
-}
-
 TEST_F(Binding, ChangeOfLocationReleasesOneLoad) {
-    use("scripted_without_ip");
-    unload();
+    const std::string engine = scripted({"GetDim"});
+    ASSERT_THAT(binding.setLocation(engine), succeeds());
     EXPECT_EQ(binding.bindEngine(), status::ok);
     EXPECT_FALSE(binding.setLocation(std::string(256, 'a')).isOk());
-    EXPECT_TRUE(isLoaded("scripted_without_ip")) << "a refused location releases nothing";
+    EXPECT_TRUE(isLoaded(engine)) << "a refused location releases nothing";
     EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
     EXPECT_EQ(binding.engine(), nullptr);
-    EXPECT_FALSE(isLoaded("scripted_without_ip"));
+    EXPECT_FALSE(isLoaded(engine));
 
-    ASSERT_THAT(binding.setLocation(enginePath("scripted_without_ip")), succeeds());
+    ASSERT_THAT(binding.setLocation(engine), succeeds());
     EXPECT_EQ(binding.bindEngine(), status::ok);
     EXPECT_EQ(binding.bindEngine(), status::ok);
     EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
-    EXPECT_TRUE(isLoaded("scripted_without_ip")) << "bound twice, released once";
+    EXPECT_TRUE(isLoaded(engine)) << "bound twice, released once";
 }
 
 TEST_F(Binding, LibraryOutlivesTheRunAndTheModel) {
+    const std::string engine = scripted({"OptimizeLP"});
     {
         EngineBinding ofAModel;
-        ASSERT_THAT(ofAModel.setLocation(enginePath("scripted_without_lp")), succeeds());
+        ASSERT_THAT(ofAModel.setLocation(engine), succeeds());
         EXPECT_EQ(run(ofAModel), status::crucialError);
         EXPECT_NE(ofAModel.engine(), nullptr);
     }
-    EXPECT_TRUE(isLoaded("scripted_without_lp"));
+    EXPECT_TRUE(isLoaded(engine));
 }
 
 TEST_F(Binding, RunKeepsItsEngineWhenTheLocationMoves) {
-    EngineScript& engine = use("scripted_full");
+    EngineScript& engine = use();
     engine.during["OptimizeLP"] = [&] {
         EXPECT_THAT(binding.setLocation("elsewhere.dll"), succeeds());
         stopRequested = true;
         engine.callback();
     };
     EXPECT_EQ(run(), status::ok);
-    EXPECT_NE(engine.log.find("XCBSTP=1"), std::string::npos);
+    EXPECT_TRUE(engine.stopped);
     EXPECT_TRUE(engine.log.ends_with("FreeMemory\nfinished\n"));
     EXPECT_EQ(binding.engine(), nullptr);
 }
 
+#define TARQ_NAME(operation) #operation,
 TEST_F(Binding, EmptySlotsAnswerWithAFailure) {
-    use("scripted_empty");
+    ASSERT_THAT(binding.setLocation(scripted({TARQ_ENGINE_OPERATIONS(TARQ_NAME)})), succeeds());
     ASSERT_EQ(binding.bindEngine(), status::ok) << "binding tests nothing";
     EngineInterface& engine = *binding.engine();
     EXPECT_FALSE(engine.hasInitialize() || engine.hasSetCallback() || engine.hasGetParameter());
-    char buffer[256] = "";
-    for (const std::int32_t result :
-         {engine.FreeMemory(), engine.Initialize(), engine.AllocateMemory(1),
-          engine.GetMaxDim(nullptr, nullptr, nullptr), engine.SetMaxLPDim(1, 1, 1), engine.InitModel(),
-          engine.SetParameter("a=1"), engine.GetParameter("a", buffer), engine.SetCallback(nullptr, 0),
-          engine.GetLPSolution(nullptr, nullptr, nullptr, nullptr, nullptr),
-          engine.GetIPSolution(nullptr, nullptr, nullptr, nullptr, nullptr)}) {
-        EXPECT_NE(result, 0);
+    EXPECT_NE(engine.Initialize(), TarqSuccess);
+    EXPECT_NE(engine.SetMaxLPDim(1, 1, 1), TarqSuccess);
+    EXPECT_NE(engine.GetLPSolution(nullptr, nullptr, nullptr, nullptr, nullptr), TarqSuccess);
+    makeInteger();
+    struct Case {
+        Names missing;
+        Status status;
+        TARQSolverStatusTyp solver;
+        TARQSolutionStatusTyp solution;
+    };
+    using enum TARQSolverStatusTyp;
+    using enum TARQSolutionStatusTyp;
+    for (const Case& without : {
+             Case{{TARQ_ENGINE_OPERATIONS(TARQ_NAME)},
+                  status::engineMemory,
+                  UndefinedSolverStatus,
+                  UndefinedSolutionStatus},
+             Case{{"PutModel"}, status::engineSetup, UndefinedSolverStatus, UndefinedSolutionStatus},
+             Case{{"OptimizeLP"}, status::crucialError, LPGeneralError, UndefinedSolutionStatus},
+             Case{{"OptimizeIP"}, status::crucialError, IPGeneralError, UndefinedSolutionStatus},
+             Case{{"GetLPSolution", "GetIPSolution"}, status::ok, IPFinished, UndefinedSolutionStatus},
+             Case{{"GetParameter", "SetParameter"}, status::ok, IPFinished, IPOptimalSolution},
+             Case{{"SetCallback"}, status::ok, IPFinished, IPOptimalSolution},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(without.missing));
+        use({}, without.missing);
+        summary.reset();
+        EXPECT_EQ(run(), without.status);
+        EXPECT_EQ(summary.solverStatus, without.solver);
+        EXPECT_EQ(summary.solutionStatus, without.solution);
+        EXPECT_EQ(summary.lastSolverMessage.get(), "");
+        EXPECT_TRUE(script->log.ends_with("finished\n"));
     }
 }
+#undef TARQ_NAME
 
 }  // namespace
 }  // namespace tarq

@@ -1,4 +1,4 @@
-// EngineTest: a model of three columns and two rows and one of the scripted engines to run it on.
+// EngineTest: a model of three columns and two rows, and an engine to run it on.
 #pragma once
 
 #include <dlfcn.h>
@@ -9,16 +9,14 @@
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "engine/enginelibrary.h"
 #include "engine/run.h"
-#include "tests/engine/scriptedengine.h"
+#include "tests/support/enginefile.h"
 #include "tests/support/outcomematchers.h"
+#include "tests/support/scriptedengine/scriptedengine.h"
 
 namespace tarq {
-
-inline std::string enginePath(std::string_view name) { return ENGINE_FOLDER "/lib" + std::string(name) + ".so"; }
 
 class EngineTest : public ::testing::Test {
 protected:
@@ -36,34 +34,35 @@ protected:
     ~EngineTest() override { unload(); }
 
     void addColumn(const char* name, double lower, double upper, double cost) {
-        ColumnRecord column;
-        column.name = name;
-        column.lowerBound = lower;
-        column.upperBound = upper;
-        column.cost = cost;
-        ASSERT_THAT(store.addColumnRecord(std::move(column)), succeeds());
+        ASSERT_THAT(store.addColumnRecord({.name = name, .lowerBound = lower, .upperBound = upper, .cost = cost}),
+                    succeeds());
     }
     void addRow(const char* name, double lower, double upper) {
-        RowRecord row;
-        row.name = name;
-        row.lowerBound = lower;
-        row.upperBound = upper;
-        ASSERT_THAT(store.addRowRecord(std::move(row)), succeeds());
+        ASSERT_THAT(store.addRowRecord({.name = name, .lowerBound = lower, .upperBound = upper}), succeeds());
     }
     void makeInteger() { store.column(1).type = TARQColType::Integer; }
 
-    /// Chooses an engine and empties its script. Every result value is served as its place in the table, 1 to 14.
-    EngineScript& use(std::string_view name) {
+    using Names = std::vector<std::string_view>;
+    static inline const Names noInitialize{"Initialize"};
+
+    /// Path of the scripted engine without the operations named.
+    static std::string scripted(const Names& missing = {}) {
+        return missing.empty() ? SCRIPTED_ENGINE : engineWithout(missing, SCRIPTED_ENGINE);
+    }
+
+    /// Chooses a scripted engine and begins its script anew with `text`. Every result value is served as its place in
+    /// the table, 1 to 14.
+    EngineScript& use(std::string_view text = {}, const Names& missing = {}) {
         unload();
-        library_ = dlopen(enginePath(name).c_str(), RTLD_NOW);
+        const std::string path = scripted(missing);
+        library_ = dlopen(path.c_str(), RTLD_NOW);
         EXPECT_NE(library_, nullptr) << dlerror();
         script = reinterpret_cast<EngineScript* (*)()>(dlsym(library_, "engineScript"))();
         *script = {};
-        for (int slot = 0; slot < resultCount; ++slot) {
-            script->parameters[std::string(resultSlots()[static_cast<std::size_t>(slot)].name)] =
-                std::to_string(slot + 1);
-        }
-        EXPECT_THAT(binding.setLocation(enginePath(name)), succeeds());
+        int place = 0;
+        for (const auto& slot : resultSlots()) script->parameters[std::string(slot.name)] = std::to_string(++place);
+        script->play(text);
+        EXPECT_THAT(binding.setLocation(path), succeeds());
         return *script;
     }
 
@@ -77,35 +76,37 @@ protected:
     Status run() { return run(binding); }
     Status run(EngineBinding& engineBinding) {
         busy = true;
-        RunModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
-                           if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
-                           if (whenFinished) whenFinished();
-                       }};
+        RunnableModel model{store, parameters, summary, engineBinding, stopRequested, busy, [this] {
+                                if (script != nullptr) script->log += busy ? "finished while busy\n" : "finished\n";
+                                if (whenFinished) whenFinished();
+                            }};
+        model.breakPoint = breakPoint;
         const Status ended = runOptimization(model);
         pendingError = model.pendingError;
         return ended;
     }
 
+    void set(const char* parameter, int value) {
+        ASSERT_THAT(parameters.setLong(parameterIndex(parameter), value), succeeds());
+    }
     [[nodiscard]] int resultOf(std::string_view name) const { return parameters.resultLong(resultIndex(name)); }
 
-    /// The log with the repeated calls of an operation drawn together: their arguments, or their number beyond three.
+    [[nodiscard]] bool wasCalled(std::string_view operation) const {
+        return script->log.find(operation) != std::string::npos;
+    }
+
+    /// The log, in which calls of one operation after another are only counted.
     [[nodiscard]] std::string calls() const {
-        std::istringstream lines(script->log);
-        std::vector<std::pair<std::string, std::vector<std::string>>> groups;
-        for (std::string line; std::getline(lines, line);) {
-            const std::size_t blank = std::min(line.find(' '), line.size());
-            const std::string operation = line.substr(0, blank);
-            if (groups.empty() || groups.back().first != operation) groups.push_back({operation, {}});
-            groups.back().second.push_back(line.substr(blank));
-        }
         std::string text;
-        for (const auto& [operation, arguments] : groups) {
-            text += operation;
-            if (arguments.size() > 3)
-                text += " x" + std::to_string(arguments.size());
-            else
-                for (const std::string& argument : arguments) text += argument;
-            text += '\n';
+        std::string last;
+        std::size_t count = 0;
+        std::istringstream lines(script->log);
+        for (std::string line; std::getline(lines, line);) {
+            const std::string operation = line.substr(0, line.find(' '));
+            count = operation == last ? count + 1 : 1;
+            if (count > 1) text.erase(text.rfind(operation));
+            text += count > 1 ? operation + " x" + std::to_string(count) + "\n" : line + "\n";
+            last = operation;
         }
         return text;
     }
@@ -118,24 +119,21 @@ protected:
     std::atomic<bool> busy{false};
     Outcome pendingError;
     std::function<void()> whenFinished;
+    std::function<void(EngineInterface&)> breakPoint;
     EngineScript* script = nullptr;
 
 private:
     void* library_ = nullptr;
 };
 
-/// A binder that takes one of the scripted engines through a class of the test's own.
+/// A binder that takes the scripted engine through a class of the test's own.
 template <class Engine>
 class BindingTo : public EngineBinding {
 public:
-    explicit BindingTo(std::string_view name) : path_(enginePath(name)) {}
     Status bindEngine() override {
-        bind({}, std::make_shared<Engine>(DynamicLibrary::load(path_)));
+        bind({}, std::make_shared<Engine>(DynamicLibrary::load(SCRIPTED_ENGINE)));
         return status::ok;
     }
-
-private:
-    std::string path_;
 };
 
 }  // namespace tarq
