@@ -12,6 +12,7 @@
 #include "parameters/inputfile.h"
 #include "platform/programsearch.h"
 #include "platform/temporaryfile.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 namespace {
@@ -21,7 +22,7 @@ Outcome checkDataFiles(const ValueList& list, std::vector<std::string>& names) {
     for (const Variant& value : walk) {
         const Variant name = value.copyDereferenced();
         if (!name.isText()) return {status::invalidArgument, "Parameter for .dat filename is no string."};
-        TARQ_TRY(checkInputFile(name.text(), fmt::format(".DAT file '{}'", name.text())));
+        TARQ_TRY(checkInputFile(name.text(), fmt::format("{} '{}'", failuretext::aboutDataFile, name.text())));
         names.push_back(name.text());
     }
     return {};

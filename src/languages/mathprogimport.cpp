@@ -12,6 +12,7 @@
 #include "platform/dynamiclibrary.h"
 #include "platform/temporaryfile.h"
 #include "platform/wholefile.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 namespace {
@@ -147,7 +148,7 @@ Outcome checkDataFile(const Variant& dataFile, std::string& name) {
     if (plain.isMissing()) return {};
     if (!plain.isText()) return {status::invalidArgument, "Bad argument for .DAT filename."};
     name = plain.takeText();
-    return checkInputFile(name, ".DAT file");
+    return checkInputFile(name, failuretext::aboutDataFile);
 }
 
 /// Has the library read the model. True when it did.

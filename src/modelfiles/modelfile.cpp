@@ -1,7 +1,5 @@
 #include "modelfiles/modelfile.h"
 
-#include <fmt/format.h>
-
 #include <optional>
 #include <utility>
 
@@ -20,8 +18,7 @@ Outcome fileFailure() { return {status::fileAccess, "Error while opening, readin
 
 Outcome parseOutcome(std::string_view format, const std::optional<ParseFailure>& failure) {
     if (!failure) return {};
-    return {status::syntaxError,
-            fmt::format("Error parsing {} file: {} Line {}", format, failure->message, failure->lineNumber)};
+    return {status::syntaxError, parseFailureText(format, *failure)};
 }
 
 }  // namespace

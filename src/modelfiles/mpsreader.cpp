@@ -12,6 +12,7 @@
 #include "modelfiles/fixedname.h"
 #include "modelfiles/modeltextscanner.h"
 #include "modelfiles/mpstarget.h"
+#include "tarq/interfaces/mpscomplaints.h"
 
 namespace tarq {
 namespace {
@@ -20,9 +21,6 @@ namespace {
 using Failure = std::string_view;
 
 constexpr Failure none;
-constexpr Failure unexpectedEnd = "Unexpected end of file.";
-constexpr Failure emptyRowName = "Empty row name encountered.";
-constexpr Failure unknownRow = "Row name does not exist.";
 
 struct RowTypeCode {
     std::string_view characters;  ///< columns 2 and 3 in upper case
@@ -56,10 +54,9 @@ struct NumberMessages {
     Failure notNumeric;
 };
 
-constexpr NumberMessages coefficientMessages{"Empty cost or nonzero value encountered.",
-                                             "Cost or nonzero value is not numeric."};
-constexpr NumberMessages rightHandSideMessages{"Empty RHS value encountered.", "RHS value is not numeric."};
-constexpr NumberMessages rangeMessages{"Empty RANGE value encountered.", "RANGE value is not numeric."};
+constexpr NumberMessages coefficientMessages{mpscomplaint::emptyCoefficient, mpscomplaint::coefficientNotNumeric};
+constexpr NumberMessages rightHandSideMessages{mpscomplaint::emptyRightHandSide, mpscomplaint::rightHandSideNotNumeric};
+constexpr NumberMessages rangeMessages{mpscomplaint::emptyRange, mpscomplaint::rangeNotNumeric};
 
 /// A row name and its number. An empty name with an empty number, where a line has no second pair, is `absent`.
 struct Pair {
@@ -148,16 +145,16 @@ Failure MpsReader::read() {
 }
 
 Failure MpsReader::readName() {
-    if (!scanner_.nextFixedLine()) return unexpectedEnd;
-    if (!sectionIs("NAME")) return "NAME indicator expected.";
+    if (!scanner_.nextFixedLine()) return mpscomplaint::unexpectedEnd;
+    if (!sectionIs("NAME")) return mpscomplaint::nameExpected;
     const std::string_view name = trimBlanks(scanner_.rawField(modelNamePlace));
     model_.setModelName(std::string(name));
     model_.setParameter("xdata", name);
-    return scanner_.nextFixedLine() ? none : unexpectedEnd;
+    return scanner_.nextFixedLine() ? none : mpscomplaint::unexpectedEnd;
 }
 
 Failure MpsReader::readRows() {
-    if (!sectionIs("ROWS")) return "ROWS indicator expected.";
+    if (!sectionIs("ROWS")) return mpscomplaint::rowsExpected;
     target_.reserveRows(scanner_.countIndentedLines());
     while (nextLineOfSection()) {
         const FixedName ahead(ModelTextScanner::rawField(scanner_.nextLineAhead(), fixedFieldPlaces[2]));
@@ -169,12 +166,12 @@ Failure MpsReader::readRows() {
 
 Failure MpsReader::readRow() {
     const FixedName name = fixedName(2);
-    if (name.empty()) return "Empty row name in ROW section.";
+    if (name.empty()) return mpscomplaint::emptyNewRowName;
     const std::array<char, 2> characters = scanner_.rowTypeCharacters();
     const auto code = std::find_if(rowTypeCodes.begin(), rowTypeCodes.end(), [&](const RowTypeCode& candidate) {
         return candidate.characters == std::string_view(characters.data(), characters.size());
     });
-    if (code == rowTypeCodes.end()) return "Bad row type in ROW section.";
+    if (code == rowTypeCodes.end()) return mpscomplaint::badRowType;
     if (code->type == MpsRowType::Free && (objectiveRowName_.empty() || objectiveRowName_ == name)) {
         objectiveRowName_ = name;
         model_.setParameter("xobj", name.text());
@@ -185,7 +182,7 @@ Failure MpsReader::readRow() {
 }
 
 Failure MpsReader::readColumns() {
-    if (!sectionIs("COLUMNS")) return "COLUMNS indicator expected.";
+    if (!sectionIs("COLUMNS")) return mpscomplaint::columnsExpected;
     columnsStart_ = scanner_.lineStart();
     while (nextLineOfSection()) {
         const std::string_view ahead = scanner_.nextLineAhead();
@@ -237,7 +234,7 @@ Failure MpsReader::readMarker() {
 }
 
 Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair& pair) {
-    if (columnName.empty()) return "Empty col name encountered.";
+    if (columnName.empty()) return mpscomplaint::emptyColumnName;
     if (const Failure failure = readPair(fields, coefficientMessages, pair); !failure.empty()) return failure;
     if (pair.absent) return none;
     // The column comes first: a line whose row is unknown leaves a new column behind.
@@ -247,7 +244,7 @@ Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair&
         return none;
     }
     const std::int32_t row = target_.findRow(pair.rowName);
-    if (row == MpsTarget::absent) return unknownRow;
+    if (row == MpsTarget::absent) return mpscomplaint::unknownRow;
     target_.setNonzero(columnPosition_, row, pair.value);
     return none;
 }
@@ -270,7 +267,7 @@ Failure MpsReader::readPair(PairFields fields, const NumberMessages& messages, P
     const FieldNumber number = scanner_.fixedNumber(fields.number, pair.value);
     if (pair.rowName.empty()) {
         pair.absent = fields.name == secondPair.name && number == FieldNumber::Empty;
-        return pair.absent ? none : emptyRowName;
+        return pair.absent ? none : mpscomplaint::emptyRowName;
     }
     if (number == FieldNumber::Empty) return messages.empty;
     return number == FieldNumber::Read ? none : messages.notNumeric;
@@ -309,7 +306,7 @@ Failure MpsReader::readRowValuePair(PairFields fields, const NumberMessages& mes
     if (const Failure failure = readPair(fields, messages, pair); !failure.empty()) return failure;
     if (pair.absent) return none;
     const std::int32_t row = target_.findRow(pair.rowName);
-    if (row == MpsTarget::absent) return unknownRow;
+    if (row == MpsTarget::absent) return mpscomplaint::unknownRow;
     (target_.*apply)(row, pair.value);
     return none;
 }
@@ -325,14 +322,14 @@ Failure MpsReader::readBounds() {
 
 Failure MpsReader::readBound() {
     const FixedName name = fixedName(3);
-    if (name.empty()) return "Empty col name in BOUNDS section.";
+    if (name.empty()) return mpscomplaint::emptyBoundColumnName;
     const std::int32_t position = target_.findNextColumn(name);
-    if (position == MpsTarget::absent) return "Col name does not exist.";
+    if (position == MpsTarget::absent) return mpscomplaint::unknownColumn;
     const std::array<char, 2> characters = scanner_.rowTypeCharacters();
     const MpsBoundType* const type = findMpsBoundType({characters.data(), characters.size()});
-    if (type == nullptr) return "Bad type in BOUNDS section.";
+    if (type == nullptr) return mpscomplaint::badBoundType;
     if (type->takesValue && scanner_.fixedNumber(4, boundValue_) == FieldNumber::NotNumeric) {
-        return "BOUND value is not numeric.";
+        return mpscomplaint::boundNotNumeric;
     }
     target_.applyBound(position, *type, boundValue_);
     return none;

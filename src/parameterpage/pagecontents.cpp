@@ -9,11 +9,6 @@
 namespace tarq {
 namespace {
 
-constexpr std::array sectionsInOrder{
-    ParameterSection::Direction, ParameterSection::Resources,  ParameterSection::Lp,    ParameterSection::Ip,
-    ParameterSection::Other,     ParameterSection::Tolerances, ParameterSection::Files,
-};
-
 /// What the direction can be; its row is a text and has no options.
 constexpr std::array directions{TARQPageOption{"Minimize.", "min"}, TARQPageOption{"Maximize.", "max"}};
 

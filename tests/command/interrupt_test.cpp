@@ -3,7 +3,7 @@
 #include <thread>
 
 #include "process.h"
-#include "progress.h"
+#include "run/progress.h"
 
 namespace tarq::command {
 namespace {

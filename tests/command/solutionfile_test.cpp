@@ -1,7 +1,7 @@
 // The solution as a file.
 #include "process.h"
 
-#include "solutionfile.h"
+#include "printing/solutionfile.h"
 
 namespace tarq::command {
 namespace {
