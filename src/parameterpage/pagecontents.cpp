@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "parameters/parameteraccess.h"
 #include "tarq/frame/variant.h"
 
 namespace tarq {
@@ -34,16 +35,6 @@ std::optional<TARQPageItemKind> kindOf(const ParameterRow& row) {
 TARQPageValueType typeOf(const ParameterRow& row) {
     if (row.type == ParameterType::Long) return TARQPageInteger;
     return row.type == ParameterType::Double ? TARQPageReal : TARQPageText;
-}
-
-Variant minimumOf(const ParameterRow& row) {
-    if (row.type == ParameterType::Long) return Variant(row.longMinimum);
-    return row.type == ParameterType::Double ? Variant(row.doubleMinimum) : Variant();
-}
-
-Variant maximumOf(const ParameterRow& row) {
-    if (row.type == ParameterType::Long) return Variant(row.longMaximum);
-    return row.type == ParameterType::Double ? Variant(row.doubleMaximum) : Variant();
 }
 
 bool isShown(const ParameterRow& row, ParameterSection section) {

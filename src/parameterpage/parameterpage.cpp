@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "frame/numbertext.h"
+#include "parameters/parameteraccess.h"
 #include "tarq/frame/wholenumber.h"
 
 namespace tarq {
@@ -46,18 +47,6 @@ Variant valueOf(const ParameterRow& row, std::string_view text) {
 }
 
 }  // namespace
-
-Variant defaultOf(const ParameterRow& row) {
-    switch (row.type) {
-        case ParameterType::Long:
-            return Variant(row.longDefault);
-        case ParameterType::Double:
-            return Variant(row.doubleDefault);
-        case ParameterType::String:
-            return Variant(row.stringDefault);
-    }
-    return {};
-}
 
 std::string pageText(const Variant& value) {
     switch (value.kind()) {

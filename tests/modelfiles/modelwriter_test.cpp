@@ -39,10 +39,9 @@ protected:
     std::string listing(const Variant& firstRow = Variant::missing(), const Variant& lastRow = Variant::missing(),
                         const Variant& firstColumn = Variant::missing(),
                         const Variant& lastColumn = Variant::missing()) {
-        ModelCutout cutout{};
-        EXPECT_THAT(resolveCutout(file_.target.modelStore, {firstRow, lastRow, firstColumn, lastColumn}, cutout),
-                    succeeds());
-        return file_.textOf([&](const std::string& name) { return writeModelListing(name, file_.model(), cutout); });
+        const auto cutout = resolveCutout(file_.target.modelStore, {firstRow, lastRow, firstColumn, lastColumn});
+        EXPECT_TRUE(cutout.isOk());
+        return file_.textOf([&](const std::string& name) { return writeModelListing(name, file_.model(), *cutout); });
     }
 
     WrittenFile file_;
@@ -313,19 +312,17 @@ TEST_F(ModelWriter, CutoutsAreAddressedAsRowsAndColumnsAre) {
     file_.column("Y", 0, 1);
     file_.row("R", 0, 1);
     const Variant missing = Variant::missing();
-    ModelCutout cutout{};
     const auto resolve = [&](const Variant& row, const Variant& first, const Variant& last) {
-        return resolveCutout(file_.target.modelStore, {row, missing, first, last}, cutout);
+        return resolveCutout(file_.target.modelStore, {row, missing, first, last});
     };
-    EXPECT_THAT(resolve(Variant("Q"), missing, missing),
+    EXPECT_THAT(resolve(Variant("Q"), missing, missing).outcome(),
                 failsWith(status::invalidArgument, "Row name 'Q' could not be found."));
-    EXPECT_THAT(resolve(missing, Variant(2), Variant("X")),
+    EXPECT_THAT(resolve(missing, Variant(2), Variant("X")).outcome(),
                 failsWith(status::invalidArgument, "Col startindex is higher than endindex."));
-    EXPECT_THAT(resolve(missing, Variant(0), missing),
+    EXPECT_THAT(resolve(missing, Variant(0), missing).outcome(),
                 failsWith(status::invalidArgument, "Column index is less than 1."));
     Variant number(2.0);
-    EXPECT_THAT(resolve(missing, Variant::byReference(number), missing), succeeds());
-    EXPECT_EQ(cutout.firstColumn, 2);
+    EXPECT_EQ(resolve(missing, Variant::byReference(number), missing)->firstColumn, 2);
 }
 
 }  // namespace

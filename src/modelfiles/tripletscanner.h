@@ -1,4 +1,4 @@
-// DataLineScanner: walks over the lines of a Triplet file and cuts them into tokens.
+// TripletScanner: walks over the lines of a Triplet file and cuts them into tokens.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace tarq {
 
-class DataLineScanner : public ModelText {
+class TripletScanner : public ModelText {
 public:
     using ModelText::ModelText;
 

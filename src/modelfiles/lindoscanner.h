@@ -1,4 +1,4 @@
-// FreeTokenScanner: cuts the text of a Lindo file into tokens, across its lines.
+// LindoScanner: cuts the text of a Lindo file into tokens, across its lines.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 
 namespace tarq {
 
-class FreeTokenScanner : public ModelText {
+class LindoScanner : public ModelText {
 public:
     using ModelText::ModelText;
 

@@ -1,4 +1,4 @@
-#include "modelfiles/datalinescanner.h"
+#include "modelfiles/tripletscanner.h"
 
 #include <algorithm>
 
@@ -7,12 +7,12 @@
 namespace tarq {
 namespace {
 
+/// Characters that a number, or the rest of a line with the name, may have.
 constexpr std::size_t longestToken = 64;
-constexpr std::size_t longestName = 64;
 
 }  // namespace
 
-bool DataLineScanner::nextDataLine() {
+bool TripletScanner::nextDataLine() {
     while (nextLine()) {
         const std::string_view whole = line();
         if (whole.starts_with('*')) continue;
@@ -26,7 +26,7 @@ bool DataLineScanner::nextDataLine() {
     return false;
 }
 
-std::size_t DataLineScanner::countTokens() const {
+std::size_t TripletScanner::countTokens() const {
     std::size_t count = 0;
     bool inToken = false;
     for (const char character : data_) {
@@ -36,33 +36,33 @@ std::size_t DataLineScanner::countTokens() const {
     return count;
 }
 
-std::string_view DataLineScanner::takeToken() {
+std::string_view TripletScanner::takeToken() {
     const std::size_t start = std::min(data_.find_first_not_of(' ', place_), data_.size());
     place_ = std::min(data_.find(' ', start), data_.size());
     return data_.substr(start, place_ - start);
 }
 
-bool DataLineScanner::readReal(double& value) {
+bool TripletScanner::readReal(double& value) {
     const std::string_view token = takeToken();
     return token.size() <= longestToken && parseReal(token, value);
 }
 
-bool DataLineScanner::readInteger(std::int32_t& value) {
+bool TripletScanner::readInteger(std::int32_t& value) {
     const std::string_view token = takeToken();
     return token.size() <= longestToken && parseInteger(token, value);
 }
 
-bool DataLineScanner::readRestOfLine(std::size_t borrowed, std::string_view& name) {
+bool TripletScanner::readRestOfLine(std::size_t borrowed, std::string_view& name) {
     std::string_view rest = data_.substr(place_);
-    if (rest.size() > longestName) return false;
+    if (rest.size() > longestToken) return false;
     if (rest.empty()) rest = text().substr(lineStart() + place_, borrowed);
     name = trimBlanks(rest);
     return true;
 }
 
-std::string_view DataLineScanner::nameAhead() {
+std::string_view TripletScanner::nameAhead() {
     const std::string_view line = trimBlanks(nextLineAhead());
-    const std::string_view end = line.substr(line.size() - std::min(line.size(), longestName));
+    const std::string_view end = line.substr(line.size() - std::min(line.size(), longestToken));
     return end.substr(end.rfind(' ') + 1);
 }
 

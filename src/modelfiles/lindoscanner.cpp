@@ -1,4 +1,4 @@
-#include "modelfiles/freetokenscanner.h"
+#include "modelfiles/lindoscanner.h"
 
 #include <algorithm>
 #include <array>
@@ -6,12 +6,12 @@
 
 namespace tarq {
 
-bool FreeTokenScanner::takePeeked() {
+bool LindoScanner::takePeeked() {
     token_ = std::exchange(peeked_, Token());
     return true;
 }
 
-bool FreeTokenScanner::nextTokenOfLaterLine() {
+bool LindoScanner::nextTokenOfLaterLine() {
     while (nextLine()) {
         const std::string_view whole = line();
         const std::string_view data = whole.substr(0, whole.find('!'));
@@ -26,7 +26,7 @@ bool FreeTokenScanner::nextTokenOfLaterLine() {
     return false;
 }
 
-std::string_view FreeTokenScanner::wordBeforeCloseParen() const {
+std::string_view LindoScanner::wordBeforeCloseParen() const {
     // Bounded, as a text without any would be searched to its end each time.
     constexpr std::size_t reach = 2'048;
     const std::string_view near = text().substr(token_.start + token_.length, reach);
@@ -35,7 +35,7 @@ std::string_view FreeTokenScanner::wordBeforeCloseParen() const {
     return before.substr(before.find_last_of(" \n") + 1);
 }
 
-bool FreeTokenScanner::peekIsCloseParen() {
+bool LindoScanner::peekIsCloseParen() {
     const Token current = token_;
     if (!nextToken()) {
         token_ = current;
@@ -46,7 +46,7 @@ bool FreeTokenScanner::peekIsCloseParen() {
     return false;
 }
 
-bool FreeTokenScanner::takeSubjectTo() {
+bool LindoScanner::takeSubjectTo() {
     constexpr std::array<std::string_view, 4> keywords{"ST", "S.T.", "SUCH THAT", "SUBJECT TO"};
     const std::string_view rest = text().substr(token_.start);
     for (const std::string_view keyword : keywords) {
@@ -59,7 +59,7 @@ bool FreeTokenScanner::takeSubjectTo() {
     return false;
 }
 
-std::string_view FreeTokenScanner::titleText() const {
+std::string_view LindoScanner::titleText() const {
     constexpr std::size_t longestTitle = 32;
     return text().substr(token_.start, std::min(commentStop_ + 1 - token_.start, longestTitle));
 }
