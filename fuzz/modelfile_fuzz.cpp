@@ -1,20 +1,40 @@
-#include "modelfiletarget.h"
-
+// Any bytes as a model file of the format FUZZED_FORMAT: a message or a model whose parts agree.
 #include <algorithm>
 #include <bit>
-#include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "modelfiles/modelfile.h"
 #include "target.h"
+#include "tarq/interfaces/parsefailure.h"
 
 namespace tarq::fuzzing {
 namespace {
 
+using enum TARQFileFormatType;
 using Assignment = std::pair<std::string, std::string>;
+
+/// What is true of every model that the reader of a format leaves, after a failure too.
+struct FormatRules {
+    TARQFileFormatType format;
+    std::string_view name;  ///< in the messages
+    std::size_t longestName;
+    bool allHaveNames;  ///< each column and row has one
+    bool boundsAreOrdered;
+    bool boundsAreClamped;    ///< none lies beyond the model's infinity
+    bool rowsKeepType;        ///< the duals hold the types of the rows, 1 to 4
+    bool namesAreInCapitals;  ///< all names are
+};
+constexpr FormatRules formats[] = {
+    {MPS, "MPS", 8, true, false, false, true, false},
+    {Triplet, "Triplet", 64, false, true, true, false, false},
+    {Lindo, "Lindo", 8, false, false, true, false, true},
+};
 
 struct ReadModel final : ModelFileTarget {
     ModelStore& store() override { return modelStore; }
@@ -38,17 +58,6 @@ bool areSame(double left, double right) {
     return std::bit_cast<std::uint64_t>(left) == std::bit_cast<std::uint64_t>(right);
 }
 
-/// The number behind " Line ", 0 where there is none.
-std::size_t lineNumberIn(std::string_view message) {
-    constexpr std::string_view label = " Line ";
-    const std::size_t found = message.rfind(label);
-    if (found == std::string_view::npos) return 0;
-    std::size_t number = 0;
-    const char* const end = message.data() + message.size();
-    const auto [stop, error] = std::from_chars(message.data() + found + label.size(), end, number);
-    return stop == end && error == std::errc{} ? number : 0;
-}
-
 void checkOutcome(const FormatRules& rules, const Outcome& outcome, std::string_view text) {
     const std::string& message = outcome.description();
     if (outcome.isOk()) {
@@ -56,11 +65,11 @@ void checkOutcome(const FormatRules& rules, const Outcome& outcome, std::string_
         return;
     }
     check(outcome.status() == status::syntaxError, "a text fails as a syntax error");
-    const std::string prefix = std::string("Error parsing ").append(rules.name).append(" file: ");
-    check(message.starts_with(prefix) && message.size() > prefix.size(), "the message begins with its format");
+    const auto failure = parseFailureIn(message);
+    check(failure && !failure->message.empty(), "the message tells what and where");
+    check(parseFailureText(rules.name, *failure) == message, "the message names its format");
     const auto feeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-    const std::size_t line = lineNumberIn(message);
-    check(line >= 1 && line <= feeds + 2, "the message ends with a line of the text");
+    check(failure->lineNumber >= 1 && failure->lineNumber <= feeds + 2, "the message ends with a line of the text");
 }
 
 void checkName(const FormatRules& rules, std::string_view name, std::int32_t position, std::int32_t found) {
@@ -135,10 +144,8 @@ void checkSame(const ModelStore& left, const ModelStore& right) {
     });
 }
 
-}  // namespace
-
-void checkModelFile(const FormatRules& rules, const std::uint8_t* data, std::size_t size) {
-    const std::string text(data, data + size);
+/// Reads the text as a file of the format and ends the process when what comes of it breaks a rule.
+void checkModelFile(const FormatRules& rules, const std::string& text) {
     ReadModel model;
     const Outcome outcome = readModelText(text, rules.format, model);
     check(model.clearings == 1, "a reader empties the model once");
@@ -156,4 +163,14 @@ void checkModelFile(const FormatRules& rules, const std::uint8_t* data, std::siz
     checkSame(model.modelStore, other.modelStore);
 }
 
+}  // namespace
 }  // namespace tarq::fuzzing
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace tarq::fuzzing;
+    checkModelFile(formats[static_cast<std::size_t>(tarq::TARQFileFormatType::FUZZED_FORMAT)],
+                   std::string(data, data + size));
+    return 0;
+}
