@@ -1,9 +1,6 @@
 #include "limits.h"
 
-#include <malloc.h>
-#include <sys/mman.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -11,6 +8,12 @@
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
+#include "platform/heapgrowth.h"
 
 namespace tarq::stub {
 namespace {
@@ -23,8 +26,6 @@ namespace fs = std::filesystem;
 [[maybe_unused]] constexpr std::uintmax_t memoryPerByte = 256;
 constexpr std::uintmax_t secondsBase = 20;
 constexpr std::uintmax_t bytesPerSecond = 100'000;
-
-constexpr std::uintptr_t pageSize = 4096;
 
 bool addSize(const std::string& file, std::uintmax_t& total) {
     std::error_code error;
@@ -44,23 +45,16 @@ void lower(int resource, std::uintmax_t wanted) {
     (void)::setrlimit(static_cast<__rlimit_resource>(resource), &limit);
 }
 
-/// Makes room on the heap in one go and asks for large pages behind it: page faults are a third of what reading a large
-/// stub costs. The library takes its memory piece by piece and gives none back.
+/// Has the library, which takes its memory piece by piece and gives none back, take it in few steps.
 void prepareHeap(std::uintmax_t size) {
     // Six bytes of memory for one of a usual stub.
     constexpr std::uintmax_t worthwhile = 1U << 20U;
     constexpr std::uintmax_t largest = 1U << 30U;
     if (size < worthwhile) return;
-    const auto room = static_cast<int>(std::min(6 * size, largest));
-    (void)mallopt(M_MMAP_THRESHOLD, static_cast<int>(largest));
-    (void)mallopt(M_TOP_PAD, room);
-    constexpr std::size_t beyondTheFirstHeap = 256U << 10U;
-    void* volatile const first = std::malloc(beyondTheFirstHeap);  // or the compiler would leave it out
-    std::free(first);
-    auto* const end = static_cast<char*>(::sbrk(0));
-    char* start = end - room;
-    start -= reinterpret_cast<std::uintptr_t>(start) % pageSize;
-    (void)::madvise(start, static_cast<std::size_t>(end - start), MADV_HUGEPAGE);
+#if defined(__GLIBC__)
+    (void)::mallopt(M_MMAP_THRESHOLD, static_cast<int>(largest));
+#endif
+    (void)growHeapBy(static_cast<std::size_t>(std::min(6 * size, largest)));
 }
 
 }  // namespace

@@ -3,9 +3,11 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
 
-#include "console.h"
-#include "suggestion.h"
+#include "printing/console.h"
+#include "printing/text.h"
 
 namespace tarq::command {
 
@@ -114,6 +116,8 @@ constexpr CommandRow commands[] = {{"solve", Action::Solve},
                                    {"parameters", Action::Parameters},
                                    {"describe", Action::Describe}};
 
+const char* nameOf(Action action) { return std::ranges::find(commands, action, &CommandRow::action)->name; }
+
 void addEngineOption(CLI::App& app, std::string& engine) {
     app.add_option("--engine", engine, "Engine library to use instead of the one beside the component")
         ->option_text("FILE");
@@ -128,13 +132,19 @@ void addLanguageOptions(CLI::App& app, LanguageOptions& options) {
     app.add_flag("--listing", options.listing, "Show what the translator of a language says");
 }
 
-void describeSolve(CLI::App& app, SolveOptions& options) {
+/// What names the one file that a command reads.
+template <class Options>
+void addModelFile(CLI::App& app, Options& options) {
     app.add_option("FILE", options.file, "Model file; - is standard input and needs --format")
         ->option_text(" ")
         ->required();
     app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
         ->option_text(readFormats);
     addLanguageOptions(app, options.language);
+}
+
+void describeSolve(CLI::App& app, SolveOptions& options) {
+    addModelFile(app, options);
     app.add_option("--set", "Set a solver parameter; may be repeated")
         ->option_text("NAME=VALUE")
         ->expected(1)
@@ -163,12 +173,7 @@ void describeConvert(CLI::App& app, ConvertOptions& options) {
 }
 
 void describeShow(CLI::App& app, ShowOptions& options) {
-    app.add_option("FILE", options.file, "Model file; - is standard input and needs --format")
-        ->option_text(" ")
-        ->required();
-    app.add_option("--format", options.format, "Format of the file, if the extension doesn't tell it")
-        ->option_text(readFormats);
-    addLanguageOptions(app, options.language);
+    addModelFile(app, options);
     app.add_option("--rows", options.rows, "Only these rows")->option_text("FIRST:LAST");
     app.add_option("--cols", options.columns, "Only these columns")->option_text("FIRST:LAST");
     app.footer(showFooter);
@@ -242,42 +247,31 @@ CommandLine refused(std::string_view complaint, std::string_view command) {
     return line;
 }
 
-}  // namespace
+/// The command that was given, with a blank behind it; empty for none.
+std::string givenCommand(CLI::App& app) {
+    const std::vector<CLI::App*> given = app.get_subcommands();
+    return given.empty() ? "" : given.front()->get_name() + " ";
+}
 
-CommandLine parseCommandLine(int argc, const char* const* argv) {
-    CommandLine line;
-    bool version = false;
-    CLI::App app("Solves linear and mixed-integer optimization models.", "tarq");
+/// Puts the program's options and commands into `app`, which will fill `line`.
+void describeProgram(CLI::App& app, CommandLine& line, bool& version) {
     app.add_flag("--version", version, "Show the version of the program and of the engine");
     addEngineOption(app, line.engine);
     app.footer(programFooter);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.require_subcommand(0, 1);
-    const auto add = [&](const char* name, const char* help) -> CLI::App& {
-        return *app.add_subcommand(name, help)->group("Commands");
+    const auto add = [&](Action action, const char* help) -> CLI::App& {
+        return *app.add_subcommand(nameOf(action), help)->group("Commands");
     };
-    CLI::App& solve = add("solve", "Solve a model file");
-    describeSolve(solve, line.solve);
-    describeConvert(add("convert", "Write a model file in another format"), line.convert);
-    describeShow(add("show", "Show a model file as a readable listing"), line.show);
-    describeParameters(add("parameters", "List or explain the solver parameters"), line.parameters);
-    describeDescribe(add("describe", "List or explain classes, interfaces and enumerations"), line.describe);
+    describeSolve(add(Action::Solve, "Solve a model file"), line.solve);
+    describeConvert(add(Action::Convert, "Write a model file in another format"), line.convert);
+    describeShow(add(Action::Show, "Show a model file as a readable listing"), line.show);
+    describeParameters(add(Action::Parameters, "List or explain the solver parameters"), line.parameters);
+    describeDescribe(add(Action::Describe, "List or explain classes, interfaces and enumerations"), line.describe);
+}
 
-    const auto command = [&]() -> std::string {
-        const std::vector<CLI::App*> given = app.get_subcommands();
-        return given.empty() ? "" : given.front()->get_name() + " ";
-    };
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::CallForHelp& help) {
-        line.exitCode = writeResult(app.help(), ExitCode::Success);
-        return line;
-    } catch (const CLI::ParseError& error) {
-        const std::vector<std::string> rest = app.remaining();
-        const bool isCommand = command().empty() && !rest.empty() && !rest.front().starts_with('-');
-        return refused(isCommand ? complaintAboutCommand(rest.front()) : error.what(), command());
-    }
-
+/// What the parsed arguments ask for.
+CommandLine understood(CLI::App& app, CommandLine line, bool version) {
     if (version) {
         line.action = Action::Version;
         return line;
@@ -286,14 +280,33 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
         if (app.got_subcommand(row.name)) line.action = row.action;
     }
     if (line.action == Action::None) return refused(complaintAboutCommand(""), "");
-    if (line.action == Action::Solve) {
-        line.solve.parameters = parameterSources(solve);
-        if (const std::string complaint = complaintAbout(solve, line.solve); !complaint.empty()) {
-            return refused(complaint, command());
-        }
-        if (line.solve.engine.empty()) line.solve.engine = line.engine;
+    if (line.action != Action::Solve) return line;
+    const CLI::App& solve = *app.get_subcommand(nameOf(Action::Solve));
+    line.solve.parameters = parameterSources(solve);
+    if (line.solve.engine.empty()) line.solve.engine = line.engine;
+    const std::string complaint = complaintAbout(solve, line.solve);
+    return complaint.empty() ? line : refused(complaint, givenCommand(app));
+}
+
+}  // namespace
+
+CommandLine parseCommandLine(int argc, const char* const* argv) {
+    CommandLine line;
+    bool version = false;
+    CLI::App app("Solves linear and mixed-integer optimization models.", "tarq");
+    describeProgram(app, line, version);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        line.exitCode = writeResult(app.help());
+        return line;
+    } catch (const CLI::ParseError& error) {
+        const std::vector<std::string> rest = app.remaining();
+        const std::string command = givenCommand(app);
+        const bool isCommand = command.empty() && !rest.empty() && !rest.front().starts_with('-');
+        return refused(isCommand ? complaintAboutCommand(rest.front()) : error.what(), command);
     }
-    return line;
+    return understood(app, std::move(line), version);
 }
 
 }  // namespace tarq::command

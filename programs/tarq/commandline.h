@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "exitcodes.h"
+#include "model/failure.h"
 
 namespace tarq::command {
 

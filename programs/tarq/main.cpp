@@ -3,14 +3,8 @@
 #include <exception>
 
 #include "commandline.h"
-#include "console.h"
-#include "convertcommand.h"
-#include "describecommand.h"
-#include "parameterscommand.h"
-#include "showcommand.h"
-#include "solvecommand.h"
-#include "standardstreams.h"
-#include "versioncommand.h"
+#include "commands/commands.h"
+#include "printing/console.h"
 
 namespace {
 
@@ -43,6 +37,8 @@ int main(int argc, char** argv) {
     fillStandardStreams();
     try {
         return static_cast<int>(run(argc, argv));
+    } catch (const Failure& failure) {
+        return static_cast<int>(show(failure));
     } catch (const std::bad_alloc&) {
         showMessage("out of memory");
     } catch (const std::exception& failure) {

@@ -7,16 +7,15 @@
 #include <exception>
 #include <optional>
 
-#include "console.h"
+#include "commands/commands.h"
 #include "driveroptions.h"
-#include "languageinput.h"
-#include "lasterror.h"
-#include "parameterscommand.h"
-#include "report.h"
-#include "run.h"
-#include "standardstreams.h"
+#include "files/languageinput.h"
+#include "model/modelobject.h"
+#include "printing/console.h"
+#include "printing/runreport.h"
+#include "printing/text.h"
+#include "run/run.h"
 #include "tarq/component/amplsolutionfile.h"
-#include "terminal.h"
 
 namespace {
 
@@ -82,7 +81,7 @@ int solve(const DriverOptions& options) {
     const Status written = writeAmplSolutionFile(*model, options.stub, messageOf(result));
     if (written.failed()) return fail(*complaint(options.stub + ".sol", written));
     if (options.calledByAmpl) return 0;
-    return static_cast<int>(writeResult(fullReport(*model, result), ExitCode::Success));
+    return static_cast<int>(writeResult(fullReport(*model, result)));
 }
 
 int run(int count, char** arguments) {
@@ -107,6 +106,8 @@ int main(int count, char** arguments) {
     fillStandardStreams();
     try {
         return run(count, arguments);
+    } catch (const Failure& failure) {
+        return static_cast<int>(show(failure));
     } catch (const std::exception& failure) {
         (void)std::fputs("tarqampl: ", stderr);
         (void)std::fputs(failure.what(), stderr);

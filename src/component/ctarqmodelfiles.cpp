@@ -20,11 +20,10 @@ Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eF
 
 Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
                                    const Variant& StartCol, const Variant& EndCol) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded(classid::TARQModel, [&]() -> Outcome {
         TARQ_TRY(checkWrittenName(FileName));
-        ModelCutout cutout{};
-        Outcome resolved = resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout);
-        return resolved.isOk() ? writeModelListing(FileName, {store_, parameters_, modelName_}, cutout) : resolved;
+        TARQ_ASSIGN(const ModelCutout cutout, resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}));
+        return writeModelListing(FileName, {store_, parameters_, modelName_}, cutout);
     });
 }
 

@@ -17,7 +17,10 @@ bool anyNull(Pointers... pointers) {
 
 Status CTARQModel::get_Parameter(const std::string& ParameterName, Variant* value) {
     if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return readParameter(parameters_, ParameterName, *value); });
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        TARQ_ASSIGN(*value, readParameter(parameters_, ParameterName));
+        return {};
+    });
 }
 
 Status CTARQModel::put_Parameter(const std::string& ParameterName, const Variant& value) {
@@ -37,10 +40,8 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
                 lpControl)) {
         return status::nullPointer;
     }
-    return guarded(classid::TARQModel, [&] {
-        ParameterInfo info;
-        Outcome outcome = parameterInfo(parameters_, ParameterID, info);
-        if (!outcome.isOk()) return outcome;
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        TARQ_ASSIGN(ParameterInfo info, parameterInfo(parameters_, ParameterID));
         std::string name(info.name);
         std::string description(info.description);
         *Type = static_cast<std::int32_t>(info.type);
@@ -54,20 +55,18 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
         *bsDescription = std::move(description);
         *lpCategory = static_cast<std::int32_t>(info.section);
         *lpControl = static_cast<std::int32_t>(info.control);
-        return outcome;
+        return {};
     });
 }
 
 Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
                                       std::string* bsOptionName) {
     if (anyNull(lpOptionValue, bsOptionName)) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] {
-        ParameterOption option{};
-        Outcome outcome = parameterOption(lParameterID, lOptionID, option);
-        if (!outcome.isOk()) return outcome;
+    return guarded(classid::TARQModel, [&]() -> Outcome {
+        TARQ_ASSIGN(const ParameterOption option, parameterOption(lParameterID, lOptionID));
         *bsOptionName = std::string(option.text);
         *lpOptionValue = option.value;
-        return outcome;
+        return {};
     });
 }
 

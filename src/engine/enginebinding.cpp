@@ -4,6 +4,7 @@
 
 #include "engine/enginelibrary.h"
 #include "engine/enginetext.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 
@@ -48,7 +49,7 @@ std::string EngineBinding::versionText() {
     std::shared_ptr<EngineInterface> bound = engine();
     if (!bound && bindEngine().isOk()) bound = engine();
     EngineText text;
-    if (!bound || !text.read(*bound, "xversn")) return "unknown";
+    if (!bound || !text.read(*bound, "xversn")) return std::string(unknownEngineVersion);
     return std::string(text.view());
 }
 

@@ -14,6 +14,7 @@
 #include "parameters/parameterrows.h"
 #include "platform/exceptionbarrier.h"
 #include "platform/thread.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 namespace {
@@ -208,7 +209,7 @@ Run::Step Run::transferModel() {
     if (result == TarqOutOfMemory) {
         return fail(status::engineMemory, "Not enough memory for model in TARQ.DLL increase XMREAL.");
     }
-    if (result == TarqInputError) return fail(status::engineSetup, "Input error while transfering model to TARQ.DLL.");
+    if (result == TarqInputError) return fail(status::engineSetup, std::string(failuretext::modelNotTransferred));
     return {};
 }
 

@@ -1,5 +1,5 @@
-// Failures in one line: Result, a value or the words of what kept it from being made, and the two ways to pass a failure
-// on to the caller.
+// Failures in one line: Result, a value or the words of what kept it from being made, and the two ways to pass a
+// failure on to the caller.
 #pragma once
 
 #include <optional>
@@ -37,8 +37,11 @@ private:
 
 namespace detail {
 
-inline Status failureOf(Status status) { return status; }
-inline Outcome failureOf(Outcome outcome) { return outcome; }
+/// A Status, an Outcome, or what a room has in their place; it tells by isOk() whether it is a failure.
+template <class Failure>
+Failure failureOf(Failure failure) {
+    return failure;
+}
 template <class T>
 Outcome failureOf(Result<T>&& result) {
     return std::move(result).outcome();
@@ -60,7 +63,7 @@ Outcome failureOf(Result<T>&& result) {
 /// TARQ_ASSIGN(const auto place, operation); declares or sets the first from the value of `operation` (a Result), or
 /// returns what it tells in the value's place.
 #define TARQ_ASSIGN(target, ...) TARQ_ASSIGN_NAMED(TARQ_JOIN(resultNumber, __COUNTER__), target, __VA_ARGS__)
-#define TARQ_ASSIGN_NAMED(result, target, ...)                 \
-    auto result = (__VA_ARGS__);                               \
-    if (!result.isOk()) return std::move(result).outcome();    \
+#define TARQ_ASSIGN_NAMED(result, target, ...)              \
+    auto result = (__VA_ARGS__);                            \
+    if (!result.isOk()) return std::move(result).outcome(); \
     target = *std::move(result)

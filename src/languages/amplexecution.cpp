@@ -29,9 +29,9 @@ Outcome executeAmplModel(const std::string& modelFile, const AmplLocations& loca
                          LanguageTarget& target) {
     const std::string translator = findProgram(locations.translator);
     const std::string driver = findProgram(locations.driver);
-    TARQ_TRY(checkInputFile(translator, "AMPL.EXE"));
+    TARQ_TRY(checkInputFile(translator, ampl::aboutTranslator));
     TARQ_TRY(checkInputFile(driver, "TARQAMPL.EXE"));
-    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
+    TARQ_TRY(checkInputFile(modelFile, ampl::aboutModelFile));
 
     const TemporaryFile profile;
     if (!profile.isMade() || !writeProfile(profile.name(), parameters).isOk()) {
@@ -47,11 +47,10 @@ Outcome executeAmplModel(const std::string& modelFile, const AmplLocations& loca
                                  optionLine("LocationOfTARQDLL", locations.engine) + "include '" + modelFile + "';\n";
     TARQ_TRY(writeAmplCommands(commandFile, commands));
 
-    std::string output;
-    Outcome run = runAmplTranslator(translator, {"-P", commandFile}, target,
-                                    {status::externalProcess, "Error reading AMPL output."}, output);
-    if (run.isOk()) target.setOutput(std::move(output));
-    return run;
+    TARQ_ASSIGN(std::string output, runAmplTranslator(translator, {"-P", commandFile}, target,
+                                                      {status::externalProcess, "Error reading AMPL output."}));
+    target.setOutput(std::move(output));
+    return {};
 }
 
 }  // namespace tarq

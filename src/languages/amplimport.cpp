@@ -12,19 +12,22 @@
 #include "parameters/inputfile.h"
 #include "platform/programsearch.h"
 #include "platform/temporaryfile.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 namespace {
 
-Outcome checkDataFiles(const ValueList& list, std::vector<std::string>& names) {
+/// The names of the data files, each a text and a file that can be read.
+Result<std::vector<std::string>> checkDataFiles(const ValueList& list) {
+    std::vector<std::string> names;
     const ValueList::Walk walk = list.walk();
     for (const Variant& value : walk) {
         const Variant name = value.copyDereferenced();
-        if (!name.isText()) return {status::invalidArgument, "Parameter for .dat filename is no string."};
-        TARQ_TRY(checkInputFile(name.text(), fmt::format(".DAT file '{}'", name.text())));
+        if (!name.isText()) return Outcome(status::invalidArgument, "Parameter for .dat filename is no string.");
+        TARQ_TRY(checkInputFile(name.text(), fmt::format("{} '{}'", failuretext::aboutDataFile, name.text())));
         names.push_back(name.text());
     }
-    return {};
+    return names;
 }
 
 std::string importCommands(const std::string& modelFile, const std::vector<std::string>& dataFiles) {
@@ -34,16 +37,17 @@ std::string importCommands(const std::string& modelFile, const std::vector<std::
     return commands + "option auxfiles 'cr';\n";
 }
 
-/// The stub is the temporary file's name; the file itself has served once the translator has ended.
-Outcome translate(const std::string& program, const std::string& commands, const LanguageTarget& target,
-                  TemporaryFile& stub, std::string& output) {
+/// Has the translator write a stub; what it has said. The stub is the temporary file's name; the file itself has served
+/// once the translator has ended.
+Result<std::string> translate(const std::string& program, const std::string& commands, const LanguageTarget& target,
+                              TemporaryFile& stub) {
     const std::string commandFile = stub.companion(".acf");
     TARQ_TRY(writeAmplCommands(commandFile, commands));
     for (const char* suffix : {".nl", ".col", ".row"}) (void)stub.companion(suffix);
-    Outcome run = runAmplTranslator(program, {"-P", "-og" + stub.name(), commandFile}, target, ampl::ioError(), output);
+    auto output = runAmplTranslator(program, {"-P", "-og" + stub.name(), commandFile}, target, ampl::ioError());
     stub.removeFile();
-    if (!run.isOk()) stub.keep();
-    return run;
+    if (!output.isOk()) stub.keep();
+    return output;
 }
 
 }  // namespace
@@ -51,22 +55,18 @@ Outcome translate(const std::string& program, const std::string& commands, const
 Outcome readAmplModel(const std::string& modelFile, const ValueList& dataFiles, const std::string& translator,
                       LanguageTarget& target) {
     const std::string program = findProgram(translator);
-    std::vector<std::string> dataNames;
-    TARQ_TRY(checkInputFile(program, "AMPL.EXE"));
-    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
-    TARQ_TRY(checkDataFiles(dataFiles, dataNames));
+    TARQ_TRY(checkInputFile(program, ampl::aboutTranslator));
+    TARQ_TRY(checkInputFile(modelFile, ampl::aboutModelFile));
+    TARQ_ASSIGN(const std::vector<std::string> dataNames, checkDataFiles(dataFiles));
 
     TemporaryFile stub;
     if (!stub.isMade()) return {status::temporaryFile, "Can't create teporary stub file."};
-    std::string output;
-    Outcome outcome = translate(program, importCommands(modelFile, dataNames), target, stub, output);
-    if (!outcome.isOk()) return outcome;
+    TARQ_ASSIGN(std::string output, translate(program, importCommands(modelFile, dataNames), target, stub));
     target.setOutput(output);
+    Outcome outcome(status::modelRejected, "Error in AMPL model.");
     if (checkInputFile(stub.name() + ".nl", "").isOk()) {
         outcome = readAmplStub(stub.name(), target);
         target.setOutput(std::move(output));  // the reading may have emptied it
-    } else {
-        outcome = {status::modelRejected, "Error in AMPL model."};
     }
     if (!outcome.isOk()) stub.keep();
     return outcome;

@@ -15,11 +15,12 @@ Outcome writeAmplCommands(const std::string& fileName, std::string_view commands
     return file.close() ? Outcome() : ampl::noCommandFile();
 }
 
-Outcome runAmplTranslator(const std::string& program, const std::vector<std::string>& arguments,
-                          const LanguageTarget& target, Outcome readFailure, std::string& output) {
+Result<std::string> runAmplTranslator(const std::string& program, const std::vector<std::string>& arguments,
+                                      const LanguageTarget& target, Outcome readFailure) {
+    std::string output;
     switch (runProgram(program, arguments, target.outputLimit() - 1, output)) {
         case RunOutcome::Done:
-            return {};
+            return output;
         case RunOutcome::NoPipe:
             return ampl::ioError();
         case RunOutcome::NotStarted:

@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "frame/result.h"
+#include "languages/amplfailures.h"
 #include "parameters/inputfile.h"
 #include "platform/dynamiclibrary.h"
 #include "platform/temporaryfile.h"
 #include "platform/wholefile.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
 namespace {
@@ -141,13 +143,13 @@ Outcome copyProblem(const MathProgLibrary& library, LanguageTarget& target) {
     return {};
 }
 
-/// Checks the name of the data file, which is a text or missing, and stores it.
-Outcome checkDataFile(const Variant& dataFile, std::string& name) {
+/// The name of the data file, which can be read; empty for a missing one.
+Result<std::string> checkDataFile(const Variant& dataFile) {
     Variant plain = dataFile.copyDereferenced();
-    if (plain.isMissing()) return {};
-    if (!plain.isText()) return {status::invalidArgument, "Bad argument for .DAT filename."};
-    name = plain.takeText();
-    return checkInputFile(name, ".DAT file");
+    if (plain.isMissing()) return std::string();
+    if (!plain.isText()) return Outcome(status::invalidArgument, "Bad argument for .DAT filename.");
+    TARQ_TRY(checkInputFile(plain.text(), failuretext::aboutDataFile));
+    return plain.takeText();
 }
 
 /// Has the library read the model. True when it did.
@@ -167,11 +169,10 @@ Outcome importMathProgModel(const MathProgLibrary& library, const std::string& m
     if (!library.isBoundBut<"mp_create_prob", "mp_print_prob">()) {
         return {status::entryPointsMissing, "Could not get MathProg.DLL function handles."};
     }
-    TARQ_TRY(checkInputFile(modelFile, ".MOD file"));
-    std::string dataFileName;
-    TARQ_TRY(checkDataFile(dataFile, dataFileName));
+    TARQ_TRY(checkInputFile(modelFile, ampl::aboutModelFile));
+    TARQ_ASSIGN(const std::string dataFileName, checkDataFile(dataFile));
     const TemporaryFile listingFile;
-    if (!listingFile.isMade()) return {status::temporaryFile, "AMPL I/O Error."};
+    if (!listingFile.isMade()) return ampl::ioError();
 
     const std::lock_guard lock(libraryInUse());
     const bool wasRead = readInLibrary(library, modelFile, dataFileName, listingFile.name());

@@ -15,29 +15,32 @@ namespace tarq {
 /// are equal exactly when their words are. The default is the empty name.
 class FixedName {
 public:
+    /// Bytes that a name may have.
+    static constexpr std::size_t longest = 8;
+
     FixedName() = default;
     /// Takes the first eight bytes of `field`, blanks in front not counted.
     constexpr explicit FixedName(std::string_view field) {
-        if (field.size() < length || field.front() == ' ') {
+        if (field.size() < longest || field.front() == ' ') {
             field.remove_prefix(std::min(field.find_first_not_of(' '), field.size()));
-            field.copy(bytes_.data(), length);
+            field.copy(bytes_.data(), longest);
         } else {
-            std::memcpy(bytes_.data(), field.data(), length);
+            std::memcpy(bytes_.data(), field.data(), longest);
         }
     }
 
     /// `name`, at most eight bytes without a blank, in capitals. `rest` begins with the name and may be longer.
     [[nodiscard]] static FixedName inCapitals(std::size_t size, std::string_view rest) {
         FixedName name;
-        if (rest.size() < length) {
+        if (rest.size() < longest) {
             rest.copy(name.bytes_.data(), size);
         } else {
             // All eight bytes at once, and blanks over those behind the name.
             const std::uint64_t kept = std::bit_cast<std::uint64_t>(keptBytes[size]);
             std::uint64_t word = 0;
-            std::memcpy(&word, rest.data(), length);
+            std::memcpy(&word, rest.data(), longest);
             word = (word & kept) | (name.word() & ~kept);
-            std::memcpy(name.bytes_.data(), &word, length);
+            std::memcpy(name.bytes_.data(), &word, longest);
         }
         name.raise();
         return name;
@@ -46,12 +49,12 @@ public:
     [[nodiscard]] bool empty() const { return *this == FixedName(); }
     /// Valid as long as this object.
     [[nodiscard]] std::string_view text() const {
-        const std::string_view padded(bytes_.data(), length);
+        const std::string_view padded(bytes_.data(), longest);
         return padded.substr(0, padded.find_last_not_of(' ') + 1);
     }
     [[nodiscard]] std::uint64_t word() const {
         std::uint64_t word = 0;
-        std::memcpy(&word, bytes_.data(), length);
+        std::memcpy(&word, bytes_.data(), longest);
         return word;
     }
 
@@ -69,13 +72,12 @@ public:
     friend bool operator==(const FixedName& left, const FixedName& right) { return left.word() == right.word(); }
 
 private:
-    static constexpr std::size_t length = 8;
-    using Bytes = std::array<char, length>;
+    using Bytes = std::array<char, longest>;
 
     /// By the size of a name, all bits of the bytes that are its own.
-    static constexpr std::array<Bytes, length + 1> keptBytes = [] {
-        std::array<Bytes, length + 1> kept{};
-        for (std::size_t size = 0; size <= length; ++size) {
+    static constexpr std::array<Bytes, longest + 1> keptBytes = [] {
+        std::array<Bytes, longest + 1> kept{};
+        for (std::size_t size = 0; size <= longest; ++size) {
             for (std::size_t i = 0; i < size; ++i) kept[size][i] = '\xFF';
         }
         return kept;
@@ -92,7 +94,7 @@ private:
         const std::uint64_t beyondZ = low + each * (0x7FU - 'z');
         const std::uint64_t small = (fromA ^ beyondZ) & ~word & topBits;
         const std::uint64_t raised = word ^ (small >> 2U);
-        std::memcpy(bytes_.data(), &raised, length);
+        std::memcpy(bytes_.data(), &raised, longest);
     }
 
     Bytes bytes_{' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};

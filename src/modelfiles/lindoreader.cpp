@@ -2,31 +2,26 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <string_view>
 #include <utility>
 
 #include "frame/numbertext.h"
+#include "frame/result.h"
 #include "modelfiles/columnfinder.h"
 #include "modelfiles/columnstatements.h"
+#include "modelfiles/complaint.h"
 #include "modelfiles/fixedname.h"
-#include "modelfiles/freetokenscanner.h"
+#include "modelfiles/lindoscanner.h"
 #include "modelfiles/lindotarget.h"
 
 namespace tarq {
 namespace {
 
-constexpr std::size_t longestName = 8;
 /// So many terms tell how many the objective has.
 constexpr std::int32_t sampleLength = 1000;
 /// No file makes the reader take much memory by what it seems to hold.
 constexpr double largestGuess = 1e6;
-
-/// A token in capitals, which may be of any length.
-std::string inCapitals(std::string_view token) {
-    std::string text(token);
-    for (char& character : text) character = upperCased(character);
-    return text;
-}
 
 bool isOperator(char character) {
     return character == '+' || character == '-' || character == '<' || character == '>' || character == '=';
@@ -42,13 +37,6 @@ constexpr SumMessages objectiveMessages{"Incomplete objective function.", "Varia
                                         true};
 constexpr SumMessages restrictionMessages{"Incomplete restriction.", "Variable name may not start with a number.",
                                           false};
-
-/// A message; empty where all went well.
-using Message = std::string;
-
-Message missing(std::string_view what, FixedName keyword) {
-    return std::string("Missing ").append(what).append(" name after ").append(keyword.text()).append(".");
-}
 
 struct Keyword {
     FixedName name;
@@ -68,14 +56,11 @@ public:
         : scanner_(std::move(text)), model_(model), store_(model.store()), target_(model.store()) {}
 
     std::optional<ParseFailure> read() {
-        Message message = readDirection();
-        if (message.empty()) message = readObjective();
-        if (message.empty()) message = readRestrictions();
+        Complaint complaint = readSums();
         // What stands before a failure stays in the model.
         target_.finish();
-        if (message.empty()) message = readStatements();
-        if (message.empty()) return std::nullopt;
-        return ParseFailure{std::move(message), scanner_.currentLineNumber()};
+        if (complaint.isOk()) complaint = readStatements();
+        return complaint.at(scanner_);
     }
 
 private:
@@ -84,7 +69,13 @@ private:
         FixedName variable;
     };
 
-    Message readDirection() {
+    Complaint readSums() {
+        TARQ_TRY(readDirection());
+        TARQ_TRY(readObjective());
+        return readRestrictions();
+    }
+
+    Complaint readDirection() {
         if (!scanner_.nextToken()) return "Unexpected end of file.";
         const std::string direction = inCapitals(scanner_.token());
         const bool isMaximum = direction == "MAX" || direction == "MAXIMIZE";
@@ -92,15 +83,15 @@ private:
             return "Optimization direction (MIN/MAX) expected.";
         }
         model_.setParameter("xminmx", isMaximum ? "max" : "min");
-        return scanner_.nextToken() ? Message() : "Start of objective function expected.";
+        return scanner_.nextToken() ? Complaint() : "Start of objective function expected.";
     }
 
-    Message readObjective() {
+    Complaint readObjective() {
         const std::size_t start = scanner_.tokenStart();
         for (std::int32_t count = 0; !scanner_.isSubjectToHere(); ++count) {
             if (count == sampleLength) reserveColumns(start);
             Term term;
-            if (!readTerm(count == 0, objectiveMessages, term)) return termFailure_;
+            TARQ_TRY(readTerm(count == 0, objectiveMessages, term));
             target_.addCost(term.variable, term.coefficient);
             if (!scanner_.nextToken()) return "Unexpected end of file, missing constraints.";
         }
@@ -119,58 +110,55 @@ private:
             static_cast<std::size_t>(std::min(margin * sampleLength * (1.0 + rest / read), largestGuess)));
     }
 
-    /// Reads a term up to its variable. As terms are many, the message of a failure is left behind instead of handed
-    /// back.
-    [[nodiscard]] bool readTerm(bool isFirst, const SumMessages& messages, Term& term) {
-        double sign = 1.0;
-        if (scanner_.isSign()) {
-            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
-            if (!scanner_.nextToken()) return fail(messages.incomplete);
-        } else if (!isFirst) {
-            return fail("+ or - expected.");
-        }
-        if (scanner_.readNumber(term.coefficient) && !scanner_.nextToken()) return fail("Expecting variable name.");
-        term.coefficient *= sign;
-        if (!checkName(messages)) return false;
-        term.variable = scanner_.shortToken();
-        return true;
+    /// Reads a sign where there is one: 1 or -1, or 0 when nothing stands behind it.
+    [[nodiscard]] double readSign() {
+        if (!scanner_.isSign()) return 1.0;
+        const double sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
+        return scanner_.nextToken() ? sign : 0.0;
     }
 
-    [[nodiscard]] bool checkName(const SumMessages& messages) {
+    /// Reads a term up to its variable.
+    Complaint readTerm(bool isFirst, const SumMessages& messages, Term& term) {
+        if (!isFirst && !scanner_.isSign()) return "+ or - expected.";
+        const double sign = readSign();
+        if (sign == 0.0) return messages.incomplete;
+        if (scanner_.readNumber(term.coefficient) && !scanner_.nextToken()) return "Expecting variable name.";
+        term.coefficient *= sign;
+        TARQ_TRY(checkName(messages));
+        term.variable = scanner_.shortToken();
+        return {};
+    }
+
+    Complaint checkName(const SumMessages& messages) {
         const std::string_view name = scanner_.token();
-        if (name.size() > longestName) return fail("Variable names may not be longer than 8 characters.");
-        if (name.front() >= '0' && name.front() <= '9') return fail(messages.digitFirst);
+        if (name.size() > FixedName::longest) return "Variable names may not be longer than 8 characters.";
+        if (name.front() >= '0' && name.front() <= '9') return messages.digitFirst;
         // No other token begins with an operator, and no word has one inside.
         if (isOperator(name.front())) {
-            if (messages.isObjective && scanner_.isSign()) return fail("No constans allowed in objective function.");
-            return fail(std::string("Illegal character in variable name '").append(name).append("'."));
+            if (messages.isObjective && scanner_.isSign()) return "No constans allowed in objective function.";
+            return complain({"Illegal character in variable name '", name, "'."});
         }
-        if (!messages.isObjective || !scanner_.isSubjectToHere()) return true;
+        if (!messages.isObjective || !scanner_.isSubjectToHere()) return {};
         if (equalsInUpperCase(scanner_.token(), "ST")) {
-            return fail("Token 'ST' appears after incomplete objective function. Don't use ST as a variable name.");
+            return "Token 'ST' appears after incomplete objective function. Don't use ST as a variable name.";
         }
-        return fail("'SUBJECT TO' appears after incomplete objective function.");
+        return "'SUBJECT TO' appears after incomplete objective function.";
     }
 
-    bool fail(std::string_view message) {
-        termFailure_ = message;
-        return false;
-    }
-
-    Message readRestrictions() {
+    Complaint readRestrictions() {
         for (;;) {
             if (scanner_.token().empty()) return "Unexpected end of file, 'END' missing.";
             if (equalsInUpperCase(scanner_.token(), "END")) {
                 (void)scanner_.nextToken();
                 return {};
             }
-            if (Message message = readRestriction(); !message.empty()) return message;
+            TARQ_TRY(readRestriction());
             (void)scanner_.nextToken();
         }
     }
 
-    Message readRestriction() {
-        if (scanner_.token().size() > longestName) {
+    Complaint readRestriction() {
+        if (scanner_.token().size() > FixedName::longest) {
             return "Name of restriction or variable is longer than 8 characters.";
         }
         RowRecord row;
@@ -184,9 +172,9 @@ private:
         (void)store_.addRowRecord(std::move(row));
         for (bool isFirst = true; isFirst || !scanner_.isRelation(); isFirst = false) {
             Term term;
-            if (!readTerm(isFirst, restrictionMessages, term)) return termFailure_;
+            TARQ_TRY(readTerm(isFirst, restrictionMessages, term));
             target_.addToRow(term.variable, term.coefficient);
-            if (!scanner_.nextToken()) return Message(restrictionMessages.incomplete);
+            if (!scanner_.nextToken()) return restrictionMessages.incomplete;
         }
         return readRightHandSide();
     }
@@ -194,19 +182,16 @@ private:
     /// Fetches what the name of the next row will look at.
     void fetchNextRow() const {
         const std::string_view name = scanner_.wordBeforeCloseParen();
-        if (name.size() <= longestName) store_.prefetchRow(FixedName::inCapitals(name.size(), name).text());
+        if (name.size() <= FixedName::longest) store_.prefetchRow(FixedName::inCapitals(name.size(), name).text());
     }
 
-    Message readRightHandSide() {
+    Complaint readRightHandSide() {
         const char relation = scanner_.token().find('<') != std::string_view::npos   ? '<'
                               : scanner_.token().find('>') != std::string_view::npos ? '>'
                                                                                      : '=';
         if (!scanner_.nextToken()) return "RHS of restriction is missing.";
-        double sign = 1.0;
-        if (scanner_.isSign()) {
-            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
-            if (!scanner_.nextToken()) return "Incomplete RHS.";
-        }
+        const double sign = readSign();
+        if (sign == 0.0) return "Incomplete RHS.";
         double value = 0.0;
         if (!scanner_.readNumber(value)) return "RHS is no valid number.";
         value = store_.clampToInfinity(sign * value);
@@ -216,20 +201,20 @@ private:
         return {};
     }
 
-    Message readStatements() {
+    Complaint readStatements() {
         ColumnStatements statements(store_);
-        Message message;
-        while (message.empty() && !scanner_.token().empty()) {
-            message = readStatement(statements);
-            if (message.empty()) (void)scanner_.nextToken();
+        Complaint complaint;
+        while (complaint.isOk() && !scanner_.token().empty()) {
+            complaint = readStatement(statements);
+            if (complaint.isOk()) (void)scanner_.nextToken();
         }
         statements.finish();
-        return message;
+        return complaint;
     }
 
-    Message readStatement(ColumnStatements& statements) {
+    Complaint readStatement(ColumnStatements& statements) {
         const std::string_view token = scanner_.token();
-        const FixedName keyword = token.size() <= longestName ? scanner_.shortToken() : FixedName();
+        const FixedName keyword = token.size() <= FixedName::longest ? scanner_.shortToken() : FixedName();
         if (keyword == lowerBound || keyword == upperBound) return readBound(keyword, statements);
         for (const auto& [name, statement] : columnKeywords) {
             if (keyword == name) return readTarget(keyword, statement, statements);
@@ -240,56 +225,62 @@ private:
         return {};
     }
 
-    Message readTarget(FixedName keyword, ColumnStatement statement, ColumnStatements& statements) {
+    Complaint readTarget(FixedName keyword, ColumnStatement statement, ColumnStatements& statements) {
         if (!scanner_.nextToken()) return missing("variable", keyword);
         std::int32_t count = 0;
         if (parseInteger(scanner_.token(), count)) {
             statements.applyToFirst(statement, std::min(count, store_.columnCount()));
             return {};
         }
-        std::int32_t position = 0;
-        Message message = findColumn(position);
-        if (message.empty()) statements.apply(statement, position);
-        return message;
+        const std::int32_t position = findColumn();
+        if (position < 0) return unknownVariable();
+        statements.apply(statement, position);
+        return {};
     }
 
-    Message readBound(FixedName keyword, ColumnStatements& statements) {
+    Complaint readBound(FixedName keyword, ColumnStatements& statements) {
         if (!scanner_.nextToken()) return missing("variable", keyword);
-        std::int32_t position = 0;
-        if (Message message = findColumn(position); !message.empty()) return message;
+        const std::int32_t position = findColumn();
+        if (position < 0) return unknownVariable();
         if (!scanner_.nextToken()) return missing("value", keyword);
-        double sign = 1.0;
-        if (scanner_.isSign()) {
-            sign = scanner_.firstCharacter() == '-' ? -1.0 : 1.0;
-            if (!scanner_.nextToken()) {
-                const std::string both = std::string(keyword.text()).append(" ").append(store_.column(position).name);
-                return std::string("Missing value name after ").append(both).append(".");
-            }
+        const double sign = readSign();
+        if (sign == 0.0) {
+            return complain({"Missing value name after ", keyword.text(), " ", store_.column(position).name, "."});
         }
         double value = 0.0;
-        if (!scanner_.readNumber(value)) {
-            return std::string("Bad numeric value for ").append(keyword.text()).append(".");
-        }
+        if (!scanner_.readNumber(value)) return complain({"Bad numeric value for ", keyword.text(), "."});
         ColumnRecord& column = statements.column(position);
         (keyword == lowerBound ? column.lowerBound : column.upperBound) = store_.clampToInfinity(sign * value);
         return {};
     }
 
-    Message findColumn(std::int32_t& position) {
-        if (scanner_.token().size() <= longestName) {
-            position = target_.numberedColumn(scanner_.shortToken());
-            if (position >= 0) return {};
+    /// The position of the column that the token names, below 0 where there is none.
+    [[nodiscard]] std::int32_t findColumn() {
+        if (scanner_.token().size() <= FixedName::longest) {
+            const std::int32_t position = target_.numberedColumn(scanner_.shortToken());
+            if (position >= 0) return position;
         }
         const std::string name = inCapitals(scanner_.token());
-        position = finder_.find(name, [&] { return store_.findColumn(name); });
-        return position >= 0 ? Message() : "Variable name '" + name + "' does not exist.";
+        return finder_.find(name, [&] { return store_.findColumn(name); });
     }
 
-    FreeTokenScanner scanner_;
+    Complaint unknownVariable() {
+        return complain({"Variable name '", inCapitals(scanner_.token()), "' does not exist."});
+    }
+    Complaint missing(std::string_view what, FixedName keyword) {
+        return complain({"Missing ", what, " name after ", keyword.text(), "."});
+    }
+    Complaint complain(std::initializer_list<std::string_view> parts) {
+        words_.clear();
+        for (const std::string_view part : parts) words_ += part;
+        return std::string_view(words_);
+    }
+
+    LindoScanner scanner_;
     ModelFileTarget& model_;
     ModelStore& store_;
     LindoTarget target_;
-    Message termFailure_;
+    std::string words_;            ///< of a complaint that names something
     ColumnFinder finder_{store_};  ///< of the statements
 };
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "modelfiles/modelfile.h"
-#include "modelfiles/parsefailure.h"
+#include "tarq/interfaces/parsefailure.h"
 
 namespace tarq {
 

@@ -5,25 +5,20 @@
 
 #include "frame/result.h"
 #include "modelfiles/fixednametable.h"
+#include "modelfiles/modelfilefailures.h"
+#include "modelfiles/modeltext.h"
 #include "modelfiles/numberforms.h"
 #include "modelfiles/termwriter.h"
-#include "modelfiles/writerfailures.h"
 #include "platform/localtime.h"
 #include "platform/outputfile.h"
 
 namespace tarq {
 namespace {
 
-constexpr std::size_t longestName = 8;
 constexpr std::string_view signs = "!)+-><= ";
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 bool hasSign(std::string_view name) { return name.find_first_of(signs) != std::string_view::npos; }
-
-std::string inCapitals(std::string name) {
-    for (char& c : name) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    return name;
-}
 
 Outcome refusedColumn(const std::string& name, std::string_view reason) {
     return {status::badColumnName, std::string("Variable name '").append(name).append("'").append(reason)};
@@ -37,7 +32,7 @@ Outcome checkColumns(const ModelStore& store) {
     known.reserve(static_cast<std::size_t>(store.columnCount()));
     for (std::int32_t i = 0; i < store.columnCount(); ++i) {
         const std::string& name = store.column(i).name;
-        if (name.size() > longestName) return refusedColumn(name, " is longer than 8 characters.");
+        if (name.size() > FixedName::longest) return columnNameTooLong(name);
         if (isDigit(name.front())) return refusedColumn(name, " may not start with a digit.");
         if (hasSign(name)) return refusedColumn(name, " contains illegal characters.");
         if (known.insert(FixedName(inCapitals(name)), i) != i) {
@@ -55,7 +50,7 @@ bool isRanged(const RowRecord& row, double infinity) {
 Outcome checkRows(const ModelStore& store) {
     for (std::int32_t i = 0; i < store.rowCount(); ++i) {
         const RowRecord& row = store.row(i);
-        if (row.name.size() > longestName) {
+        if (row.name.size() > FixedName::longest) {
             return {status::badRowName, "Row name '" + row.name + "' is longer than 8 characters."};
         }
         if (hasSign(row.name)) return {status::badRowName, "Row name '" + row.name + "' contains illegal characters."};
@@ -75,7 +70,7 @@ public:
         file_.write("! Lindo(c) format file written by TARQ Component at ");
         file_.write(localTimeStamp());
         file_.write('\n');
-        writeObjective(isMaximum ? "MAX   " : "MIN   ");
+        writeObjective(isMaximum);
         file_.write("\n\nSUBJECT TO\n");
         for (std::int32_t i = 0; i < store_.rowCount(); ++i) writeRow(i);
         file_.write("END\n\n");
@@ -83,9 +78,8 @@ public:
     }
 
 private:
-    void writeObjective(std::string_view direction) {
-        file_.write(direction);
-        terms_.begin(direction.size());
+    void writeObjective(bool isMaximum) {
+        terms_.beginObjective(isMaximum);
         for (std::int32_t i = 0; i < store_.columnCount(); ++i) {
             const ColumnRecord& column = store_.column(i);
             if (column.cost != 0.0) terms_.put(column.cost, column.name);
@@ -153,8 +147,8 @@ Outcome writeLindo(const std::string& fileName, const WrittenModel& model) {
     TARQ_TRY(checkRows(model.store));
     OutputFile file(fileName);
     if (!file.isOpen()) return openFailureOfLindo();
-    LindoWriter(model.store, file).write(model.parameters.stringValue(parameterIndex("xminmx")) == "max");
-    return file.close() ? Outcome() : writeFailure();
+    LindoWriter(model.store, file).write(model.isMaximum());
+    return file.close() ? Outcome() : fileFailure();
 }
 
 }  // namespace tarq

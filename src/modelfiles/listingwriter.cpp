@@ -4,10 +4,10 @@
 #include <string_view>
 
 #include "frame/text.h"
+#include "modelfiles/modelfilefailures.h"
 #include "modelfiles/modelwriter.h"
 #include "modelfiles/numberforms.h"
 #include "modelfiles/termwriter.h"
-#include "modelfiles/writerfailures.h"
 #include "platform/localtime.h"
 #include "platform/outputfile.h"
 
@@ -17,11 +17,7 @@ namespace {
 class ListingWriter {
 public:
     ListingWriter(const WrittenModel& model, const ModelCutout& cutout, OutputFile& file)
-        : store_(model.store),
-          cutout_(cutout),
-          isMaximum_(model.parameters.stringValue(parameterIndex("xminmx")) == "max"),
-          file_(file),
-          terms_(file) {
+        : store_(model.store), cutout_(cutout), isMaximum_(model.isMaximum()), file_(file), terms_(file) {
         if (cutout.firstColumn > 1) columnsBefore_ = fmt::format("[1..{}]... ", cutout.firstColumn - 1);
         if (cutout.lastColumn < store_.columnCount()) {
             columnsBehind_ = fmt::format("...[{}..{}]", cutout.lastColumn + 1, store_.columnCount());
@@ -70,10 +66,7 @@ private:
     }
 
     void writeObjective() {
-        constexpr std::string_view maximum = "MAX   ";
-        file_.write(isMaximum_ ? maximum : "MIN   ");
-        file_.write(columnsBefore_);
-        terms_.begin(maximum.size() + columnsBefore_.size());
+        terms_.beginObjective(isMaximum_, columnsBefore_);
         for (std::int32_t number = cutout_.firstColumn; number <= cutout_.lastColumn; ++number) {
             if (const double cost = store_.column(number - 1).cost; cost != 0.0) putTerm(number, cost);
         }
@@ -156,7 +149,7 @@ Outcome writeModelListing(const std::string& fileName, const WrittenModel& model
     OutputFile file(fileName);
     if (!file.isOpen()) return openFailureOfLindo();
     ListingWriter(model, cutout, file).write();
-    return file.close() ? Outcome() : writeFailure();
+    return file.close() ? Outcome() : fileFailure();
 }
 
 }  // namespace tarq

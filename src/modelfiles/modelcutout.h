@@ -1,6 +1,7 @@
 // Which part of a model a client wants to see, from the addresses that it passes.
 #pragma once
 
+#include "frame/result.h"
 #include "modelfiles/modelwriter.h"
 #include "tarq/frame/status.h"
 #include "tarq/frame/variant.h"
@@ -15,9 +16,9 @@ struct CutoutAddresses {
     const Variant& lastColumn;
 };
 
-/// Sets `cutout`; a missing first one means 1 and a missing last one the count. Fails as the addressing does, and with
-/// invalidArgument when a first one lies behind its last one. A model without rows or columns has none to cut out: with
-/// both missing that is an empty range and no failure.
-[[nodiscard]] Outcome resolveCutout(const ModelStore& store, const CutoutAddresses& addresses, ModelCutout& cutout);
+/// The part that the addresses tell: a missing first one means 1 and a missing last one the count. Fails as the
+/// addressing does, and with invalidArgument when a first one lies behind its last one. A model without rows or columns
+/// has none to cut out: with both missing that is an empty range and no failure.
+[[nodiscard]] Result<ModelCutout> resolveCutout(const ModelStore& store, const CutoutAddresses& addresses);
 
 }  // namespace tarq

@@ -1,12 +1,11 @@
 #include "modelfiles/modelfile.h"
 
-#include <fmt/format.h>
-
 #include <optional>
 #include <utility>
 
-#include "frame/text.h"
+#include "frame/result.h"
 #include "modelfiles/lindoreader.h"
+#include "modelfiles/modelfilefailures.h"
 #include "modelfiles/mpsreader.h"
 #include "modelfiles/tripletreader.h"
 #include "platform/wholefile.h"
@@ -14,20 +13,15 @@
 namespace tarq {
 namespace {
 
-constexpr std::size_t longestFileName = 255;
-
-Outcome fileFailure() { return {status::fileAccess, "Error while opening, reading or writing to a file."}; }
-
 Outcome parseOutcome(std::string_view format, const std::optional<ParseFailure>& failure) {
     if (!failure) return {};
-    return {status::syntaxError,
-            fmt::format("Error parsing {} file: {} Line {}", format, failure->message, failure->lineNumber)};
+    return {status::syntaxError, parseFailureText(format, *failure)};
 }
 
 }  // namespace
 
 Outcome readModelFile(const std::string& fileName, TARQFileFormatType format, ModelFileTarget& target) {
-    if (utf16Length(fileName) > longestFileName) return {status::textTooLong, "Passed string is to long."};
+    TARQ_TRY(checkFileName(fileName));
     std::optional<std::string> text = readWholeFile(fileName);
     if (!text) return fileFailure();
     return readModelText(*std::move(text), format, target);
@@ -44,7 +38,7 @@ Outcome readModelText(std::string text, TARQFileFormatType format, ModelFileTarg
         case TARQFileFormatType::Lindo:
             return parseOutcome("Lindo", readLindo(std::move(text), target));
     }
-    return {status::invalidArgument, "Wrong parameter for file format."};
+    return unknownFormat();
 }
 
 }  // namespace tarq

@@ -31,6 +31,12 @@ std::string_view trimBlanks(std::string_view text) {
     return text;
 }
 
+std::string inCapitals(std::string_view text) {
+    std::string capitals(text);
+    for (char& character : capitals) character = upperCased(character);
+    return capitals;
+}
+
 bool equalsInUpperCase(std::string_view text, std::string_view upperCaseText) {
     return std::equal(text.begin(), text.end(), upperCaseText.begin(), upperCaseText.end(),
                       [](char given, char wanted) { return upperCased(given) == wanted; });

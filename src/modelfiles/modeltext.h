@@ -18,6 +18,8 @@ namespace tarq {
 [[nodiscard]] constexpr char upperCased(char character) {
     return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
 }
+/// A text in upper case, which may be of any length.
+[[nodiscard]] std::string inCapitals(std::string_view text);
 /// Whether `text` with its ASCII letters in upper case is `upperCase`.
 [[nodiscard]] bool equalsInUpperCase(std::string_view text, std::string_view upperCase);
 

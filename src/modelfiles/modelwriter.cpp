@@ -3,13 +3,13 @@
 #include "frame/result.h"
 #include "frame/text.h"
 #include "modelfiles/lindowriter.h"
+#include "modelfiles/modelfilefailures.h"
 #include "modelfiles/mpswriter.h"
 #include "modelfiles/tripletwriter.h"
 
 namespace tarq {
 
 Outcome checkWrittenName(const std::string& fileName) {
-    constexpr std::size_t longestFileName = 255;
     if (utf16Length(fileName) <= longestFileName) return {};
     return {status::textTooLong, "Filename is too long."};
 }
@@ -24,7 +24,7 @@ Outcome writeModelFile(const std::string& fileName, TARQFileFormatType format, c
         case TARQFileFormatType::Lindo:
             return writeLindo(fileName, model);
     }
-    return {status::invalidArgument, "Wrong parameter for file format."};
+    return unknownFormat();
 }
 
 }  // namespace tarq

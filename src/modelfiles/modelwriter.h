@@ -20,6 +20,10 @@ struct WrittenModel {
     const ModelStore& store;
     const ParameterTable& parameters;  ///< direction and names of the vectors
     std::string_view name;
+
+    /// "min" or "max".
+    [[nodiscard]] std::string_view direction() const { return parameters.stringValue(parameterIndex("xminmx")); }
+    [[nodiscard]] bool isMaximum() const { return direction() == "max"; }
 };
 
 /// Rows and columns from the first to the last, by number.

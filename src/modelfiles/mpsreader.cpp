@@ -8,21 +8,16 @@
 #include <string_view>
 #include <utility>
 
+#include "frame/result.h"
+#include "modelfiles/complaint.h"
 #include "modelfiles/fixedfields.h"
 #include "modelfiles/fixedname.h"
 #include "modelfiles/modeltextscanner.h"
 #include "modelfiles/mpstarget.h"
+#include "tarq/interfaces/mpscomplaints.h"
 
 namespace tarq {
 namespace {
-
-/// The message of a failure; empty for none.
-using Failure = std::string_view;
-
-constexpr Failure none;
-constexpr Failure unexpectedEnd = "Unexpected end of file.";
-constexpr Failure emptyRowName = "Empty row name encountered.";
-constexpr Failure unknownRow = "Row name does not exist.";
 
 struct RowTypeCode {
     std::string_view characters;  ///< columns 2 and 3 in upper case
@@ -52,14 +47,13 @@ constexpr PairFields secondPair{5, 6};
 
 /// What the sections of row values say about their numbers.
 struct NumberMessages {
-    Failure empty;
-    Failure notNumeric;
+    std::string_view empty;
+    std::string_view notNumeric;
 };
 
-constexpr NumberMessages coefficientMessages{"Empty cost or nonzero value encountered.",
-                                             "Cost or nonzero value is not numeric."};
-constexpr NumberMessages rightHandSideMessages{"Empty RHS value encountered.", "RHS value is not numeric."};
-constexpr NumberMessages rangeMessages{"Empty RANGE value encountered.", "RANGE value is not numeric."};
+constexpr NumberMessages coefficientMessages{mpscomplaint::emptyCoefficient, mpscomplaint::coefficientNotNumeric};
+constexpr NumberMessages rightHandSideMessages{mpscomplaint::emptyRightHandSide, mpscomplaint::rightHandSideNotNumeric};
+constexpr NumberMessages rangeMessages{mpscomplaint::emptyRange, mpscomplaint::rangeNotNumeric};
 
 /// A row name and its number. An empty name with an empty number, where a line has no second pair, is `absent`.
 struct Pair {
@@ -76,8 +70,7 @@ public:
     MpsReader(std::string text, ModelFileTarget& model)
         : scanner_(std::move(text)), model_(model), target_(model.store()) {}
 
-    Failure read();
-    std::size_t lineNumber() const { return scanner_.currentLineNumber(); }
+    std::optional<ParseFailure> read() { return readSections().at(scanner_); }
     void dropText() { scanner_.dropText(); }
     void storeNonzeros() { target_.storeNonzeros(); }
     ReadingNotes readingNotes() const { return target_.readingNotes(); }
@@ -86,31 +79,32 @@ private:
     using ApplyToRow = void (MpsTarget::*)(std::int32_t rowPosition, double value);
     struct OptionalSection {
         std::string_view keyword;
-        Failure expected;
-        Failure (MpsReader::*read)();
+        std::string_view expected;
+        Complaint (MpsReader::*read)();
     };
     static const std::array<OptionalSection, 3> optionalSections;
 
+    Complaint readSections();
     /// Every section method begins on its keyword's line and ends on the line that isn't its own, or on the failure.
-    Failure readName();
-    Failure readRows();
-    Failure readColumns();
-    Failure readOptionalSections();
-    Failure readRightHandSides() {
+    Complaint readName();
+    Complaint readRows();
+    Complaint readColumns();
+    Complaint readOptionalSections();
+    Complaint readRightHandSides() {
         return readRowValues("xrhs", rightHandSideMessages, &MpsTarget::applyRightHandSide);
     }
-    Failure readRanges() { return readRowValues("XRANGE", rangeMessages, &MpsTarget::applyRange); }
-    Failure readBounds();
+    Complaint readRanges() { return readRowValues("XRANGE", rangeMessages, &MpsTarget::applyRange); }
+    Complaint readBounds();
 
-    Failure readRow();
-    Failure readColumnLine();
-    Failure readMarker();
+    Complaint readRow();
+    Complaint readColumnLine();
+    Complaint readMarker();
     void enterColumn(FixedName name);
-    Failure readColumnPair(FixedName columnName, PairFields fields, Pair& pair);
-    Failure readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply);
-    Failure readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair);
-    Failure readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const;
-    Failure readBound();
+    Complaint readColumnPair(FixedName columnName, PairFields fields, Pair& pair);
+    Complaint readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply);
+    Complaint readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair);
+    Complaint readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const;
+    Complaint readBound();
 
     void fetchRowsAhead(std::string_view lineAhead) const;
     void fetchColumnAhead(std::string_view lineAhead);
@@ -136,64 +130,64 @@ constexpr std::array<MpsReader::OptionalSection, 3> MpsReader::optionalSections{
      {"RANGES", "RANGES, BOUNDS or ENDDATA indicator expected.", &MpsReader::readRanges},
      {"BOUNDS", "BOUNDS or ENDDATA indicator expected.", &MpsReader::readBounds}}};
 
-Failure MpsReader::read() {
+Complaint MpsReader::readSections() {
     if (scanner_.hasLaterLineWith("QSECTION")) {
         return "QSECTION found. Quadratic models are not supported by TARQ.";
     }
     for (const auto section :
          {&MpsReader::readName, &MpsReader::readRows, &MpsReader::readColumns, &MpsReader::readOptionalSections}) {
-        if (const Failure failure = (this->*section)(); !failure.empty()) return failure;
+        TARQ_TRY((this->*section)());
     }
-    return sectionIs("ENDATA") ? none : "ENDDATA indicator expected.";
+    return sectionIs("ENDATA") ? Complaint() : "ENDDATA indicator expected.";
 }
 
-Failure MpsReader::readName() {
-    if (!scanner_.nextFixedLine()) return unexpectedEnd;
-    if (!sectionIs("NAME")) return "NAME indicator expected.";
+Complaint MpsReader::readName() {
+    if (!scanner_.nextFixedLine()) return mpscomplaint::unexpectedEnd;
+    if (!sectionIs("NAME")) return mpscomplaint::nameExpected;
     const std::string_view name = trimBlanks(scanner_.rawField(modelNamePlace));
     model_.setModelName(std::string(name));
     model_.setParameter("xdata", name);
-    return scanner_.nextFixedLine() ? none : unexpectedEnd;
+    return scanner_.nextFixedLine() ? Complaint() : Complaint(mpscomplaint::unexpectedEnd);
 }
 
-Failure MpsReader::readRows() {
-    if (!sectionIs("ROWS")) return "ROWS indicator expected.";
+Complaint MpsReader::readRows() {
+    if (!sectionIs("ROWS")) return mpscomplaint::rowsExpected;
     target_.reserveRows(scanner_.countIndentedLines());
     while (nextLineOfSection()) {
         const FixedName ahead(ModelTextScanner::rawField(scanner_.nextLineAhead(), fixedFieldPlaces[2]));
         target_.prefetchNewRow(ahead);
-        if (const Failure failure = readRow(); !failure.empty()) return failure;
+        TARQ_TRY(readRow());
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readRow() {
+Complaint MpsReader::readRow() {
     const FixedName name = fixedName(2);
-    if (name.empty()) return "Empty row name in ROW section.";
+    if (name.empty()) return mpscomplaint::emptyNewRowName;
     const std::array<char, 2> characters = scanner_.rowTypeCharacters();
     const auto code = std::find_if(rowTypeCodes.begin(), rowTypeCodes.end(), [&](const RowTypeCode& candidate) {
         return candidate.characters == std::string_view(characters.data(), characters.size());
     });
-    if (code == rowTypeCodes.end()) return "Bad row type in ROW section.";
+    if (code == rowTypeCodes.end()) return mpscomplaint::badRowType;
     if (code->type == MpsRowType::Free && (objectiveRowName_.empty() || objectiveRowName_ == name)) {
         objectiveRowName_ = name;
         model_.setParameter("xobj", name.text());
-        return none;
+        return {};
     }
     target_.addRow(name, code->type);
-    return none;
+    return {};
 }
 
-Failure MpsReader::readColumns() {
-    if (!sectionIs("COLUMNS")) return "COLUMNS indicator expected.";
+Complaint MpsReader::readColumns() {
+    if (!sectionIs("COLUMNS")) return mpscomplaint::columnsExpected;
     columnsStart_ = scanner_.lineStart();
     while (nextLineOfSection()) {
         const std::string_view ahead = scanner_.nextLineAhead();
         fetchColumnAhead(ahead);
         fetchRowsAhead(ahead);
-        if (const Failure failure = readColumnLine(); !failure.empty()) return failure;
+        TARQ_TRY(readColumnLine());
     }
-    return none;
+    return {};
 }
 
 void MpsReader::fetchColumnAhead(std::string_view lineAhead) {
@@ -211,18 +205,18 @@ void MpsReader::fetchRowsAhead(std::string_view lineAhead) const {
     }
 }
 
-Failure MpsReader::readColumnLine() {
+Complaint MpsReader::readColumnLine() {
     if (isMarkerLine()) return readMarker();
     const FixedName columnName = fixedName(2);
     Pair pair;
     for (const PairFields fields : {firstPair, secondPair}) {
-        if (const Failure failure = readColumnPair(columnName, fields, pair); !failure.empty()) return failure;
+        TARQ_TRY(readColumnPair(columnName, fields, pair));
         if (pair.absent) break;
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readMarker() {
+Complaint MpsReader::readMarker() {
     const std::string_view keyword = scanner_.fixedField(5);
     if (equalsInUpperCase(keyword, "'INTORG'")) {
         integerBlock_ = true;
@@ -233,23 +227,23 @@ Failure MpsReader::readMarker() {
     } else if (!keyword.empty()) {
         return "Unknown Marker found.";
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair& pair) {
-    if (columnName.empty()) return "Empty col name encountered.";
-    if (const Failure failure = readPair(fields, coefficientMessages, pair); !failure.empty()) return failure;
-    if (pair.absent) return none;
+Complaint MpsReader::readColumnPair(FixedName columnName, PairFields fields, Pair& pair) {
+    if (columnName.empty()) return mpscomplaint::emptyColumnName;
+    TARQ_TRY(readPair(fields, coefficientMessages, pair));
+    if (pair.absent) return {};
     // The column comes first: a line whose row is unknown leaves a new column behind.
     if (columnPosition_ == MpsTarget::absent || columnName != columnName_) enterColumn(columnName);
     if (pair.rowName == objectiveRowName_) {
         target_.store().column(columnPosition_).cost = pair.value;
-        return none;
+        return {};
     }
     const std::int32_t row = target_.findRow(pair.rowName);
-    if (row == MpsTarget::absent) return unknownRow;
+    if (row == MpsTarget::absent) return mpscomplaint::unknownRow;
     target_.setNonzero(columnPosition_, row, pair.value);
-    return none;
+    return {};
 }
 
 void MpsReader::enterColumn(FixedName name) {
@@ -265,18 +259,18 @@ void MpsReader::enterColumn(FixedName name) {
     }
 }
 
-Failure MpsReader::readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const {
+Complaint MpsReader::readPair(PairFields fields, const NumberMessages& messages, Pair& pair) const {
     pair.rowName = fixedName(fields.name);
     const FieldNumber number = scanner_.fixedNumber(fields.number, pair.value);
     if (pair.rowName.empty()) {
         pair.absent = fields.name == secondPair.name && number == FieldNumber::Empty;
-        return pair.absent ? none : emptyRowName;
+        return pair.absent ? Complaint() : mpscomplaint::emptyRowName;
     }
     if (number == FieldNumber::Empty) return messages.empty;
-    return number == FieldNumber::Read ? none : messages.notNumeric;
+    return number == FieldNumber::Read ? Complaint() : messages.notNumeric;
 }
 
-Failure MpsReader::readOptionalSections() {
+Complaint MpsReader::readOptionalSections() {
     for (std::size_t index = 0; index < optionalSections.size(); ++index) {
         const OptionalSection& section = optionalSections[index];
         const bool expected =
@@ -284,58 +278,56 @@ Failure MpsReader::readOptionalSections() {
                         [this](const OptionalSection& later) { return sectionIs(later.keyword); });
         if (!expected && !sectionIs("ENDATA")) return section.expected;
         if (!sectionIs(section.keyword)) continue;
-        if (const Failure failure = (this->*section.read)(); !failure.empty()) return failure;
+        TARQ_TRY((this->*section.read)());
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply) {
+Complaint MpsReader::readRowValues(std::string_view vectorParameter, const NumberMessages& messages, ApplyToRow apply) {
     bool vectorSeen = false;
     while (nextLineOfSection()) {
         if (!std::exchange(vectorSeen, true)) model_.setParameter(vectorParameter, scanner_.fixedField(2));
         fetchRowsAhead(scanner_.nextLineAhead());
         Pair pair;
         for (const PairFields fields : {firstPair, secondPair}) {
-            if (const Failure failure = readRowValuePair(fields, messages, apply, pair); !failure.empty()) {
-                return failure;
-            }
+            TARQ_TRY(readRowValuePair(fields, messages, apply, pair));
             if (pair.absent) break;
         }
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair) {
-    if (const Failure failure = readPair(fields, messages, pair); !failure.empty()) return failure;
-    if (pair.absent) return none;
+Complaint MpsReader::readRowValuePair(PairFields fields, const NumberMessages& messages, ApplyToRow apply, Pair& pair) {
+    TARQ_TRY(readPair(fields, messages, pair));
+    if (pair.absent) return {};
     const std::int32_t row = target_.findRow(pair.rowName);
-    if (row == MpsTarget::absent) return unknownRow;
+    if (row == MpsTarget::absent) return mpscomplaint::unknownRow;
     (target_.*apply)(row, pair.value);
-    return none;
+    return {};
 }
 
-Failure MpsReader::readBounds() {
+Complaint MpsReader::readBounds() {
     bool vectorSeen = false;
     while (nextLineOfSection()) {
         if (!std::exchange(vectorSeen, true)) model_.setParameter("XBOUND", scanner_.fixedField(2));
-        if (const Failure failure = readBound(); !failure.empty()) return failure;
+        TARQ_TRY(readBound());
     }
-    return none;
+    return {};
 }
 
-Failure MpsReader::readBound() {
+Complaint MpsReader::readBound() {
     const FixedName name = fixedName(3);
-    if (name.empty()) return "Empty col name in BOUNDS section.";
+    if (name.empty()) return mpscomplaint::emptyBoundColumnName;
     const std::int32_t position = target_.findNextColumn(name);
-    if (position == MpsTarget::absent) return "Col name does not exist.";
+    if (position == MpsTarget::absent) return mpscomplaint::unknownColumn;
     const std::array<char, 2> characters = scanner_.rowTypeCharacters();
     const MpsBoundType* const type = findMpsBoundType({characters.data(), characters.size()});
-    if (type == nullptr) return "Bad type in BOUNDS section.";
+    if (type == nullptr) return mpscomplaint::badBoundType;
     if (type->takesValue && scanner_.fixedNumber(4, boundValue_) == FieldNumber::NotNumeric) {
-        return "BOUND value is not numeric.";
+        return mpscomplaint::boundNotNumeric;
     }
     target_.applyBound(position, *type, boundValue_);
-    return none;
+    return {};
 }
 
 }  // namespace
@@ -343,14 +335,12 @@ Failure MpsReader::readBound() {
 std::optional<ParseFailure> readMps(std::string text, ModelFileTarget& model) {
     model.clearModel();
     MpsReader reader(std::move(text), model);
-    const Failure failure = reader.read();
-    std::optional<ParseFailure> told;
-    if (!failure.empty()) told = ParseFailure{std::string(failure), reader.lineNumber()};
-    if (!told) model.setReadingNotes(reader.readingNotes());
+    std::optional<ParseFailure> failure = reader.read();
+    if (!failure) model.setReadingNotes(reader.readingNotes());
     // The nonzeros take their room in the store when the text has given its room back.
     reader.dropText();
     reader.storeNonzeros();
-    return told;
+    return failure;
 }
 
 }  // namespace tarq

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "modelfiles/modelfile.h"
-#include "modelfiles/parsefailure.h"
+#include "tarq/interfaces/parsefailure.h"
 
 namespace tarq {
 

@@ -8,36 +8,27 @@
 #include "frame/result.h"
 #include "modelfiles/columnorder.h"
 #include "modelfiles/fixedfields.h"
+#include "modelfiles/modelfilefailures.h"
 #include "modelfiles/numberforms.h"
-#include "modelfiles/writerfailures.h"
 #include "platform/localtime.h"
 #include "platform/outputfile.h"
 
 namespace tarq {
 namespace {
 
-constexpr std::size_t longestName = 8;
-
 Outcome checkNames(const ModelStore& store) {
-    const auto isUnnamed = [](const auto& record) { return record.name.empty(); };
-    const auto any = [](std::int32_t count, const auto& test) {
-        std::int32_t position = 0;
-        while (position < count && !test(position)) ++position;
-        return position < count;
-    };
-    if (any(store.columnCount(), [&](std::int32_t i) { return isUnnamed(store.column(i)); })) return unnamedColumns();
     for (std::int32_t i = 0; i < store.columnCount(); ++i) {
-        const std::string& name = store.column(i).name;
-        if (name.size() > longestName) {
-            return {status::badColumnName, "Variable name '" + name + "' is longer than 8 characters."};
-        }
+        if (store.column(i).name.empty()) return unnamedColumns();
     }
-    if (any(store.rowCount(), [&](std::int32_t i) { return isUnnamed(store.row(i)); })) {
-        return {status::badRowName, "One or more rows have no name."};
+    for (std::int32_t i = 0; i < store.columnCount(); ++i) {
+        if (store.column(i).name.size() > FixedName::longest) return columnNameTooLong(store.column(i).name);
+    }
+    for (std::int32_t i = 0; i < store.rowCount(); ++i) {
+        if (store.row(i).name.empty()) return {status::badRowName, "One or more rows have no name."};
     }
     for (std::int32_t i = 0; i < store.rowCount(); ++i) {
         const std::string& name = store.row(i).name;
-        if (name.size() > longestName) {
+        if (name.size() > FixedName::longest) {
             return {status::badRowName, "Row name " + name + " is longer than 8 characters."};
         }
     }
@@ -122,7 +113,7 @@ private:
         file_.write("* TARQ MPS file written by TARQ Component at ");
         file_.write(localTimeStamp());
         file_.write("\n* Direction: ");
-        file_.write(parameter("xminmx", ""));
+        file_.write(model_.direction());
         file_.write('\n');
         line_.putAt(1, "NAME");
         const std::string_view name = model_.name.empty() ? std::string_view("NONAME") : model_.name;
@@ -261,9 +252,9 @@ Outcome writeMps(const std::string& fileName, const WrittenModel& model) {
     // Before the file is touched, as memory may run out here.
     const ColumnOrder nonzeros(model.store);
     OutputFile file(fileName);
-    if (!file.isOpen()) return writeFailure();
+    if (!file.isOpen()) return fileFailure();
     MpsWriter(model, nonzeros, file).write();
-    return file.close() ? Outcome() : writeFailure();
+    return file.close() ? Outcome() : fileFailure();
 }
 
 }  // namespace tarq

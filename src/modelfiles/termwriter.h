@@ -17,6 +17,14 @@ public:
         lineLength_ = lineLength;
         isFirst_ = true;
     }
+    /// Begins the sum of the objective with its direction and, behind it, `mark`.
+    void beginObjective(bool isMaximum, std::string_view mark = {}) {
+        constexpr std::string_view maximum = "MAX   ";
+        constexpr std::string_view minimum = "MIN   ";
+        file_.write(isMaximum ? maximum : minimum);
+        file_.write(mark);
+        begin(maximum.size() + mark.size());
+    }
     /// Writes a term of the name and, behind it, `tail`.
     void put(double coefficient, std::string_view name, std::string_view tail = {});
 

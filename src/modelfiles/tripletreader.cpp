@@ -4,8 +4,10 @@
 #include <string_view>
 #include <utility>
 
+#include "frame/result.h"
 #include "model/nonzeroloader.h"
-#include "modelfiles/datalinescanner.h"
+#include "modelfiles/complaint.h"
+#include "modelfiles/tripletscanner.h"
 
 namespace tarq {
 namespace {
@@ -23,23 +25,21 @@ public:
     TripletReader(std::string text, ModelFileTarget& model) : scanner_(std::move(text)), store_(model.store()) {}
 
     std::optional<ParseFailure> read() {
-        std::string message = readSections();
+        const Complaint complaint = readSections();
         // A failure leaves what stands before it in the model.
         store_.loadNonzeros(nonzeros_);
-        if (message.empty()) return std::nullopt;
-        return ParseFailure{std::move(message), scanner_.currentLineNumber()};
+        return complaint.at(scanner_);
     }
 
 private:
-    std::string readSections() {
-        std::string message = readSizes();
-        if (message.empty()) message = readColumns();
-        if (message.empty()) message = readRows();
-        if (message.empty()) message = readNonzeros();
-        return message;
+    Complaint readSections() {
+        TARQ_TRY(readSizes());
+        TARQ_TRY(readColumns());
+        TARQ_TRY(readRows());
+        return readNonzeros();
     }
 
-    std::string readSizes() {
+    Complaint readSizes() {
         // A text without data fails here too: at its end there is no token.
         const bool found = scanner_.nextDataLine();
         const std::size_t count = scanner_.countTokens();
@@ -62,16 +62,16 @@ private:
         return std::min(claimed, static_cast<std::int32_t>(scanner_.textLength() / shortestLine));
     }
 
-    std::string readColumns() {
+    Complaint readColumns() {
         for (; store_.columnCount() < columns_ && scanner_.nextDataLine();) {
             store_.prefetchColumn(scanner_.nameAhead());
-            if (std::string message = readColumn(); !message.empty()) return message;
+            TARQ_TRY(readColumn());
         }
         if (store_.columnCount() == columns_) return {};
         return "Number of cols found in section 3 does not fit value from section 2.";
     }
 
-    std::string readColumn() {
+    Complaint readColumn() {
         ColumnRecord column;
         std::int32_t type = 0;
         std::string_view name;
@@ -87,19 +87,19 @@ private:
         column.upperBound = store_.clampToInfinity(column.upperBound);
         column.name = name;
         if (store_.addColumnRecord(std::move(column)).isOk()) return {};
-        return std::string("Duplicate col name '").append(name).append("'.");
+        return duplicate("col", name);
     }
 
-    std::string readRows() {
+    Complaint readRows() {
         for (; store_.rowCount() < rows_ && scanner_.nextDataLine();) {
             store_.prefetchRow(scanner_.nameAhead());
-            if (std::string message = readRow(); !message.empty()) return message;
+            TARQ_TRY(readRow());
         }
         if (store_.rowCount() == rows_) return {};
         return "Number of rows found in Section 4 does not fit value from Section 2.";
     }
 
-    std::string readRow() {
+    Complaint readRow() {
         double first = 0.0;
         double second = 0.0;
         std::string_view name;
@@ -115,10 +115,10 @@ private:
         row.upperBound = store_.clampToInfinity(row.upperBound);
         row.name = name;
         if (store_.addRowRecord(std::move(row)).isOk()) return {};
-        return std::string("Duplicate row name '").append(name).append("'.");
+        return duplicate("row", name);
     }
 
-    std::string readNonzeros() {
+    Complaint readNonzeros() {
         while (scanner_.nextDataLine()) {
             std::int32_t row = 0;
             std::int32_t column = 0;
@@ -134,11 +134,17 @@ private:
         return {};
     }
 
-    DataLineScanner scanner_;
+    Complaint duplicate(std::string_view what, std::string_view name) {
+        words_ = std::string("Duplicate ").append(what).append(" name '").append(name).append("'.");
+        return std::string_view(words_);
+    }
+
+    TripletScanner scanner_;
     ModelStore& store_;
     NonzeroLoader nonzeros_;
     std::int32_t rows_ = 0;
     std::int32_t columns_ = 0;
+    std::string words_;  ///< of a complaint that names something
 };
 
 }  // namespace

@@ -4,8 +4,8 @@
 #include <limits>
 #include <string_view>
 
+#include "modelfiles/modelfilefailures.h"
 #include "modelfiles/numberforms.h"
-#include "modelfiles/writerfailures.h"
 #include "platform/localtime.h"
 #include "platform/outputfile.h"
 
@@ -84,9 +84,9 @@ private:
 
 Outcome writeTriplet(const std::string& fileName, const WrittenModel& model) {
     OutputFile file(fileName);
-    if (!file.isOpen()) return writeFailure();
-    TripletWriter(model.store, file).write(model.parameters.stringValue(parameterIndex("xminmx")));
-    return file.close() ? Outcome() : writeFailure();
+    if (!file.isOpen()) return fileFailure();
+    TripletWriter(model.store, file).write(model.direction());
+    return file.close() ? Outcome() : fileFailure();
 }
 
 }  // namespace tarq

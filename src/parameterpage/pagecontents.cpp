@@ -4,15 +4,11 @@
 #include <cstdint>
 #include <optional>
 
+#include "parameters/parameteraccess.h"
 #include "tarq/frame/variant.h"
 
 namespace tarq {
 namespace {
-
-constexpr std::array sectionsInOrder{
-    ParameterSection::Direction, ParameterSection::Resources,  ParameterSection::Lp,    ParameterSection::Ip,
-    ParameterSection::Other,     ParameterSection::Tolerances, ParameterSection::Files,
-};
 
 /// What the direction can be; its row is a text and has no options.
 constexpr std::array directions{TARQPageOption{"Minimize.", "min"}, TARQPageOption{"Maximize.", "max"}};
@@ -39,16 +35,6 @@ std::optional<TARQPageItemKind> kindOf(const ParameterRow& row) {
 TARQPageValueType typeOf(const ParameterRow& row) {
     if (row.type == ParameterType::Long) return TARQPageInteger;
     return row.type == ParameterType::Double ? TARQPageReal : TARQPageText;
-}
-
-Variant minimumOf(const ParameterRow& row) {
-    if (row.type == ParameterType::Long) return Variant(row.longMinimum);
-    return row.type == ParameterType::Double ? Variant(row.doubleMinimum) : Variant();
-}
-
-Variant maximumOf(const ParameterRow& row) {
-    if (row.type == ParameterType::Long) return Variant(row.longMaximum);
-    return row.type == ParameterType::Double ? Variant(row.doubleMaximum) : Variant();
 }
 
 bool isShown(const ParameterRow& row, ParameterSection section) {

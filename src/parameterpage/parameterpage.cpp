@@ -3,11 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
-#include <optional>
-#include <system_error>
 
 #include "frame/numbertext.h"
+#include "parameters/parameteraccess.h"
+#include "tarq/frame/wholenumber.h"
 
 namespace tarq {
 namespace {
@@ -29,19 +28,14 @@ bool convertFor(const ParameterRow& row, Variant& value) {
     return false;
 }
 
-/// parseInteger won't do: to it a number beyond 32 bits is the greatest, which a row may well take.
-Variant longOf(std::string_view text) {
-    std::int32_t number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && stop == end ? Variant(number) : Variant();
-}
-
 /// The value of the row's type that a text tells; Empty when it tells none.
 Variant valueOf(const ParameterRow& row, std::string_view text) {
     switch (row.type) {
-        case ParameterType::Long:
-            return longOf(text);
+        case ParameterType::Long: {
+            // parseInteger won't do: to it a number beyond 32 bits is the greatest, which a row may well take.
+            const auto number = wholeNumberIn(text);
+            return number ? Variant(*number) : Variant();
+        }
         case ParameterType::Double: {
             double number = 0.0;
             return parseReal(text, number) ? Variant(number) : Variant();
@@ -53,18 +47,6 @@ Variant valueOf(const ParameterRow& row, std::string_view text) {
 }
 
 }  // namespace
-
-Variant defaultOf(const ParameterRow& row) {
-    switch (row.type) {
-        case ParameterType::Long:
-            return Variant(row.longDefault);
-        case ParameterType::Double:
-            return Variant(row.doubleDefault);
-        case ParameterType::String:
-            return Variant(row.stringDefault);
-    }
-    return {};
-}
 
 std::string pageText(const Variant& value) {
     switch (value.kind()) {

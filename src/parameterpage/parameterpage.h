@@ -23,9 +23,6 @@ struct PageMessage {
     TARQPageIcon icon = TARQPageWarning;
 };
 
-/// A row's default, of the row's type; Empty for a row of no known type.
-[[nodiscard]] Variant defaultOf(const ParameterRow& row);
-
 /// A value as the page shows it: a number with a point, a text as it is, nothing for Empty.
 [[nodiscard]] std::string pageText(const Variant& value);
 

@@ -2,19 +2,12 @@
 
 #include <fmt/format.h>
 
-#include <cstddef>
-
 #include "platform/filecheck.h"
+#include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
-namespace {
-
-constexpr std::size_t longestPath = 255;
-
-}  // namespace
-
 Outcome checkInputFile(const std::string& path, std::string_view label) {
-    if (path.size() > longestPath) {
+    if (path.size() > longestFileName) {
         return {status::fileNameRejected, fmt::format("Filename of {} is too long.", label)};
     }
     switch (checkReadable(path)) {

@@ -33,8 +33,6 @@ const ParameterRow& rowAt(int row) { return parameterRows()[static_cast<std::siz
 
 Outcome unknownName() { return {status::unknownParameter, "Parameter name does not exist."}; }
 
-Outcome wrongType() { return {status::wrongKind, "Variant argument is of wrong type."}; }
-
 Variant rowValue(const ParameterTable& table, int row) {
     switch (rowAt(row).type) {
         case ParameterType::Long:
@@ -56,59 +54,79 @@ Outcome storeLong(ParameterTable& table, int row, Variant value) {
     if (value.isText()) {
         double real = 0.0;
         std::int32_t number = 0;
-        if (!readEnglishReal(value.text(), real) || !roundToInteger(real, number)) return wrongType();
+        if (!readEnglishReal(value.text(), real) || !roundToInteger(real, number)) return wrongKind();
         return table.setLong(row, number);
     }
-    if (!value.toInteger()) return wrongType();
+    if (!value.toInteger()) return wrongKind();
     return table.setLong(row, value.integer());
 }
 
 Outcome storeDouble(ParameterTable& table, int row, Variant value) {
     if (value.isText()) {
         double number = 0.0;
-        if (!readEnglishReal(value.text(), number)) return wrongType();
+        if (!readEnglishReal(value.text(), number)) return wrongKind();
         return table.setDouble(row, number);
     }
-    if (!value.toReal()) return wrongType();
+    if (!value.toReal()) return wrongKind();
     return table.setDouble(row, value.real());
 }
 
 Outcome storeString(ParameterTable& table, int row, Variant value) {
-    if (!value.toText()) return wrongType();
+    if (!value.toText()) return wrongKind();
     return table.setString(row, value.text());
 }
 
 /// Stores the direction. An incumbent bound at the model's infinity would shut out every solution of the new
 /// direction, so it moves to the other end; a value beyond the bound's own limits is left to them.
 Outcome storeDirection(ParameterTable& table, int row, Variant value, double infinity) {
-    if (!value.toText()) return wrongType();
+    if (!value.toText()) return wrongKind();
     std::string direction = value.takeText();
     std::ranges::transform(direction, direction.begin(), lowerCased);
-    Outcome stored = table.setString(row, direction);
-    if (!stored.isOk()) return stored;
-
+    TARQ_TRY(table.setString(row, direction));
     const int bound = parameterIndex("xipbnd");
     if (std::fabs(table.doubleValue(bound)) >= infinity) {
         static_cast<void>(table.setDouble(bound, direction == "min" ? infinity : -infinity));
     }
-    return stored;
+    return {};
 }
+
+Outcome badParameterId() { return {status::invalidArgument, "Bad parameter ID."}; }
 
 bool isParameterId(std::int32_t parameterId) { return parameterId >= 1 && parameterId <= parameterCount; }
 
 }  // namespace
 
-Outcome readParameter(const ParameterTable& table, std::string_view name, Variant& value) {
+Variant defaultOf(const ParameterRow& row) {
+    switch (row.type) {
+        case ParameterType::Long:
+            return Variant(row.longDefault);
+        case ParameterType::Double:
+            return Variant(row.doubleDefault);
+        case ParameterType::String:
+            return Variant(row.stringDefault);
+    }
+    return {};
+}
+
+Variant minimumOf(const ParameterRow& row) {
+    if (row.type == ParameterType::Long) return Variant(row.longMinimum);
+    return row.type == ParameterType::Double ? Variant(row.doubleMinimum) : Variant();
+}
+
+Variant maximumOf(const ParameterRow& row) {
+    if (row.type == ParameterType::Long) return Variant(row.longMaximum);
+    return row.type == ParameterType::Double ? Variant(row.doubleMaximum) : Variant();
+}
+
+Result<Variant> readParameter(const ParameterTable& table, std::string_view name) {
     const LowerName lowerName(name);
     if (const int slot = resultIndex(lowerName.view()); slot >= 0) {
         const bool isLong = resultSlots()[static_cast<std::size_t>(slot)].type == ParameterType::Long;
-        value = isLong ? Variant(table.resultLong(slot)) : Variant(table.resultDouble(slot));
-        return {};
+        return isLong ? Variant(table.resultLong(slot)) : Variant(table.resultDouble(slot));
     }
     const int row = parameterIndex(lowerName.view());
     if (row < 0) return unknownName();
-    value = rowValue(table, row);
-    return {};
+    return rowValue(table, row);
 }
 
 Outcome writeParameter(ParameterTable& table, std::string_view name, const Variant& value, double infinity) {
@@ -117,7 +135,7 @@ Outcome writeParameter(ParameterTable& table, std::string_view name, const Varia
     if (row < 0) return unknownName();
     Variant plainValue = value.copyDereferenced();
     if (plainValue.isByReference()) plainValue = plainValue.copyDereferenced();  // a reference to a reference
-    if (plainValue.isObject() && !plainValue.takeDefaultValue()) return wrongType();
+    if (plainValue.isObject() && !plainValue.takeDefaultValue()) return wrongKind();
     if (lowerName.view() == "xminmx") return storeDirection(table, row, std::move(plainValue), infinity);
     switch (rowAt(row).type) {
         case ParameterType::Long:
@@ -127,51 +145,37 @@ Outcome writeParameter(ParameterTable& table, std::string_view name, const Varia
         case ParameterType::String:
             return storeString(table, row, std::move(plainValue));
     }
-    return wrongType();
+    return wrongKind();
 }
 
-Outcome parameterInfo(const ParameterTable& table, std::int32_t parameterId, ParameterInfo& info) {
-    if (!isParameterId(parameterId)) return {status::invalidArgument, "Bad parameter ID."};
+Result<ParameterInfo> parameterInfo(const ParameterTable& table, std::int32_t parameterId) {
+    if (!isParameterId(parameterId)) return badParameterId();
     const int row = parameterId - 1;
     const ParameterRow& about = rowAt(row);
-
     ParameterInfo told;
     told.type = about.type;
     told.name = about.name;
+    told.defaultValue = defaultOf(about);
     told.value = rowValue(table, row);
     told.stringLength = about.stringMaxLength;
     told.description = about.description;
     told.section = about.section;
     told.control = about.control;
-    switch (about.type) {
-        case ParameterType::Long:
-            told.minimum = Variant(about.longMinimum);
-            told.maximum = Variant(about.longMaximum);
-            told.defaultValue = Variant(about.longDefault);
-            told.optionCount = static_cast<std::int32_t>(about.options.size());
-            break;
-        case ParameterType::Double:
-            told.minimum = Variant(about.doubleMinimum);
-            told.maximum = Variant(about.doubleMaximum);
-            told.defaultValue = Variant(about.doubleDefault);
-            told.optionCount = 0;
-            break;
-        case ParameterType::String:
-            told.defaultValue = Variant(about.stringDefault);
-            break;
+    if (about.type != ParameterType::String) {
+        told.minimum = minimumOf(about);
+        told.maximum = maximumOf(about);
+        told.optionCount = static_cast<std::int32_t>(about.options.size());
     }
-    info = std::move(told);
-    return {};
+    return told;
 }
 
-Outcome parameterOption(std::int32_t parameterId, std::int32_t optionId, ParameterOption& option) {
-    if (!isParameterId(parameterId)) return {status::invalidArgument, "Bad parameter ID."};
+Result<ParameterOption> parameterOption(std::int32_t parameterId, std::int32_t optionId) {
+    if (!isParameterId(parameterId)) return badParameterId();
     const std::span<const ParameterOption> options = rowAt(parameterId - 1).options;
     if (optionId < 1 || static_cast<std::size_t>(optionId) > options.size()) {
-        return {status::invalidArgument, "Bad option ID."};
+        return Outcome(status::invalidArgument, "Bad option ID.");
     }
-    option = options[static_cast<std::size_t>(optionId) - 1];
-    return {};
+    return options[static_cast<std::size_t>(optionId) - 1];
 }
 
 }  // namespace tarq

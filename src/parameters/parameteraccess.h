@@ -10,15 +10,21 @@
 #include <string>
 #include <string_view>
 
+#include "frame/result.h"
 #include "parameters/parametertable.h"
 #include "tarq/frame/status.h"
 #include "tarq/frame/variant.h"
 
 namespace tarq {
 
-/// Reads a parameter or a result by name into a Variant of its kind. unknownParameter "Parameter name does not exist."
-/// leaves `value` as it was.
-[[nodiscard]] Outcome readParameter(const ParameterTable& table, std::string_view name, Variant& value);
+/// A row's default, of the row's kind; Empty for a row of no known kind.
+[[nodiscard]] Variant defaultOf(const ParameterRow& row);
+/// A row's limits, of the row's kind; Empty for a text.
+[[nodiscard]] Variant minimumOf(const ParameterRow& row);
+[[nodiscard]] Variant maximumOf(const ParameterRow& row);
+
+/// The value of a parameter or a result, of its kind, by name; else unknownParameter.
+[[nodiscard]] Result<Variant> readParameter(const ParameterTable& table, std::string_view name);
 
 /// Checks and stores a parameter by name; a reference is resolved first. Results can't be written: like unknown names
 /// they give unknownParameter. wrongKind when the value can't become the row's kind, else the failures of the table's
@@ -44,11 +50,10 @@ struct ParameterInfo {
     ParameterControl control = ParameterControl::None;
 };
 
-/// Describes the row with the 1-based `parameterId`. invalidArgument "Bad parameter ID." leaves `info` as it was.
-[[nodiscard]] Outcome parameterInfo(const ParameterTable& table, std::int32_t parameterId, ParameterInfo& info);
+/// Describes the row with the 1-based `parameterId`; invalidArgument when there is none.
+[[nodiscard]] Result<ParameterInfo> parameterInfo(const ParameterTable& table, std::int32_t parameterId);
 
-/// The option `optionId` of the row `parameterId`, both 1-based. invalidArgument "Bad parameter ID." or "Bad option
-/// ID." leaves `option` as it was.
-[[nodiscard]] Outcome parameterOption(std::int32_t parameterId, std::int32_t optionId, ParameterOption& option);
+/// The option `optionId` of the row `parameterId`, both 1-based; invalidArgument when there is no such row or option.
+[[nodiscard]] Result<ParameterOption> parameterOption(std::int32_t parameterId, std::int32_t optionId);
 
 }  // namespace tarq

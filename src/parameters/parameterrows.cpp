@@ -81,12 +81,6 @@ static_assert(std::ranges::all_of(rows, [](const ParameterRow& row) {
     return row.options.empty() || row.type == ParameterType::Long;
 }));
 
-constexpr std::array<std::string_view, 8> sectionTitles{
-    "",           "Optimization Direction",       "Ressource Limits", "LP Parameter", "IP Parameter", "Other Parameter",
-    "Tolerances", "File Names and File Switches",
-};
-static_assert(sectionTitles.size() == static_cast<std::size_t>(ParameterSection::Files) + 1);
-
 }  // namespace
 
 std::span<const ParameterRow> parameterRows() { return rows; }
@@ -108,7 +102,5 @@ std::string_view typeName(ParameterType type) {
     }
     return "";
 }
-
-std::string_view sectionTitle(ParameterSection section) { return sectionTitles.at(static_cast<std::size_t>(section)); }
 
 }  // namespace tarq

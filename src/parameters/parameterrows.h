@@ -9,22 +9,12 @@
 #include <span>
 #include <string_view>
 
+#include "tarq/interfaces/parametersections.h"
+
 namespace tarq {
 
 /// Published kind of a row, the code of the Variant that carries its value.
 enum class ParameterType : std::int32_t { Long = 3, Double = 5, String = 8 };
-
-/// Section under which a row is shown; the published lpCategory.
-enum class ParameterSection : std::int32_t {
-    None = 0,
-    Direction = 1,
-    Resources = 2,
-    Lp = 3,
-    Ip = 4,
-    Other = 5,
-    Tolerances = 6,
-    Files = 7,
-};
 
 /// How a row is edited on a page; the published lpControl.
 enum class ParameterControl : std::int32_t {
@@ -92,7 +82,5 @@ inline constexpr double tableInfinity = 1e20;
 
 /// "long", "double" or "string".
 [[nodiscard]] std::string_view typeName(ParameterType type);
-/// Title of a section, such as "LP Parameter"; empty for None.
-[[nodiscard]] std::string_view sectionTitle(ParameterSection section);
 
 }  // namespace tarq

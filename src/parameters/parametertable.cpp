@@ -9,6 +9,7 @@
 
 #include "frame/numbertext.h"
 #include "frame/text.h"
+#include "parameters/filefailures.h"
 #include "parameters/parameterrowdata.h"
 
 namespace tarq {
@@ -38,8 +39,6 @@ std::size_t slotOf(int slot) {
     if (slot < 0 || slot >= resultCount) throw std::out_of_range("no such result slot");
     return static_cast<std::size_t>(slot);
 }
-
-Outcome wrongKind() { return {status::wrongKind, "Variant argument is of wrong type."}; }
 
 Outcome outOfRange() { return {status::valueOutOfRange, "Passed value is not within valid range."}; }
 
@@ -91,7 +90,7 @@ Outcome ParameterTable::setString(int row, std::string_view value) {
     const ParameterRow& about = rows[indexOf(row)];
     if (about.type != ParameterType::String) return wrongKind();
     if (utf16Length(value) > static_cast<std::size_t>(about.stringMaxLength)) {
-        return {status::textTooLong, "Passed string is to long."};
+        return textTooLong();
     }
     const std::lock_guard lock(stringsMutex_);
     strings_[stringPlaces[indexOf(row)]] = value;

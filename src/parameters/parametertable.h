@@ -23,6 +23,9 @@
 
 namespace tarq {
 
+/// What a value of another kind than its row's meets with.
+[[nodiscard]] inline Outcome wrongKind() { return {status::wrongKind, "Variant argument is of wrong type."}; }
+
 class ParameterTable {
 public:
     /// Every value at its default, every result 0.

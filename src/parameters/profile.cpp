@@ -3,7 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "frame/text.h"
+#include "frame/result.h"
+#include "parameters/filefailures.h"
 #include "parameters/parameteraccess.h"
 #include "parameters/parameterrows.h"
 #include "parameters/profilescanner.h"
@@ -13,8 +14,6 @@
 
 namespace tarq {
 namespace {
-
-Outcome fileFailure() { return {status::fileAccess, "Error while opening, reading or writing to a file."}; }
 
 Outcome syntaxFailure(const ProfileScanner& scanner, const std::string& name) {
     std::string text = "Syntax error in line '" + scanner.line() + "'";
@@ -38,8 +37,7 @@ Outcome storeFailure(Status failure, const ProfileScanner& scanner, const std::s
 }  // namespace
 
 Outcome readProfile(const std::string& fileName, ParameterTable& parameters, double infinity) {
-    constexpr std::size_t longestFileName = 255;
-    if (utf16Length(fileName) > longestFileName) return {status::textTooLong, "Passed string is to long."};
+    TARQ_TRY(checkFileName(fileName));
     const std::optional<std::string> text = readWholeFile(fileName);
     return text ? readProfileText(*text, parameters, infinity) : fileFailure();
 }

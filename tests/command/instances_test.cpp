@@ -54,10 +54,7 @@ protected:
     /// Solves a file and compares what comes out with what is known of the instance.
     void expectOptimum(const std::string& file, const Instance& instance) const {
         SCOPED_TRACE(file);
-        const Output output = run({"solve", file, "--json"});
-        EXPECT_EQ(output.exitCode, instance.infeasible ? 3 : 0) << output.err;
-        const Json document = Json::parse(output.out, nullptr, false);
-        ASSERT_FALSE(document.is_discarded()) << output.out << output.err;
+        const Json document = json({"solve", file}, instance.infeasible ? 3 : 0);
         const std::string status = document["solutionStatus"]["name"];
         if (instance.infeasible) {
             EXPECT_TRUE(status == "LPInfeasible" || status == "IPNoSolution") << status;

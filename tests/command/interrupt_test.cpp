@@ -3,7 +3,7 @@
 #include <thread>
 
 #include "process.h"
-#include "progress.h"
+#include "run/progress.h"
 
 namespace tarq::command {
 namespace {
@@ -18,9 +18,13 @@ constexpr auto underWay = 700ms;  ///< after which a run has surely begun
 
 class CommandInterruptTest : public CommandTest {
 protected:
-    Process played(const std::string& run, bool terminal = false) {
-        return Process({"solve", file("model.mps", smallModel), "--engine", PLAYED_ENGINE}, folder_,
-                       {.input = {}, .environment = {"PLAYED_RUN=" + run}, .terminal = terminal});
+    /// A run of the played engine that gets a signal when it is under way.
+    Output stopped(const std::string& run, int signal, const std::vector<std::string>& options = {},
+                   bool terminal = false) const {
+        Process process(playedSolve(options), folder_, played(run, terminal));
+        std::this_thread::sleep_for(underWay);
+        process.send(signal);
+        return process.wait();
     }
 };
 
@@ -41,11 +45,9 @@ TEST_F(CommandInterruptTest, InterruptedSearchReportsItsBestSolution) {
 
 TEST_F(CommandInterruptTest, StopBeforeAnySolutionSaysSo) {
     for (const int signal : {SIGINT, SIGTERM}) {
-        Process process = played("long");
-        std::this_thread::sleep_for(underWay);
-        process.send(signal);
-        const Output output = process.wait();
-        EXPECT_EQ(output.exitCode, 4) << output.err;
+        const Output output = stopped("long", signal);
+        EXPECT_EQ(output.exitCode, 4);
+        EXPECT_EQ(output.err, "");
         EXPECT_THAT(output.out, AllOf(HasSubstr("stopped by the user, no optimal solution yet"),
                                       testing::ContainsRegex("Objective +none"), Not(HasSubstr("Reduced cost"))));
     }
@@ -54,23 +56,13 @@ TEST_F(CommandInterruptTest, StopBeforeAnySolutionSaysSo) {
 TEST_F(CommandInterruptTest, OtherSignalIsNoStopAndLeavesAnOlderSolution) {
     const std::string table = file("solution.csv", "an older solution");
     for (const int signal : {SIGALRM, SIGKILL}) {
-        Process process({"solve", file("model.mps", smallModel), "--engine", PLAYED_ENGINE, "--solution", table},
-                        folder_, {.input = {}, .environment = {"PLAYED_RUN=long"}});
-        std::this_thread::sleep_for(underWay);
-        process.send(signal);
-        EXPECT_EQ(process.wait().exitCode, -signal);
+        EXPECT_EQ(stopped("long", signal, {"--solution", table}).exitCode, -signal);
         EXPECT_EQ(contentOf(table), "an older solution");
     }
 }
 
-TEST(CommandProgressTest, NarrowLineKeepsTheTimeAndWhatTellsMost) {
-    const auto model = createObject<ITARQModel>("TARQModel");
-    EXPECT_EQ(progressText(*model, true, 4000, 44), "nodes 0  best -  gap -  time 1:06:40 h");
-    EXPECT_EQ(progressText(*model, true, 4000, 10), "time 1:06:40 h");
-}
-
 TEST_F(CommandInterruptTest, SecondInterruptQuitsAtOnce) {
-    Process process = played("deaf");
+    Process process(playedSolve(), folder_, played("deaf"));
     std::this_thread::sleep_for(underWay);
     process.send(SIGINT);
     std::this_thread::sleep_for(200ms);
@@ -81,21 +73,14 @@ TEST_F(CommandInterruptTest, SecondInterruptQuitsAtOnce) {
 }
 
 TEST_F(CommandInterruptTest, TerminalShowsProgressInOneLineThatIsWiped) {
-    Process process = played("long", true);
-    std::this_thread::sleep_for(underWay);
-    process.send(SIGINT);
-    const Output output = process.wait();
+    const Output output = stopped("long", SIGINT, {}, true);
     EXPECT_EQ(output.exitCode, 4);
     EXPECT_THAT(output.err,
                 AllOf(testing::ContainsRegex("\r\033\\[Kiterations [0-9]+  objective 1.5  time 0\\.[0-9] s"),
                       Not(HasSubstr("\n")), testing::EndsWith("\r\033[K")));
-}
-
-TEST_F(CommandInterruptTest, NothingIsShownWhereNobodyWatches) {
-    Process process = played("long");
-    std::this_thread::sleep_for(underWay);
-    process.send(SIGINT);
-    EXPECT_EQ(process.wait().err, "");
+    const auto model = createObject<ITARQModel>("TARQModel");
+    EXPECT_EQ(progressText(*model, true, 4000, 44), "nodes 0  best -  gap -  time 1:06:40 h");
+    EXPECT_EQ(progressText(*model, true, 4000, 10), "time 1:06:40 h");
 }
 
 }  // namespace

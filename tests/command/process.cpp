@@ -127,9 +127,45 @@ Output CommandTest::run(const std::vector<std::string>& arguments, const Surroun
     return Process(arguments, folder_, around).wait();
 }
 
+Output CommandTest::expectRun(const std::vector<std::string>& arguments, int exitCode, std::string_view out,
+                              std::string_view err, const Surroundings& around) const {
+    Output output = run(arguments, around);
+    SCOPED_TRACE(testing::PrintToString(arguments));
+    EXPECT_EQ(output.exitCode, exitCode) << output.err;
+    const auto check = [](const std::string& printed, std::string_view words) {
+        if (words.empty()) {
+            EXPECT_EQ(printed, "");
+        } else {
+            EXPECT_THAT(printed, testing::HasSubstr(std::string(words)));
+        }
+    };
+    check(output.out, out);
+    check(output.err, err);
+    return output;
+}
+
+nlohmann::ordered_json CommandTest::json(std::vector<std::string> arguments, int exitCode) const {
+    arguments.emplace_back("--json");
+    const Output output = run(arguments);
+    EXPECT_EQ(output.exitCode, exitCode) << testing::PrintToString(arguments) << output.err;
+    auto document = nlohmann::ordered_json::parse(output.out, nullptr, false);
+    EXPECT_FALSE(document.is_discarded()) << output.out;
+    return document;
+}
+
+std::vector<std::string> CommandTest::playedSolve(const std::vector<std::string>& options) const {
+    std::vector<std::string> arguments{"solve", file("model.mps", smallModel), "--engine", PLAYED_ENGINE};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return arguments;
+}
+
 std::string CommandTest::file(const std::string& name, std::string_view text) const {
     std::ofstream(folder_ / name, std::ios::binary) << text;
     return path(name);
+}
+
+Surroundings played(const std::string& run, bool terminal) {
+    return {.input = {}, .environment = {"PLAYED_RUN=" + run}, .terminal = terminal};
 }
 
 std::string contentOf(const std::string& path) {

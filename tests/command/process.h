@@ -55,12 +55,23 @@ protected:
     ~CommandTest() override;
 
     Output run(const std::vector<std::string>& arguments, const Surroundings& around = {}) const;
+    /// Runs the command and checks its exit code and that `out` and `err` are among what it prints; without either,
+    /// that it prints nothing there.
+    Output expectRun(const std::vector<std::string>& arguments, int exitCode, std::string_view out,
+                     std::string_view err = {}, const Surroundings& around = {}) const;
+    /// The document that the command prints; a failure of the test when it prints none.
+    nlohmann::ordered_json json(std::vector<std::string> arguments, int exitCode = 0) const;
+    /// The arguments that solve the small model by an engine that ends its run as played() says.
+    std::vector<std::string> playedSolve(const std::vector<std::string>& options = {}) const;
     /// Writes a file in the test's folder and returns its path.
     std::string file(const std::string& name, std::string_view text) const;
     std::string path(const std::string& name) const { return (folder_ / name).string(); }
 
     std::filesystem::path folder_;
 };
+
+/// Has the engine of playedSolve() end its run so; see playedengine.cpp.
+[[nodiscard]] Surroundings played(const std::string& run, bool terminal = false);
 
 [[nodiscard]] std::string contentOf(const std::string& path);
 [[nodiscard]] std::string example(const std::string& name);

@@ -1,5 +1,5 @@
 // The exit code and the words for each way in which a run can end.
-#include "runresult.h"
+#include "run/runresult.h"
 
 #include <gtest/gtest.h>
 

@@ -125,26 +125,26 @@ TEST_F(MathProgImportTest, WithoutAFreeRowTheNonzerosAreStoredOneRowUp) {
 TEST_F(MathProgImportTest, FailuresBeforeTheCopyLeaveTheModel) {
     library.slot<"mp_create_prob">().function = nullptr;
     library.slot<"mp_get_obj_dir">().function = nullptr;
-    EXPECT_THAT(import(), failsWith(Status(0x80041012), "Could not get MathProg.DLL function handles."));
+    EXPECT_THAT(import(), failsWith(status::entryPointsMissing, "Could not get MathProg.DLL function handles."));
     library = scriptedLibrary();
     EXPECT_THAT(importMathProgModel(library, "/nowhere/a.mod", Variant::missing(), model),
-                failsWith(Status(0x80041030), "Could not find .MOD file. Bad path."));
-    EXPECT_THAT(import(Variant(3)), failsWith(Status(0x80041031), "Bad argument for .DAT filename."));
+                failsWith(status::fileNotReachable, "Could not find .MOD file. Bad path."));
+    EXPECT_THAT(import(Variant(3)), failsWith(status::invalidArgument, "Bad argument for .DAT filename."));
     EXPECT_THAT(import(Variant(modelFile + "x")),
-                failsWith(Status(0x80041030), "Could not find .DAT file. Bad filename."));
+                failsWith(status::fileNotReachable, "Could not find .DAT file. Bad filename."));
     const std::string folder = std::getenv("TMPDIR");
     setenv("TMPDIR", "/nowhere", 1);
-    EXPECT_THAT(import(), failsWith(Status(0x80041023), "AMPL I/O Error."));
+    EXPECT_THAT(import(), failsWith(status::temporaryFile, "AMPL I/O Error."));
     EXPECT_EQ(script.calls, 0);
     setenv("TMPDIR", folder.c_str(), 1);
     script.result = 1;
-    EXPECT_THAT(import(), failsWith(Status(0x80041021), "Error in MathProg model."));
+    EXPECT_THAT(import(), failsWith(status::modelRejected, "Error in MathProg model."));
     EXPECT_EQ(model.output_.size(), 1024U);
     EXPECT_TRUE(left().empty());
     EXPECT_TRUE(model.isOld());
     script.result = 0;
     script.columns = {{111, 160, 0, 0, 1, "x"}, {111, 160, 0, 0, 1, "x"}};
-    EXPECT_THAT(import(), failsWith(Status(0x80041026), "Duplicate col name: x"));
+    EXPECT_THAT(import(), failsWith(status::badColumnName, "Duplicate col name: x"));
     EXPECT_EQ(store.columnCount(), 1) << "what was added so far";
 }
 

@@ -59,14 +59,11 @@ TEST(MpsReader, RowTypeIsToldByEitherColumnAndKeptInTheDual) {
     }
 }
 
-TEST(MpsReader, RowNamedTwiceKeepsItsFirstType) {
-    MpsModel model;
-    ASSERT_THAT(model.read("NAME\nROWS\n N  C\n E  R\n L  R\n N  C\nCOLUMNS\nENDATA\n"), succeeds());
-    EXPECT_EQ(model.modelStore.rowCount(), 1);
-    EXPECT_EQ(model.row("R").dual, 1);
-}
-
-TEST(MpsReader, ColumnMetAgainKeepsItsPlaceAndItsNonzerosAreReplaced) {
+TEST(MpsReader, NameMetAgainKeepsItsPlaceARowItsTypeAndNonzerosAreReplaced) {
+    MpsModel twice;
+    ASSERT_THAT(twice.read("NAME\nROWS\n N  C\n E  R\n L  R\n N  C\nCOLUMNS\nENDATA\n"), succeeds());
+    EXPECT_EQ(twice.modelStore.rowCount(), 1);
+    EXPECT_EQ(twice.row("R").dual, 1);
     MpsModel model;
     ASSERT_THAT(
         model.read(opening + fields({"", "X", "E1", "1", "COST", "1"}) + fields({"", "Y", "E1", "5"}) +

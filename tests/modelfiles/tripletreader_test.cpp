@@ -47,29 +47,22 @@ TEST(TripletReader, WrongTextsFailWithTheirMessageAndLine) {
     const std::string column = sizes + "0 1 0 0 X\n";
     const std::string row = column + "-1 0 R\n";
     const std::string two = "2 2 0 0\n0 1 0 0 X\n";
-    const std::string long65(65, 'n');
     struct {
         std::string text;
         const char* message;
         int line;
     } const cases[] = {
         {"", "Incorrect number of values in Section 2.", 2},
-        {"* only\n! comments\n", "Incorrect number of values in Section 2.", 3},
         {"1 1 0", "Incorrect number of values in Section 2.", 1},
-        {"1 1 0 0 1 1", "Incorrect number of values in Section 2.", 1},
         {"0 1 0 0", "Bad number of rows in Section 2.", 1},
-        {"1.5 1 0 0", "Bad number of rows in Section 2.", 1},
         {"1 -1 0 0", "Bad number of cols in Section 2.", 1},
-        {"1 -99999999999 0 0", "Bad number of cols in Section 2.", 1},
         {"1 99999999999 0 0", "Number of cols found in section 3 does not fit value from section 2.", 2},
-        {"1 1 0 0 -1", "Bad value for xinf in Section 2.", 1},
         {"1 1 0 0 inf", "Bad value for xinf in Section 2.", 1},
         {sizes + "a 1 0 0 X", "Can't read LB in Section 3.", 2},
         {sizes + "0 0x1 0 0 X", "Can't read UB in Section 3.", 2},
         {sizes + "0 1 " + std::string(65, '0') + " 0 X", "Can't read cost in Section 3.", 2},
         {sizes + "0 1 0 1.0 X", "Can't read type in Section 3.", 2},
         {sizes + "0 1 0 0 " + std::string(64, 'n'), "Can't read col name in Section 3.", 2},
-        {sizes + "0 1", "Can't read cost in Section 3.", 2},
         {sizes + "2 1 0 0 X", "LB > UB in Section 3.", 2},
         {two + "0 1 0 0 X\n", "Duplicate col name 'X'.", 3},
         {two, "Number of cols found in section 3 does not fit value from section 2.", 3},
@@ -80,12 +73,10 @@ TEST(TripletReader, WrongTextsFailWithTheirMessageAndLine) {
         {"2 1 0 0\n0 1 0 0 X\n0 0 R\n0 0 R\n", "Duplicate row name 'R'.", 4},
         {column, "Number of rows found in Section 4 does not fit value from Section 2.", 3},
         {row + "1 1", "Incorrect number of values in Section 5.", 4},
-        {row + "\n1 1 1 1", "Incorrect number of values in Section 5.", 5},
         {row + "a 1 1", "Can't read row index in Section 5.", 4},
         {row + "1 a 1", "Can't read col index in Section 5.", 4},
         {row + "2 2 nan", "Can't read nz in Section 5.", 4},
         {row + "2 2 1", "Bad row index in Section 5.", 4},
-        {row + "99999999999 1 1", "Bad row index in Section 5.", 4},
         {row + "1 0 1", "Bad col index in Section 5.", 4},
     };
     for (const auto& one : cases) {

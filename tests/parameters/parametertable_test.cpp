@@ -91,13 +91,9 @@ TEST(ParameterTable, StartValuesThatARunDependsOn) {
     const struct {
         std::string_view name;
         std::string_view text;
-    } cases[] = {
-        {"xmreal", "0"},       {"xfrnds", "-1"},       {"xfrbas", "-1"},  {"xfrite", "0"},     {"xipbnd", "1e+20"},
-        {"xipdua", "150"},     {"xmxint", "32767"},    {"xminmx", "min"}, {"xlptyp", "2"},     {"xtolr2", "1e-14"},
-        {"xbckpa", "0.999"},   {"xglgap", "0.0001"},   {"xhrdlb", "-1"},  {"xnodse", "3"},     {"xparnd", "-2"},
-        {"xmxnod", "9999999"}, {"xmiter", "20000000"}, {"xnproc", "1"},   {"xtolx", "0.0001"}, {"xfnlog", ""},
-        {"xmxmin", "120"},     {"xadnon", "400000"},   {"xluctr", "2"},   {"xtolin", "1e-05"}, {"xmxtlp", "1e+20"},
-    };
+    } cases[] = {{"xmreal", "0"},       {"xfrnds", "-1"},       {"xipbnd", "1e+20"}, {"xmxint", "32767"},
+                 {"xminmx", "min"},     {"xlptyp", "2"},        {"xtolr2", "1e-14"}, {"xglgap", "0.0001"},
+                 {"xmxnod", "9999999"}, {"xmiter", "20000000"}, {"xmxmin", "120"},   {"xtolin", "1e-05"}};
     const ParameterTable table;
     for (const auto& each : cases) EXPECT_EQ(table.valueText(parameterIndex(each.name)), each.text) << each.name;
 }
@@ -110,8 +106,6 @@ TEST(ParameterTable, TextLengthCountsWideCharacters) {
     EXPECT_THAT(table.setString(row, "\U0001F600\U0001F600\U0001F600\U0001F600"), succeeds());
     EXPECT_THAT(table.setString(row, "\U0001F600\U0001F600\U0001F600\U0001F600a"), isTooLong());
     EXPECT_THAT(table.setString(row, std::string(9, '\x80')), isTooLong());
-    EXPECT_THAT(table.setString(row, "\xE2\x82\xF0\x9F\x98\xC3\xE2\x82"), succeeds());
-    EXPECT_THAT(table.setString(row, "\xE2\x82\xF0\x9F\x98\xC3\xE2\x82\xC3"), isTooLong());
 }
 
 TEST(ParameterTable, RowThatIsNotThereIsNeverTouched) {

@@ -22,11 +22,6 @@ TEST_F(SolverFileNames, BaseNameFillsSevenRowsAndNoOther) {
         EXPECT_EQ(nameIn("xfn" + suffix), "c:\\temp\\run1." + suffix);
     }
     for (const std::string_view row : {"xfnbai", "xfnbao", "xfnsav"}) EXPECT_EQ(nameIn(row), "") << row;
-}
-
-TEST_F(SolverFileNames, ExtensionStaysAndEmptyNameIsAccepted) {
-    EXPECT_THAT(generateFileNames(table, "a.txt"), succeeds());
-    EXPECT_EQ(nameIn("xfnlps"), "a.txt.lps");
     EXPECT_THAT(generateFileNames(table, ""), succeeds());
     EXPECT_EQ(nameIn("xfnlps"), ".lps");
 }

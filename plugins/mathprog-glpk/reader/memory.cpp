@@ -1,15 +1,17 @@
 #include "memory.h"
 
+#include <cstdlib>
+#if defined(__GLIBC__)
 #include <malloc.h>
-#include <unistd.h>
+#endif
 
 #include <algorithm>
-#include <cstdlib>
+#include <cstddef>
 #include <fstream>
 #include <limits>
 #include <string>
 
-#include "platform/largepages.h"
+#include "platform/heapgrowth.h"
 
 namespace tarq::mathprog {
 namespace {
@@ -46,26 +48,11 @@ std::uint64_t availableInContainer() {
 std::uint64_t availableMemory() { return std::min(availableOnMachine(), availableInContainer()); }
 
 void prepareHeap() {
-#if defined(__GLIBC__)
     constexpr std::uint64_t largestStep = std::uint64_t{1} << 30U;
-    constexpr int usualStep = 128 * 1024;
-    const int step = static_cast<int>(std::min(largestStep, availableMemory() / 8));
+#if defined(__GLIBC__)
     (void)::mallopt(M_ARENA_MAX, 1);
-    (void)::mallopt(M_TRIM_THRESHOLD, -1);
-    (void)::mallopt(M_TOP_PAD, step);
-    auto* const endBefore = static_cast<char*>(::sbrk(0));
-    // More than the heap has at first, but not so much that it would lie elsewhere. Volatile, or the compiler takes it
-    // for nothing.
-    constexpr std::size_t piece = 120 * 1024;
-    void* const volatile pieces[] = {std::malloc(piece), std::malloc(piece)};
-    for (void* const taken : pieces) std::free(taken);
-    const auto grown = static_cast<char*>(::sbrk(0)) - endBefore;
-    if (grown >= step) {
-        preferLargePages(endBefore, static_cast<std::size_t>(grown));
-    } else {
-        (void)::mallopt(M_TOP_PAD, usualStep);
-    }
 #endif
+    (void)growHeapBy(static_cast<std::size_t>(std::min(largestStep, availableMemory() / 8)));
 }
 
 }  // namespace tarq::mathprog

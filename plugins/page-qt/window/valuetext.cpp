@@ -7,6 +7,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "tarq/frame/wholenumber.h"
+
 namespace tarq::page {
 namespace {
 
@@ -51,8 +53,7 @@ std::string doubtAbout(const Item& item, const std::string& value) {
     if (hasOptions(item) || item.type == TARQPageText) return {};
     const auto number = numberIn(value);
     if (!number) return "This is not a number.";
-    const bool isPlain = value.find_first_not_of("-0123456789") == std::string::npos;
-    if (item.type == TARQPageInteger && !isPlain) return "This takes a whole number in digits alone.";
+    if (item.type == TARQPageInteger && !isWholeNumber(value)) return "This takes a whole number in digits alone.";
     const auto minimum = numberIn(item.minimum);
     const auto maximum = numberIn(item.maximum);
     if ((minimum && *number < *minimum) || (maximum && *number > *maximum)) {
