@@ -11,11 +11,13 @@
 
 namespace tarq::page {
 
+/// A value with a name: a button of a group, an entry of a list, or one of the two states of a box.
 struct Option {
     std::string text;
     std::string value;
 };
 
+/// A parameter. Values and limits are texts as the component writes them; no limit is an empty one.
 struct Item {
     std::string name;
     std::string description;
@@ -25,10 +27,11 @@ struct Item {
     std::string defaultValue;
     std::string minimum;
     std::string maximum;
-    std::int32_t maximumLength = 0;
+    std::int32_t maximumLength = 0;  ///< of a text, in UTF-16 code units; 0 for any
     std::vector<Option> options;
 };
 
+/// Items under a title, in the order in which they are shown.
 struct Section {
     std::string title;
     std::vector<Item> items;
@@ -36,16 +39,19 @@ struct Section {
 
 struct Page {
     std::string caption;
+    /// Where the window would like to stand, in pixels of the screen.
     std::int32_t left = 0;
     std::int32_t top = 0;
     std::vector<Section> sections;
 };
 
+/// What a person has made of the parameter of a name.
 struct Edit {
     std::string name;
     std::string value;
 };
 
+/// Something to tell the person behind an apply.
 struct Message {
     std::string text;
     TARQPageIcon icon = TARQPageWarning;

@@ -16,8 +16,10 @@
 
 namespace tarq::page {
 
+/// The program with the window, in the folder of programs that belong to the component.
 inline constexpr const char* programName = "tarq-page";
 
+/// What a frame tells. The first number is far from those that bytes of another origin begin with.
 enum class FrameKind : std::uint32_t {
     Description = 0x54515001,
     Messages,
@@ -27,11 +29,13 @@ enum class FrameKind : std::uint32_t {
     Closed,
 };
 
+/// One thing told.
 struct Frame {
     FrameKind kind{};
     std::string body;
 };
 
+/// The bytes of a frame.
 [[nodiscard]] std::string framed(FrameKind kind, std::string_view body = {});
 
 /// Puts frames together from bytes as they come. Memory is taken only for what has come.
@@ -48,6 +52,7 @@ private:
     bool isBroken_ = false;
 };
 
+/// The bodies of Description, Edits and Messages. Linear.
 [[nodiscard]] std::string toBytes(const Page& page);
 [[nodiscard]] std::string toBytes(const std::vector<Edit>& edits);
 [[nodiscard]] std::string toBytes(const std::vector<Message>& messages);

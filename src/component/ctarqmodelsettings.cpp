@@ -12,7 +12,7 @@ namespace tarq {
 namespace {
 
 constexpr std::size_t maxModelNameLength = 32;
-constexpr std::size_t maxPathLength = 255;
+constexpr std::size_t maxPathLength = EngineBinding::maxLocationLength;  // one limit for all four locations
 constexpr std::int32_t minAmplOutputBufferSize = 1024;
 
 // The names of the vectors to take from an MPS file belong to the model they were read with.

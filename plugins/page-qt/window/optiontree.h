@@ -18,8 +18,10 @@ namespace tarq::page {
 
 class COptionTree final : public QWidget {
 public:
+    /// Makes an item for each of the page's, and a branch for each section and item.
     COptionTree(const Page& page, QWidget* parent);
 
+    /// All items, in the order of the page; they live as long as the tree.
     [[nodiscard]] const std::vector<COptionTreeItem*>& items() const { return items_; }
 
     /// Shows the items that hold all words of `search`, in any case of letters, and that differ from their default if
@@ -37,6 +39,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    /// A section as it stands on both sides: above its items, and in the tree.
     struct ShownSection {
         QLabel* heading = nullptr;
         QTreeWidgetItem* branch = nullptr;
@@ -46,6 +49,7 @@ private:
     void addSection(const Section& section, QWidget* content);
     void addItem(const Item& item, ShownSection& section, QWidget* content);
     [[nodiscard]] int branchHeight() const;
+    /// Has a branch that is chosen lead to its section or item.
     void connectTree();
     void setCurrent(COptionTreeItem* item);
     void markBranch(const COptionTreeItem& item);
@@ -54,7 +58,7 @@ private:
 
     QTreeWidget* tree_;
     QScrollArea* view_;
-    QLabel* nothing_;
+    QLabel* nothing_;  ///< stands there where the filter shows nothing
     std::vector<ShownSection> sections_;
     std::vector<COptionTreeItem*> items_;
     std::vector<QTreeWidgetItem*> branches_;  ///< one for each of the items

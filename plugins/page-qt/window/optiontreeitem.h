@@ -23,15 +23,18 @@ class QVBoxLayout;
 
 namespace tarq::page {
 
+/// What all kinds have in common. The kinds differ in their editor alone.
 class COptionTreeItem : public QWidget {
 public:
     /// An item of the class for its kind.
     static COptionTreeItem* make(const Item& item, QWidget* parent);
 
     [[nodiscard]] const Item& item() const { return item_; }
+    /// As it would be handed to the component.
     [[nodiscard]] const std::string& value() const { return value_; }
     /// Whether the value differs from what it was at the beginning, or at the last `keep`.
     [[nodiscard]] bool isEdited() const { return value_ != kept_; }
+    /// Whether the value is the default, be it written in another way.
     [[nodiscard]] bool isDefault() const;
     /// Takes the present value as the one from which edits differ.
     void keep() { kept_ = value_; }
@@ -79,6 +82,7 @@ private:
     QToolButton* restore_ = nullptr;
 };
 
+/// A button for each option; a value that none has leaves all of them up and is told below.
 class COptionTreeItemRadio final : public COptionTreeItem {
 public:
     COptionTreeItemRadio(const Item& item, QWidget* parent);
@@ -92,6 +96,7 @@ private:
     QLabel* unnamed_;
 };
 
+/// One box, checked for the first option.
 class COptionTreeItemCheckBox final : public COptionTreeItem {
 public:
     COptionTreeItemCheckBox(const Item& item, QWidget* parent);
@@ -104,6 +109,7 @@ private:
     QCheckBox* box_;
 };
 
+/// A list with an entry for each option.
 class COptionTreeItemComboBox final : public COptionTreeItem {
 public:
     COptionTreeItemComboBox(const Item& item, QWidget* parent);
@@ -116,6 +122,7 @@ private:
     QComboBox* box_;
 };
 
+/// A field to type in, with a hint where the value would hardly be stored.
 class COptionTreeItemEdit : public COptionTreeItem {
 public:
     COptionTreeItemEdit(const Item& item, QWidget* parent);
@@ -136,6 +143,7 @@ private:
     QLabel* hint_;
 };
 
+/// The same with a button to look for a file.
 class COptionTreeItemEditFile final : public COptionTreeItemEdit {
 public:
     COptionTreeItemEditFile(const Item& item, QWidget* parent);

@@ -24,8 +24,10 @@ public:
     /// Stores edits and gives back what there is to tell.
     using Apply = std::function<std::vector<Message>(const std::vector<Edit>&)>;
 
+    /// Shows nothing yet; `exec` does, and returns when the person has closed the window.
     PageWindow(const Page& page, Apply apply);
 
+    /// OK: stores the edits and closes.
     void accept() override;
 
 protected:
@@ -37,7 +39,9 @@ private:
     void makeHelp();
     void makeButtons();
     void connectKeys();
+    /// Puts the window where the page wants it, as far as the screen goes.
     void place(const Page& page);
+    /// Shows what fits to the search field and the box beside it.
     void search();
     /// What follows from a changed value.
     void refresh();
