@@ -10,8 +10,7 @@ Status CTARQModel::AddObjSum(const ValueList& CoeffsAndCols) {
 }
 
 Status CTARQModel::get_NZs(const Variant& RowIndices, const Variant& ColIndices, Variant* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded([&] { return getNonzeros(store_, RowIndices, ColIndices, *value); });
+    return guardedResult(value, [&] { return getNonzeros(store_, RowIndices, ColIndices); });
 }
 
 Status CTARQModel::put_NZs(const Variant& RowIndices, const Variant& ColIndices, const Variant& value) {

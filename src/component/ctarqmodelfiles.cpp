@@ -17,11 +17,11 @@ Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eF
 
 Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
                                    const Variant& StartCol, const Variant& EndCol) {
-    return guarded([&] {
+    return guarded([&]() -> Outcome {
         TARQ_TRY(checkWrittenName(FileName));
         ModelCutout cutout{};
-        Outcome resolved = resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout);
-        return resolved.isOk() ? writeModelListing(FileName, {store_, parameters_, modelName_}, cutout) : resolved;
+        TARQ_TRY(resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout));
+        return writeModelListing(FileName, {store_, parameters_, modelName_}, cutout);
     });
 }
 

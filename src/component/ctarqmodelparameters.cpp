@@ -1,5 +1,6 @@
 // CTARQModel: the solver parameters.
 #include "component/ctarqmodel.h"
+#include "frame/result.h"
 #include "parameters/parameteraccess.h"
 #include "parameters/profile.h"
 #include "parameters/solverfilenames.h"
@@ -35,10 +36,9 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
                 lpControl)) {
         return status::nullPointer;
     }
-    return guarded([&] {
+    return guarded([&]() -> Outcome {
         ParameterInfo info;
-        Outcome outcome = parameterInfo(parameters_, ParameterID, info);
-        if (!outcome.isOk()) return outcome;
+        TARQ_TRY(parameterInfo(parameters_, ParameterID, info));
         std::string name(info.name);
         std::string description(info.description);
         *Type = static_cast<std::int32_t>(info.type);
@@ -52,20 +52,19 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
         *bsDescription = std::move(description);
         *lpCategory = static_cast<std::int32_t>(info.section);
         *lpControl = static_cast<std::int32_t>(info.control);
-        return outcome;
+        return {};
     });
 }
 
 Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
                                       std::string* bsOptionName) {
     if (anyNull(lpOptionValue, bsOptionName)) return status::nullPointer;
-    return guarded([&] {
+    return guarded([&]() -> Outcome {
         ParameterOption option{};
-        Outcome outcome = parameterOption(lParameterID, lOptionID, option);
-        if (!outcome.isOk()) return outcome;
+        TARQ_TRY(parameterOption(lParameterID, lOptionID, option));
         *bsOptionName = std::string(option.text);
         *lpOptionValue = option.value;
-        return outcome;
+        return {};
     });
 }
 

@@ -5,20 +5,21 @@
 
 #include "component/ctarqmodel.h"
 #include "frame/text.h"
+#include "interfaces/commonfailures.h"
+#include "interfaces/limits.h"
 #include "parameters/parameteraccess.h"
 
 namespace tarq {
 namespace {
 
-constexpr std::size_t maxModelNameLength = 32;
-constexpr std::size_t maxPathLength = 255;
-constexpr std::int32_t minAmplOutputBufferSize = 1024;
+constexpr std::size_t longestModelName = 32;  // in characters
+constexpr std::int32_t leastAmplOutputBufferSize = 1024;
 
 // The names of the vectors to take from an MPS file belong to the model they were read with.
 constexpr std::string_view vectorNames[] = {"xrhs", "xobj", "xdata", "xrange", "xbound"};
 
 Outcome storePath(std::string& path, const std::string& value) {
-    if (value.size() > maxPathLength) return {status::textTooLong, "Passed string is to long."};
+    if (value.size() > longestPath) return failures::textTooLong();
     path = value;
     return {};
 }
@@ -84,7 +85,7 @@ Status CTARQModel::get_ModelName(std::string* value) {
 
 Status CTARQModel::put_ModelName(const std::string& value) {
     return guarded([&]() -> Outcome {
-        if (utf16Length(value) > maxModelNameLength) return {status::textTooLong, "Passed string is to long."};
+        if (utf16Length(value) > longestModelName) return failures::textTooLong();
         modelName_ = value;
         return {};
     });
@@ -145,7 +146,7 @@ Status CTARQModel::get_AMPLOutputBufferMaxSize(std::int32_t* value) {
 
 Status CTARQModel::put_AMPLOutputBufferMaxSize(std::int32_t value) {
     return guarded([&]() -> Outcome {
-        if (value < minAmplOutputBufferSize) {
+        if (value < leastAmplOutputBufferSize) {
             return {status::invalidArgument, "AMPLOutputBuffer must be at least 1024 Bytes long"};
         }
         amplOutputBufferMaxSize_ = value;
