@@ -95,7 +95,7 @@ void findEachOfBlock(benchmark::State& state) {
         for (std::int32_t row = 1; row <= side; ++row) {
             for (std::int32_t column = 1; column <= side; ++column) {
                 const std::int32_t cell = (row - 1) * side + column - 1;
-                static_cast<void>(store->findNonzero(column, row, values[static_cast<std::size_t>(cell)]));
+                values[static_cast<std::size_t>(cell)] = store->nonzeroAt(column, row);
             }
         }
         benchmark::DoNotOptimize(values);
@@ -107,8 +107,7 @@ void getBlock(benchmark::State& state) {
     const Variant indices(SafeArray::of(numbersTo(side)));
     static_cast<void>(putNonzeros(*store, indices, indices, Variant(1.5)));
     for (auto _ : state) {
-        Variant values;
-        if (!getNonzeros(*store, indices, indices, values).isOk()) state.SkipWithError("The block was refused.");
+        if (!getNonzeros(*store, indices, indices).isOk()) state.SkipWithError("The block was refused.");
     }
 }
 
@@ -134,9 +133,7 @@ void resolveEach(benchmark::State& state) {
     for (auto& address : addresses<Element>()) list.emplace_back(std::move(address));
     for (auto _ : state) {
         std::vector<std::int32_t> positions(list.size());
-        for (std::size_t i = 0; i < list.size(); ++i) {
-            static_cast<void>(resolveColumn(*store, list[i], positions[i]));
-        }
+        for (std::size_t i = 0; i < list.size(); ++i) positions[i] = *resolve<ColumnRecord>(*store, list[i]);
         benchmark::DoNotOptimize(positions);
     }
     state.SetItemsProcessed(state.iterations() * million);

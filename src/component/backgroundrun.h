@@ -1,7 +1,8 @@
 // BackgroundRun: a run on a thread of its own, which the client doesn't wait for.
 //
-// A run that is killed is parked: at the engine's next callback, else where the run would begin to end, else wherever
-// the thread is (see platform/thread.h). It keeps its memory and what the engine holds, and never reports.
+// A run that is killed is parked: at the engine's next callback or where the run would begin to end, if it comes there
+// within a second, else where platform/thread.h stops it. It keeps its memory and what the engine holds, and never
+// reports.
 #pragma once
 
 #include <atomic>
@@ -24,14 +25,14 @@ public:
     /// Starts the thread of `run`; false when there is no thread to be had.
     [[nodiscard]] static bool start(const std::shared_ptr<BackgroundRun>& run) noexcept;
 
-    /// Stops the thread for good; false when it couldn't be stopped. A run that has begun to end is left to clear its
-    /// busy flag instead. From any thread but the run's own.
+    /// Parks the thread; false when it couldn't be parked. A run that has begun to end is left to clear its busy flag
+    /// instead. From any thread but the run's own.
     [[nodiscard]] bool kill() noexcept;
 
 private:
     enum class Phase : std::uint8_t { Running, Killed, Ending, Ended };
 
-    void execute() noexcept;
+    void execute();
     [[noreturn]] void park() noexcept;
     [[nodiscard]] bool waitUntil(const std::function<bool()>& reached) const;
 

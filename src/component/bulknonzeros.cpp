@@ -24,9 +24,11 @@ struct Places {
     PositionList columns;
 };
 
-Outcome resolvePlaces(const ModelStore& store, const Variant& rows, const Variant& columns, Places& places) {
+Result<Places> resolvePlaces(const ModelStore& store, const Variant& rows, const Variant& columns) {
+    Places places;
     TARQ_TRY(resolveIndexList(store, columns, IndexedSide::Columns, places.columns));
-    return resolveIndexList(store, rows, IndexedSide::Rows, places.rows);
+    TARQ_TRY(resolveIndexList(store, rows, IndexedSide::Rows, places.rows));
+    return places;
 }
 
 /// Values for so many places, of which a client may have given a single one for all.
@@ -53,14 +55,10 @@ private:
 
 }  // namespace
 
-Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns, Variant& values) {
-    Places places;
-    TARQ_TRY(resolvePlaces(store, rows, columns, places));
+Result<Variant> getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns) {
+    TARQ_ASSIGN(const Places places, resolvePlaces(store, rows, columns));
     if (places.rows.size() == 1 && places.columns.size() == 1) {
-        double value = 0.0;
-        static_cast<void>(store.findNonzero(places.columns.front() + 1, places.rows.front() + 1, value));
-        values = Variant(value);
-        return {};
+        return Variant(store.nonzeroAt(places.columns.front() + 1, places.rows.front() + 1));
     }
     const std::array dimensions{Dimension{1, static_cast<std::uint32_t>(places.rows.size())},
                                 Dimension{1, static_cast<std::uint32_t>(places.columns.size())}};
@@ -69,17 +67,13 @@ Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant&
     std::size_t cell = 0;
     const std::span<double> cells = array.elements<double>();
     for (const std::int32_t row : places.rows) {
-        for (const std::int32_t column : places.columns) {
-            static_cast<void>(store.findNonzero(column + 1, row + 1, cells[cell++]));
-        }
+        for (const std::int32_t column : places.columns) cells[cell++] = store.nonzeroAt(column + 1, row + 1);
     }
-    values = Variant(std::move(array));
-    return {};
+    return Variant(std::move(array));
 }
 
 Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
-    Places places;
-    TARQ_TRY(resolvePlaces(store, rows, columns, places));
+    TARQ_ASSIGN(const Places places, resolvePlaces(store, rows, columns));
     const std::array<std::size_t, 2> shape{places.rows.size(), places.columns.size()};
     PlaceValues read;
     TARQ_TRY(read.read(values, shape));
@@ -91,8 +85,7 @@ Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& colum
 }
 
 Outcome setNonzeroStair(ModelStore& store, const Variant& rows, const Variant& columns, const Variant& values) {
-    Places places;
-    TARQ_TRY(resolvePlaces(store, rows, columns, places));
+    TARQ_ASSIGN(const Places places, resolvePlaces(store, rows, columns));
     const std::array<std::size_t, 1> shape{std::min(places.rows.size(), places.columns.size())};
     PlaceValues read;
     TARQ_TRY(read.read(values, shape));

@@ -4,6 +4,7 @@
 // failure leaves the matrix as it was. Only when memory runs out while storing may some be stored and others not.
 #pragma once
 
+#include "frame/result.h"
 #include "model/modelstore.h"
 #include "tarq/frame/status.h"
 #include "tarq/frame/variant.h"
@@ -12,8 +13,7 @@ namespace tarq {
 
 /// The coefficients of all rows and columns of two index lists: one Double for one place, else an array of Doubles with
 /// a row for each row and lower bounds 1. 0.0 where there is no nonzero.
-[[nodiscard]] Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns,
-                                  Variant& values);
+[[nodiscard]] Result<Variant> getNonzeros(const ModelStore& store, const Variant& rows, const Variant& columns);
 /// Replaces them, row by row, from one value for all, a list of values, or an array of as many rows and columns or
 /// more. 0.0 removes a coefficient; of a place named twice the last value stays.
 [[nodiscard]] Outcome putNonzeros(ModelStore& store, const Variant& rows, const Variant& columns,

@@ -1,6 +1,6 @@
 // CTARQModel: the solver parameters.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
+#include "frame/result.h"
 #include "parameters/parameteraccess.h"
 #include "parameters/profile.h"
 #include "parameters/solverfilenames.h"
@@ -17,15 +17,14 @@ bool anyNull(Pointers... pointers) {
 
 Status CTARQModel::get_Parameter(const std::string& ParameterName, Variant* value) {
     if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&]() -> Outcome {
+    return guarded([&]() -> Outcome {
         TARQ_ASSIGN(*value, readParameter(parameters_, ParameterName));
         return {};
     });
 }
 
 Status CTARQModel::put_Parameter(const std::string& ParameterName, const Variant& value) {
-    return guarded(classid::TARQModel,
-                   [&] { return writeParameter(parameters_, ParameterName, value, store_.infinity()); });
+    return guarded([&] { return writeParameter(parameters_, ParameterName, value, store_.infinity()); });
 }
 
 Status CTARQModel::get_NumberOfParameters(std::int32_t* value) {
@@ -40,7 +39,7 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
                 lpControl)) {
         return status::nullPointer;
     }
-    return guarded(classid::TARQModel, [&]() -> Outcome {
+    return guarded([&]() -> Outcome {
         TARQ_ASSIGN(ParameterInfo info, parameterInfo(parameters_, ParameterID));
         std::string name(info.name);
         std::string description(info.description);
@@ -62,7 +61,7 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
 Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
                                       std::string* bsOptionName) {
     if (anyNull(lpOptionValue, bsOptionName)) return status::nullPointer;
-    return guarded(classid::TARQModel, [&]() -> Outcome {
+    return guarded([&]() -> Outcome {
         TARQ_ASSIGN(const ParameterOption option, parameterOption(lParameterID, lOptionID));
         *bsOptionName = std::string(option.text);
         *lpOptionValue = option.value;
@@ -71,22 +70,22 @@ Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lO
 }
 
 Status CTARQModel::ReadProfile(const std::string& ProfileName) {
-    return guarded(classid::TARQModel, [&] { return readProfile(ProfileName, parameters_, store_.infinity()); });
+    return guarded([&] { return readProfile(ProfileName, parameters_, store_.infinity()); });
 }
 
 Status CTARQModel::WriteProfile(const std::string& ProfileName) {
-    return guarded(classid::TARQModel, [&] { return writeProfile(ProfileName, parameters_); });
+    return guarded([&] { return writeProfile(ProfileName, parameters_); });
 }
 
 Status CTARQModel::ResetParameters() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         parameters_.reset();
         return Outcome();
     });
 }
 
 Status CTARQModel::GenFileNames(const std::string& FileName) {
-    return guarded(classid::TARQModel, [&] { return generateFileNames(parameters_, FileName); });
+    return guarded([&] { return generateFileNames(parameters_, FileName); });
 }
 
 }  // namespace tarq

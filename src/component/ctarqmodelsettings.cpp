@@ -4,22 +4,22 @@
 #include <utility>
 
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "frame/text.h"
+#include "interfaces/commonfailures.h"
+#include "interfaces/limits.h"
 #include "parameters/parameteraccess.h"
 
 namespace tarq {
 namespace {
 
-constexpr std::size_t maxModelNameLength = 32;
-constexpr std::size_t maxPathLength = EngineBinding::maxLocationLength;  // one limit for all four locations
-constexpr std::int32_t minAmplOutputBufferSize = 1024;
+constexpr std::size_t longestModelName = 32;  // in characters
+constexpr std::int32_t leastAmplOutputBufferSize = 1024;
 
 // The names of the vectors to take from an MPS file belong to the model they were read with.
 constexpr std::string_view vectorNames[] = {"xrhs", "xobj", "xdata", "xrange", "xbound"};
 
 Outcome storePath(std::string& path, const std::string& value) {
-    if (value.size() > maxPathLength) return {status::textTooLong, "Passed string is to long."};
+    if (value.size() > longestPath) return failures::textTooLong();
     path = value;
     return {};
 }
@@ -55,14 +55,14 @@ void CTARQModel::setOutput(std::string bytes) { amplOutputBuffer_ = wellFormedTe
 Status CTARQModel::Test() { return status::ok; }
 
 Status CTARQModel::DelModel() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         clearModel();
         return Outcome();
     });
 }
 
 Status CTARQModel::AutoRenameVariables() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         store_.autoRename();
         return Outcome();
     });
@@ -73,7 +73,7 @@ Status CTARQModel::get_Name(std::string* value) {
 }
 
 Status CTARQModel::put_Name(const std::string& value) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         objectName_ = value;
         return Outcome();
     });
@@ -84,8 +84,8 @@ Status CTARQModel::get_ModelName(std::string* value) {
 }
 
 Status CTARQModel::put_ModelName(const std::string& value) {
-    return guarded(classid::TARQModel, [&]() -> Outcome {
-        if (utf16Length(value) > maxModelNameLength) return {status::textTooLong, "Passed string is to long."};
+    return guarded([&]() -> Outcome {
+        if (utf16Length(value) > longestModelName) return failures::textTooLong();
         modelName_ = value;
         return {};
     });
@@ -109,7 +109,7 @@ Status CTARQModel::get_LocationOfMathProgDLL(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfMathProgDLL(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfMathProgDll_, value); });
+    return guarded([&] { return storePath(locationOfMathProgDll_, value); });
 }
 
 Status CTARQModel::get_LocationOfAMPLEXE(std::string* value) {
@@ -117,7 +117,7 @@ Status CTARQModel::get_LocationOfAMPLEXE(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfAMPLEXE(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfAmplExe_, value); });
+    return guarded([&] { return storePath(locationOfAmplExe_, value); });
 }
 
 Status CTARQModel::get_LocationOfTARQAMPLEXE(std::string* value) {
@@ -125,7 +125,7 @@ Status CTARQModel::get_LocationOfTARQAMPLEXE(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfTARQAMPLEXE(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfTarqAmplExe_, value); });
+    return guarded([&] { return storePath(locationOfTarqAmplExe_, value); });
 }
 
 Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
@@ -133,7 +133,7 @@ Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
 }
 
 Status CTARQModel::put_MPLWorkingDirectory(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(mplWorkingDirectory_, value); });
+    return guarded([&] { return storePath(mplWorkingDirectory_, value); });
 }
 
 Status CTARQModel::get_AMPLOutputBuffer(std::string* value) {
@@ -145,8 +145,8 @@ Status CTARQModel::get_AMPLOutputBufferMaxSize(std::int32_t* value) {
 }
 
 Status CTARQModel::put_AMPLOutputBufferMaxSize(std::int32_t value) {
-    return guarded(classid::TARQModel, [&]() -> Outcome {
-        if (value < minAmplOutputBufferSize) {
+    return guarded([&]() -> Outcome {
+        if (value < leastAmplOutputBufferSize) {
             return {status::invalidArgument, "AMPLOutputBuffer must be at least 1024 Bytes long"};
         }
         amplOutputBufferMaxSize_ = value;

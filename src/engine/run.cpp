@@ -12,8 +12,8 @@
 #include "engine/modeltransfer.h"
 #include "engine/runstatus.h"
 #include "parameters/parameterrows.h"
-#include "platform/exceptionbarrier.h"
 #include "platform/thread.h"
+#include "tarq/frame/contained.h"
 #include "tarq/interfaces/failuretexts.h"
 
 namespace tarq {
@@ -92,9 +92,7 @@ Status Run::execute() {
         return runSteps();
     };
     // Whatever comes, the engine has to be released and the run has to end in order.
-    return close(withoutException(steps, [](const Thrown& thrown) {
-        return end(thrown.outOfMemory ? status::outOfMemory : status::generalFailure);
-    }));
+    return close(contained(steps, end));
 }
 
 Ending Run::runSteps() {

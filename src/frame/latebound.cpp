@@ -21,33 +21,32 @@ Outcome LateBound::invokeMember(std::int32_t member, std::uint16_t kinds, Argume
     return error != nullptr && error->status == status ? Outcome(status, error->description) : failure(status);
 }
 
-Outcome LateBound::convert(Variant answer, Variant& value) {
-    value = std::move(answer);
-    return {};
+template <>
+Result<Variant> LateBound::convert(Variant answer) {
+    return answer;
 }
 
-Outcome LateBound::convert(const Variant& answer, LateBound& value) {
+template <>
+Result<LateBound> LateBound::convert(Variant answer) {
     const Variant plain = answer.copyDereferenced();
-    if (plain.isObject()) value = LateBound(Ref<IUnknown>(plain.object()).query<IDispatch>());
-    return plain.isObject() && value ? Outcome() : failure(status::wrongClass);
+    if (!plain.isObject()) return failure(status::wrongClass);
+    const LateBound object(Ref<IUnknown>(plain.object()).query<IDispatch>());
+    return object ? Result<LateBound>(object) : failure(status::wrongClass);
 }
 
-Outcome LateBound::convert(Variant answer, std::int32_t& value) {
-    if (!answer.toInteger()) return failure(status::argumentType);
-    value = answer.integer();
-    return {};
+template <>
+Result<std::int32_t> LateBound::convert(Variant answer) {
+    return answer.toInteger() ? Result<std::int32_t>(answer.integer()) : failure(status::argumentType);
 }
 
-Outcome LateBound::convert(Variant answer, double& value) {
-    if (!answer.toReal()) return failure(status::argumentType);
-    value = answer.real();
-    return {};
+template <>
+Result<double> LateBound::convert(Variant answer) {
+    return answer.toReal() ? Result<double>(answer.real()) : failure(status::argumentType);
 }
 
-Outcome LateBound::convert(Variant answer, std::string& value) {
-    if (!answer.toText()) return failure(status::argumentType);
-    value = answer.takeText();
-    return {};
+template <>
+Result<std::string> LateBound::convert(Variant answer) {
+    return answer.toText() ? Result<std::string>(answer.takeText()) : failure(status::argumentType);
 }
 
 }  // namespace tarq

@@ -27,32 +27,31 @@ public:
     explicit LateBound(Ref<IDispatch> object) : object_(std::move(object)) {}
     [[nodiscard]] explicit operator bool() const { return static_cast<bool>(object_); }
 
-    /// Reads a property into a Variant, LateBound, std::int32_t, double or std::string. argumentType for an answer that
-    /// is none of the type, wrongClass for one that is no object to be called in turn.
+    /// A property as a Variant, LateBound, std::int32_t, double or std::string. argumentType for an answer that is none
+    /// of the type, wrongClass for one that is no object to be called in turn.
     template <class Value>
-    [[nodiscard]] Outcome get(std::int32_t member, Value& value, Arguments arguments = {}) const {
-        return ask(member, invoke::get, arguments, value);
+    [[nodiscard]] Result<Value> get(std::int32_t member, Arguments arguments = {}) const {
+        return ask<Value>(member, invoke::get, arguments);
     }
-    /// Calls a method with the same results.
+    /// What a method answers, likewise.
     template <class Value>
-    [[nodiscard]] Outcome call(std::int32_t member, Value& value, Arguments arguments) const {
-        return ask(member, invoke::method, arguments, value);
+    [[nodiscard]] Result<Value> call(std::int32_t member, Arguments arguments) const {
+        return ask<Value>(member, invoke::method, arguments);
     }
+    /// Sets a property.
     [[nodiscard]] Outcome put(std::int32_t member, const Variant& value) const;
 
 private:
     template <class Value>
-    Outcome ask(std::int32_t member, std::uint16_t kinds, Arguments arguments, Value& value) const {
+    Result<Value> ask(std::int32_t member, std::uint16_t kinds, Arguments arguments) const {
         Variant answer;
         TARQ_TRY(invokeMember(member, kinds, arguments, &answer));
-        return convert(std::move(answer), value);
+        return convert<Value>(std::move(answer));
     }
     Outcome invokeMember(std::int32_t member, std::uint16_t kinds, Arguments arguments, Variant* answer) const;
-    static Outcome convert(Variant answer, Variant& value);
-    static Outcome convert(const Variant& answer, LateBound& value);
-    static Outcome convert(Variant answer, std::int32_t& value);
-    static Outcome convert(Variant answer, double& value);
-    static Outcome convert(Variant answer, std::string& value);
+    /// An answer as the type asked for; there is one for each type that `get` tells of.
+    template <class Value>
+    static Result<Value> convert(Variant answer);
 
     Ref<IDispatch> object_;
 };

@@ -36,20 +36,26 @@ Outcome SpreadsheetRange::requireSingleArea() const {
 
 Outcome SpreadsheetRange::rowCount(std::int32_t& count) const { return countOf(rangemember::rows, count); }
 Outcome SpreadsheetRange::columnCount(std::int32_t& count) const { return countOf(rangemember::columns, count); }
-Outcome SpreadsheetRange::firstRow(std::int32_t& number) const { return range_.get(rangemember::row, number); }
-Outcome SpreadsheetRange::firstColumn(std::int32_t& number) const { return range_.get(rangemember::column, number); }
+Outcome SpreadsheetRange::firstRow(std::int32_t& number) const {
+    TARQ_ASSIGN(number, range_.get<std::int32_t>(rangemember::row));
+    return {};
+}
+Outcome SpreadsheetRange::firstColumn(std::int32_t& number) const {
+    TARQ_ASSIGN(number, range_.get<std::int32_t>(rangemember::column));
+    return {};
+}
 
 Outcome SpreadsheetRange::cell(std::int32_t row, std::int32_t column, Variant& value) const {
     const std::array arguments{Variant(row), Variant(column)};
-    LateBound cell;
-    TARQ_TRY(range_.get(rangemember::item, cell, arguments));
-    return cell.get(rangemember::value, value);
+    TARQ_ASSIGN(const LateBound cell, range_.get<LateBound>(rangemember::item, arguments));
+    TARQ_ASSIGN(value, cell.get<Variant>(rangemember::value));
+    return {};
 }
 
 Outcome SpreadsheetRange::countOf(std::int32_t member, std::int32_t& count) const {
-    LateBound part;
-    TARQ_TRY(range_.get(member, part));
-    return part.get(rangemember::count, count);
+    TARQ_ASSIGN(const LateBound part, range_.get<LateBound>(member));
+    TARQ_ASSIGN(count, part.get<std::int32_t>(rangemember::count));
+    return {};
 }
 
 }  // namespace tarq

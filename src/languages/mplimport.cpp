@@ -70,17 +70,19 @@ void require(Outcome outcome) {
 }
 
 template <class Value>
+Value required(Result<Value> result) {
+    if (!result.isOk()) throw Refusal{std::move(result).outcome()};
+    return *std::move(result);
+}
+
+template <class Value>
 Value get(const LateBound& object, std::int32_t member, LateBound::Arguments arguments = {}) {
-    Value value{};
-    require(object.get(member, value, arguments));
-    return value;
+    return required(object.get<Value>(member, arguments));
 }
 
 template <class Value>
 Value call(const LateBound& object, std::int32_t member, const Variant& argument) {
-    Value value{};
-    require(object.call(member, value, {&argument, 1}));
-    return value;
+    return required(object.call<Value>(member, {&argument, 1}));
 }
 
 /// Whether a record could be added.

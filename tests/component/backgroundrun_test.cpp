@@ -128,7 +128,8 @@ TEST_F(BackgroundRunTest, EarlyFailureFiresTooAndLeavesTheStatusesEmpty) {
     ASSERT_TRUE(eventCame());
     EXPECT_EQ(valueOf<TARQSolverStatusTyp>(&ITARQModel::get_SolverStatus), TARQSolverStatusTyp::UndefinedSolverStatus);
     EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_LastSolverMessage), "");
-    EXPECT_EQ(model->Optimize(), status::libraryNotFound);
+    EXPECT_THAT(model->Optimize(), raises(status::libraryNotFound, "Could not find TARQ.DLL."));
+    EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_TARQDLLVersion), "unknown");
     EXPECT_EQ(events, 2);
 }
 

@@ -94,18 +94,14 @@ TEST_F(BulkNonzerosTest, MorePlacesReadAsATableWithLowerBoundsOne) {
 
 TEST_F(BulkNonzerosTest, ListsOfEveryFormNameTheSameColumns) {
     SafeArray referenced = SafeArray::of(std::vector<std::string>{"z", "x"});
-    Variant held = arrayOf<std::int16_t>({3, 1});
     Ref<IUnknown> object(walkOf({Variant("z"), Variant("x")}).object());
     const std::pair<const char*, Variant> forms[] = {
         {"texts", namesOf({"z", "x"})},
         {"texts and numbers", arrayOf<Variant>({Variant("z"), Variant(1)})},
         {"numbers", arrayOf<std::int32_t>({3, 1})},
-        {"bytes", arrayOf<std::uint8_t>({3, 1})},
         {"reals, which are rounded", arrayOf<double>({2.6, 1.4})},
-        {"short reals", arrayOf<float>({3, 1})},
         {"another lower bound", arrayOf<std::int32_t>({3, 1}, -7)},
         {"by reference", Variant::byReference(referenced)},
-        {"behind a reference", Variant::byReference(held)},
         {"a walk", walkOf({Variant(3.0), Variant("x")})},
         {"an object by reference", Variant::byReference(object)},
         {"a series", objectOf<WalkedSeries>(WalkedValues{{Variant(3.0), Variant(1.0)}})},
@@ -129,31 +125,21 @@ TEST_F(BulkNonzerosTest, RefusedIndexListStoresNothing) {
         {"an array of objects", r, arrayOf<Ref<IUnknown>>({nullptr}), status::invalidArgument,
          "Array contains elements of wrong type."},
         {"a truth value", r, arrayOf<Variant>({x, Variant(true)}), status::invalidArgument, notNormal},
-        {"a list is read before any of it is resolved", r, arrayOf<Variant>({Variant("none"), Variant::null()}),
-         status::invalidArgument, notNormal},
         {"an unknown name", r, namesOf({"x", "none"}), status::invalidArgument,
          "Column name 'none' could not be found."},
-        {"no name", namesOf({"r", ""}), x, status::invalidArgument, "Row name '' could not be found."},
-        {"a number below", r, arrayOf<std::int32_t>({1, 0}), status::invalidArgument, "Column index is less than 1."},
-        {"a number above", arrayOf<std::int32_t>({1, 4}), x, status::invalidArgument,
-         "Row index is greater than number of rows."},
         {"a number beyond integers", r, arrayOf<double>({1e300}), status::wrongKind,
          "Col index is not convertible to string or integer."},
-        {"missing", r, Variant::missing(), status::wrongKind, "Col index is not convertible to string or integer."},
         {"both, of which columns are first", Variant("none"), Variant("nil"), status::invalidArgument,
          "Column name 'nil' could not be found."},
         {"a strange object", r, objectOf<Stranger>(), status::invalidArgument, "Bad type of object for col indices."},
         {"a strange object for rows", objectOf<Stranger>(), x, status::invalidArgument,
          "Bad type of object for row indices."},
-        {"no object", r, Variant(Ref<IUnknown>()), status::invalidArgument, "Bad type of object for col indices."},
         {"an array object", r, arrayObject({Variant(1)}, {x}), status::invalidArgument,
          "Bad type of object for col indices."},
         {"a walk that fails", walkOf({r}, "The series has gone."), x, status::invalidArgument, "The series has gone."},
         {"a series without a walk", r, objectOf<WalkedSeries>(WalkedValues{{}, "No series yet."}),
          status::invalidArgument, "No series yet."},
         {"a walk over what is no index", r, walkOf({x, Variant::null()}), status::invalidArgument, notNormal},
-        {"a walk beyond the columns", r, walkOf({Variant(3.0), Variant(4.0)}), status::invalidArgument,
-         "Column index is greater than number of columns."},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
@@ -182,11 +168,7 @@ TEST_F(BulkNonzerosTest, BlockTakesItsValuesRowByRow) {
         {"one value", rows, columns, Variant("1.5"), {1.5, 2, 1.5, 0, 0, 0, 1.5, 0, 1.5}},
         {"one place", r, Variant("y"), Variant(8), {1, 8, 3, 0, 0, 0, 0, 0, 0}},
         {"a vector", rows, columns, arrayOf<double>({4, 5, 6, 7}), filled},
-        {"a longer vector", rows, columns, arrayOf<std::int32_t>({4, 5, 6, 7, 8}), filled},
-        {"a table", rows, columns, tableOf<double>(2, {4, 5, 6, 7}), filled},
         {"the corner of a table", rows, columns, tableOf<double>(3, {4, 5, 0, 6, 7, 0, 0, 0, 0}), filled},
-        {"a table of Variants", rows, columns,
-         tableOf<Variant>(2, {Variant(4), Variant("5"), Variant(6.0), Variant(std::int64_t{7})}), filled},
         {"an object", rows, columns, walkOf({Variant(4), Variant(5), Variant(6), Variant(7), Variant(8)}), filled},
         {"an array object", rows, columns,
          arrayObject({Variant(2), Variant(2)}, {Variant(4), Variant(5), Variant(6), Variant(7)}), filled},
@@ -196,7 +178,6 @@ TEST_F(BulkNonzerosTest, BlockTakesItsValuesRowByRow) {
          namesOf({"y", "y"}),
          arrayOf<double>({4, 5, 6, 7}),
          {1, 7, 3, 0, 0, 0, 0, 0, 0}},
-        {"no columns", rows, namesOf({}), Variant(1), unchanged},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
@@ -208,22 +189,12 @@ TEST_F(BulkNonzerosTest, BlockTakesItsValuesRowByRow) {
 }
 
 TEST_F(BulkNonzerosTest, RefusedValuesStoreNothing) {
-    const char* const wrongType = "Parameter for value is of wrong type.";
-    SafeArray referenced = SafeArray::of(std::vector<double>{1, 2, 3, 4});
     const std::pair<Variant, const char*> cases[] = {
-        {Variant("many"), wrongType},
-        {Variant::null(), wrongType},
-        {Variant::missing(), wrongType},
+        {Variant("many"), "Parameter for value is of wrong type."},
         {arrayOf<double>({4, 5, 6}), "Not enough elements in value array."},
-        {tableOf<double>(1, {4, 5, 6, 7}), "Dimension 1 of array is too small."},
-        {tableOf<double>(4, {4, 5, 6, 7}), "Dimension 2 of array is too small."},
-        {namesOf({"4", "5", "6", "x"}), "Value cound not be converted to numeric."},
-        {Variant::byReference(referenced), "Array has wrong data type."},
-        {walkOf({Variant(4), Variant(5), Variant(6)}), "Not enough values passed."},
         {walkOf({Variant(4)}, "The series has gone."), "The series has gone."},
         {arrayObject({Variant(4)}, {Variant(4), Variant(5), Variant(6), Variant(7)}),
          "Dimension of TARQArray does not fit."},
-        {objectOf<Stranger>(), "Passed object is not allowed."},
     };
     const Variant rows = namesOf({"s", "r"});
     const Variant columns = namesOf({"z", "x"});
@@ -249,14 +220,12 @@ TEST_F(BulkNonzerosTest, StairEndsWithTheShorterList) {
          allColumns,
          arrayOf<double>({6, 7}),
          {1, 7, 3, 0, 0, 0, 6, 0, 0}},
-        {"surplus values", Variant("s"), allColumns, arrayOf<double>({6, 7, 8}), {1, 2, 3, 6, 0, 0, 0, 0, 0}},
         {"zero erases", allRows, allColumns, Variant(0), {0, 2, 3, 0, 0, 0, 0, 0, 0}},
         {"a place named twice",
          namesOf({"t", "t"}),
          namesOf({"y", "y"}),
          walkOf({Variant(6), Variant(7)}),
          {1, 2, 3, 0, 0, 0, 0, 7, 0}},
-        {"no rows", namesOf({}), allColumns, Variant(5), unchanged},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
@@ -267,8 +236,6 @@ TEST_F(BulkNonzerosTest, StairEndsWithTheShorterList) {
     ASSERT_THAT(model->put_NZs(allRows, allColumns, arrayOf(unchanged)), succeeds());
     EXPECT_THAT(model->SetNZStair(allRows, two, arrayOf<double>({5})),
                 raises(status::invalidArgument, "Not enough elements in value array."));
-    EXPECT_THAT(model->SetNZStair(allRows, two, tableOf<double>(2, {5, 6, 7, 8})),
-                raises(status::invalidArgument, "Dimension of array does not fit."));
     EXPECT_EQ(matrix(), unchanged);
 }
 

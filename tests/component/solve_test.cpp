@@ -65,12 +65,5 @@ TEST_F(SolveTest, EditAfterARunKeepsTheSolutionUntilTheNextOne) {
     EXPECT_EQ(model->get_ColLPSol(Variant(std::int32_t{1}), &value), status::noLpSolution);
 }
 
-TEST_F(SolveTest, MissingEngineFailsTheRunAndNotTheVersion) {
-    EXPECT_NE(valueOf<std::string>(&ITARQModel::get_TARQDLLVersion), "unknown");
-    ASSERT_THAT(model->put_LocationOfTARQDLL("/no/such/engine.dll"), succeeds());
-    EXPECT_EQ(valueOf<std::string>(&ITARQModel::get_TARQDLLVersion), "unknown");
-    EXPECT_THAT(model->Optimize(), raises(status::libraryNotFound, "Could not find TARQ.DLL."));
-}
-
 }  // namespace
 }  // namespace tarq

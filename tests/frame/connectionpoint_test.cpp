@@ -3,10 +3,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 #include "tarq/frame/countedobject.h"
@@ -110,6 +112,12 @@ TEST_F(ConnectionPointTest, ExceptionOfASinkKeepsTheOthersFromNothing) {
     (void)subscribe(2);
     EXPECT_EQ(point.fire(1), Status{2});
     EXPECT_THAT(calls, ElementsAre(12));
+}
+
+TEST_F(ConnectionPointTest, SinkMayEndTheThreadThatCallsIt) {
+    (void)subscribe([](std::int32_t /*event*/) -> Status { pthread_exit(nullptr); });
+    std::thread([this] { (void)point.fire(1); }).join();
+    EXPECT_EQ(subscribe(2), 2U) << "nothing stays locked";
 }
 
 TEST_F(ConnectionPointTest, SharesTheLifeOfItsOwner) {

@@ -86,14 +86,6 @@ TEST(CountedObjectTest, LastReleaseEndsTheObjectAndFreesTheModule) {
     EXPECT_EQ(module::liveObjects(), before);
 }
 
-TEST(CountedObjectTest, LocksHoldTheModuleToo) {
-    ASSERT_TRUE(module::canUnload());
-    module::lock();
-    EXPECT_FALSE(module::canUnload());
-    module::unlock();
-    EXPECT_TRUE(module::canUnload());
-}
-
 TEST(CreateInstanceTest, FailureLeavesNoObject) {
     EXPECT_EQ(createInstance<Panel>(nullptr, IPanel::id, nullptr), status::nullPointer);
     Ref<IUnknown> object;

@@ -55,19 +55,6 @@ TEST_F(DispatchTest, NamesOfParametersAreNumberedFromZero) {
     EXPECT_EQ(ids[0], -1);
 }
 
-TEST_F(DispatchTest, EveryNameOfATableIsFoundAndNothingElse) {
-    const InterfaceTable& table = IPanel::memberTable();
-    for (const MemberInfo& member : table.members()) {
-        const MemberInfo* found = table.find(member.name);
-        ASSERT_NE(found, nullptr) << member.name;
-        EXPECT_EQ(found->name, member.name);
-        for (const std::string& wrong : {std::string(member.name) + "s", std::string(member.name.substr(1))}) {
-            EXPECT_EQ(table.find(wrong), nullptr) << wrong;
-        }
-    }
-    EXPECT_EQ(table.find(""), nullptr);
-}
-
 TEST_F(DispatchTest, ArgumentsLeftOutAreMissing) {
     struct Case {
         std::vector<Variant> values;
@@ -168,11 +155,7 @@ TEST_F(DispatchTest, WrongCallsFailBeforeTheMember) {
         {"Join", invoke::get, {one}, {}, status::unknownMember, none},
         {"Kept", invoke::put, {one}, {}, status::unknownMember, none},
         {"Join", invoke::method, {}, {}, status::argumentCount, none},
-        {"Split", invoke::method, {one}, {}, status::argumentCount, none},
-        {"Split", invoke::method, {one, one, one, one}, {}, status::argumentCount, none},
         {"Shade", invoke::put, {}, {}, status::argumentCount, none},
-        {"Shade", invoke::put, {one, one}, {}, status::argumentCount, none},
-        {"Shade", invoke::get, {one}, {}, status::argumentCount, none},
         {"Split", invoke::method, {one, one}, {1}, status::argumentCount, none},
         {"Item", invoke::get, {one}, {0, 1}, status::argumentCount, none},
         {"Item", invoke::get, {one, one}, {0}, status::unknownParameterName, 1},
@@ -208,22 +191,6 @@ TEST_F(DispatchTest, MembersOwnStatusComesBackAndLeavesTheResult) {
     EXPECT_EQ(dispatch->Invoke(idOf("Fail"), invoke::method, {values, {}}, &result, nullptr), status::noLpSolution);
     EXPECT_EQ(result.text(), "before");
     EXPECT_EQ(call("Exhaust", invoke::method, {}), status::outOfMemory);
-}
-
-TEST(MemberTableTest, ParametersTellTypeDirectionAndEnumeration) {
-    const InterfaceTable& table = IPanel::memberTable();
-    const MemberInfo& split = *table.find("Split");
-    EXPECT_FALSE(split.parameters[0].out);
-    EXPECT_TRUE(split.parameters[1].out);
-    EXPECT_EQ(split.result, ValueType::None);
-    const MemberInfo& join = *table.find("Join");
-    EXPECT_EQ(join.result, ValueType::Text);
-    ASSERT_EQ(join.parameters.size(), 2U);
-    EXPECT_TRUE(join.parameters[1].variadic);
-    EXPECT_EQ(table.find("Shade")->resultEnumeration, &shadeEnumeration);
-    EXPECT_EQ(table.find(1, invoke::put)->parameters[0].enumeration, &shadeEnumeration);
-    EXPECT_TRUE(table.find("Measure")->parameters[0].optional);
-    EXPECT_TRUE(table.find("Item")->isDefault());
 }
 
 }  // namespace

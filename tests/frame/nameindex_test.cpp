@@ -83,17 +83,6 @@ TEST(NameIndex, FindsWhatAMapFindsAfterRandomChanges) {
     }
 }
 
-TEST(NameIndex, RoomMadeBeforehandChangesNothingThatIsFound) {
-    IndexedNames names;
-    names.insert("7");
-    for (const std::size_t room : {0U, 1U, 12U, 13U, 1000U, 5U}) {
-        names.index().reserve(room);
-        names.expectAllFound(10);
-    }
-    for (int number = 0; number < 2000; ++number) names.insert(std::to_string(number));
-    names.expectAllFound(2100);
-}
-
 TEST(NameIndex, NamesOfAllLengthsAndBytesAreTold) {
     IndexedNames names;
     std::vector<std::string> given{"", std::string(1, '\0'), std::string(2, '\0')};

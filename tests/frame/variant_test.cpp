@@ -84,15 +84,6 @@ TEST(VariantTest, KindLiesInTheFirstTwoBytesAndThePayloadInTheLastEight) {
     EXPECT_EQ(payload, 2.5);
 }
 
-TEST(VariantTest, MissingIsTheOneErrorCode) {
-    Variant value(3);
-    value.makeMissing();
-    EXPECT_TRUE(value.isMissing());
-    EXPECT_EQ(value.errorCode(), 0x80020004U);
-    EXPECT_FALSE(Variant::error(0x80020005).isMissing());
-    EXPECT_FALSE(Variant(static_cast<std::int64_t>(0x80020004)).isMissing());
-}
-
 TEST(VariantTest, CopiesOwnTheirTextsAndArrays) {
     Variant array(SafeArray::of(std::vector<double>{1, 2}));
     Variant copy = array;

@@ -85,7 +85,8 @@ public:
     virtual Status GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
                                       std::string* bsOptionName) = 0;
 
-    /// Stops a background run by force. Dangerous.
+    /// Parks the thread of a background run for good, with its memory and all that it holds locked; the run never
+    /// reports, and the model is free. Takes up to three seconds. Does nothing without a run. Dangerous.
     virtual Status KillThread() = 0;
 
     /// Runs the engine on the calling thread. resourceLimit: a resource limit ended it, stoppedAtBreak: it stopped at a
