@@ -6,7 +6,7 @@
 #include "component/ctarqmodel.h"
 #include "frame/text.h"
 #include "interfaces/commonfailures.h"
-#include "interfaces/limits.h"
+#include "tarq/interfaces/limits.h"
 #include "parameters/parameteraccess.h"
 
 namespace tarq {

@@ -5,6 +5,7 @@
 #include "engine/enginelibrary.h"
 #include "engine/enginetext.h"
 #include "tarq/interfaces/failuretexts.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 
@@ -14,7 +15,7 @@ std::string EngineBinding::location() const {
 }
 
 Outcome EngineBinding::setLocation(std::string_view location) {
-    if (location.size() > maxLocationLength) return {status::textTooLong, "Passed string is to long."};
+    if (location.size() > longestPath) return {status::textTooLong, "Passed string is to long."};
     std::string text(location);
     std::shared_ptr<EngineInterface> dropped;  // ends behind the lock, and with it perhaps the library
     const std::lock_guard lock(mutex_);

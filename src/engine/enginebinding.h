@@ -19,8 +19,6 @@ namespace tarq {
 
 class EngineBinding {
 public:
-    static constexpr std::size_t maxLocationLength = 255;  ///< in bytes
-
     EngineBinding() = default;
     EngineBinding(const EngineBinding&) = delete;
     EngineBinding& operator=(const EngineBinding&) = delete;

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "interfaces/commonfailures.h"
-#include "interfaces/limits.h"
+#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
 
 namespace tarq {

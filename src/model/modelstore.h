@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "interfaces/limits.h"
+#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
 #include "model/familymark.h"
 #include "model/nonzerotable.h"

@@ -16,7 +16,7 @@
 
 #include "frame/nameindex.h"
 #include "interfaces/commonfailures.h"
-#include "interfaces/limits.h"
+#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
 #include "model/familystarts.h"
 #include "model/positionguess.h"

@@ -6,11 +6,12 @@
 #include "modelfiles/modelfilefailures.h"
 #include "modelfiles/mpswriter.h"
 #include "modelfiles/tripletwriter.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 
 Outcome checkWrittenName(const std::string& fileName) {
-    if (utf16Length(fileName) <= longestFileName) return {};
+    if (utf16Length(fileName) <= longestPath) return {};
     return {status::textTooLong, "Filename is too long."};
 }
 

@@ -6,6 +6,7 @@
 #include "frame/text.h"
 #include "tarq/frame/status.h"
 #include "tarq/interfaces/failuretexts.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 
@@ -19,7 +20,7 @@ namespace tarq {
 
 /// The first check of every reader: textTooLong for a name of more characters than the name of a file may have.
 [[nodiscard]] inline Outcome checkFileName(const std::string& fileName) {
-    return utf16Length(fileName) <= longestFileName ? Outcome() : textTooLong();
+    return utf16Length(fileName) <= longestPath ? Outcome() : textTooLong();
 }
 
 }  // namespace tarq

@@ -4,10 +4,11 @@
 
 #include "platform/filecheck.h"
 #include "tarq/interfaces/failuretexts.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 Outcome checkInputFile(const std::string& path, std::string_view label) {
-    if (path.size() > longestFileName) {
+    if (path.size() > longestPath) {
         return {status::fileNameRejected, fmt::format("Filename of {} is too long.", label)};
     }
     switch (checkReadable(path)) {

@@ -1,16 +1,12 @@
-// Words of the component that its own programs recognize or explain, and the limits behind them.
+// Words of the component that its own programs recognize or explain, word for word.
 //
 // A status tells what kind of failure it was; where a program has to tell two failures of one status apart, it compares
 // the description with these. The same constants make the descriptions, so that the two can't drift apart.
 #pragma once
 
-#include <cstddef>
 #include <string_view>
 
 namespace tarq {
-
-/// Characters that the name of a file may have wherever the component takes one; textTooLong beyond.
-inline constexpr std::size_t longestFileName = 255;
 
 /// What TARQDLLVersion tells where no engine does.
 inline constexpr std::string_view unknownEngineVersion = "unknown";

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <tarq/interfaces/limits.h>
 #include "printing/text.h"
 #include "tarq/interfaces/failuretexts.h"
 
@@ -37,7 +38,7 @@ std::string lastErrorText(Status status) {
 }
 
 std::string fileErrorText(Status status) {
-    return fmt::format("{} A file's name may have {} characters.", lastErrorText(status), longestFileName);
+    return fmt::format("{} A file's name may have {} characters.", lastErrorText(status), longestPath);
 }
 
 }  // namespace tarq::command
