@@ -8,8 +8,8 @@
 #include "component/ctarqmodel.h"
 #include "frame/memberguard.h"
 #include "frame/result.h"
-#include "indexed/ctarqres.h"
-#include "indexed/ctarqvar.h"
+#include "items/ctarqres.h"
+#include "items/ctarqvar.h"
 #include "model/addressing.h"
 #include "model/modeledit.h"
 
