@@ -95,7 +95,7 @@ void findEachOfBlock(benchmark::State& state) {
         for (std::int32_t row = 1; row <= side; ++row) {
             for (std::int32_t column = 1; column <= side; ++column) {
                 const std::int32_t cell = (row - 1) * side + column - 1;
-                static_cast<void>(store->findNonzero(column, row, values[static_cast<std::size_t>(cell)]));
+                values[static_cast<std::size_t>(cell)] = store->nonzeroAt(column, row);
             }
         }
         benchmark::DoNotOptimize(values);

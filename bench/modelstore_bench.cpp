@@ -68,11 +68,7 @@ public:
         for (std::int32_t i = 0; i < shape.rows; ++i) static_cast<void>(store_.addRowRecord({}));
     }
     void set(const Nonzero& nonzero) { store_.setNonzero(nonzero.column, nonzero.row, nonzero.value); }
-    [[nodiscard]] double find(std::int32_t column, std::int32_t row) const {
-        double value = 0.0;
-        static_cast<void>(store_.findNonzero(column, row, value));
-        return value;
-    }
+    [[nodiscard]] double find(std::int32_t column, std::int32_t row) const { return store_.nonzeroAt(column, row); }
     [[nodiscard]] double sum() const {
         double sum = 0.0;
         store_.nonzeros().forEach(
@@ -84,7 +80,7 @@ public:
         for (const Nonzero& nonzero : nonzeros) loader.append(nonzero.column, nonzero.row, nonzero.value);
         store_.loadNonzeros(loader);
     }
-    void removeColumns(std::int32_t first, std::int32_t last) { store_.removeColumns(first, last); }
+    void removeColumns(std::int32_t first, std::int32_t last) { store_.remove<ColumnRecord>(first, last); }
 
 private:
     ModelStore store_;

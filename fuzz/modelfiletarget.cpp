@@ -103,8 +103,7 @@ void checkNonzeros(const ModelStore& store) {
         check(row >= 1 && row <= store.rowCount(), "a nonzero has a row of the model");
         check(latest < std::pair{row, column}, "nonzeros stand row by row, columns ascending");
         check(value != 0.0, "no nonzero is zero");
-        double found = 0.0;
-        check(store.findNonzero(column, row, found) && areSame(found, value), "a nonzero is found at its place");
+        check(areSame(store.nonzeroAt(column, row), value), "a nonzero is found at its place");
         latest = {row, column};
         ++seen;
     });
@@ -130,8 +129,7 @@ void checkSame(const ModelStore& left, const ModelStore& right) {
     }
     check(left.nonzeros().size() == right.nonzeros().size(), "same number of nonzeros");
     left.nonzeros().forEach([&](std::int32_t column, std::int32_t row, double value) {
-        double found = 0.0;
-        check(right.findNonzero(column, row, found) && areSame(found, value), "same nonzeros");
+        check(areSame(right.nonzeroAt(column, row), value), "same nonzeros");
     });
 }
 

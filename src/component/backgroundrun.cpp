@@ -1,11 +1,11 @@
 #include "component/backgroundrun.h"
 
 #include <chrono>
-#include <new>
 #include <thread>
 #include <utility>
 
 #include "engine/enginecallback.h"
+#include "platform/exceptionbarrier.h"
 
 namespace tarq {
 namespace {
@@ -32,19 +32,23 @@ BackgroundRun::BackgroundRun(Ref<IUnknown> model, RunModel run) : model_(std::mo
 
 bool BackgroundRun::start(const std::shared_ptr<BackgroundRun>& run) noexcept {
     const std::lock_guard lock(run->threadMutex_);
-    try {
-        // The thread keeps the run alive, also when its model drops it or starts the next one.
-        run->thread_ = DetachedThread::start([run] { run->execute(); });
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
+    // The thread keeps the run alive, also when its model drops it or starts the next one.
+    run->thread_ = withoutException([&run] { return DetachedThread::start([run] { run->execute(); }); },
+                                    [] { return std::unique_ptr<DetachedThread>(); });
     return run->thread_ != nullptr;
 }
 
-void BackgroundRun::execute() noexcept {
+void BackgroundRun::execute() {
+    // Also where a sink ends the thread that calls it.
+    struct AtEnd {
+        BackgroundRun& run;
+        ~AtEnd() {
+            const Ref<IUnknown> dropped = std::move(run.model_);
+            run.phase_.store(Phase::Ended);
+        }
+    };
+    const AtEnd atEnd{*this};
     (void)runOptimization(run_);
-    const Ref<IUnknown> dropped = std::move(model_);
-    phase_.store(Phase::Ended);
 }
 
 void BackgroundRun::park() noexcept {
@@ -62,7 +66,7 @@ bool BackgroundRun::waitUntil(const std::function<bool()>& reached) const {
 }
 
 bool BackgroundRun::kill() noexcept {
-    try {
+    const auto killed = [this] {
         Phase running = Phase::Running;
         if (!phase_.compare_exchange_strong(running, Phase::Killed) && running != Phase::Killed) {
             return waitUntil([this] { return phase_.load() == Phase::Ended || !run_.busy.load(); });
@@ -81,9 +85,8 @@ bool BackgroundRun::kill() noexcept {
         if (engine) engine->abandonRun(readShared(run_.engineThread));
         const Ref<IUnknown> dropped = std::move(model_);
         return true;
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
+    };
+    return withoutException(killed, [] { return false; });
 }
 
 }  // namespace tarq

@@ -31,7 +31,7 @@ public:
 private:
     enum class Phase : std::uint8_t { Running, Killed, Ending, Ended };
 
-    void execute() noexcept;
+    void execute();
     [[noreturn]] void park() noexcept;
     [[nodiscard]] bool waitUntil(const std::function<bool()>& reached) const;
 

@@ -57,9 +57,7 @@ Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant&
     Places places;
     TARQ_TRY(resolvePlaces(store, rows, columns, places));
     if (places.rows.size() == 1 && places.columns.size() == 1) {
-        double value = 0.0;
-        static_cast<void>(store.findNonzero(places.columns.front() + 1, places.rows.front() + 1, value));
-        values = Variant(value);
+        values = Variant(store.nonzeroAt(places.columns.front() + 1, places.rows.front() + 1));
         return {};
     }
     const std::array dimensions{Dimension{1, static_cast<std::uint32_t>(places.rows.size())},
@@ -69,9 +67,7 @@ Outcome getNonzeros(const ModelStore& store, const Variant& rows, const Variant&
     std::size_t cell = 0;
     const std::span<double> cells = array.elements<double>();
     for (const std::int32_t row : places.rows) {
-        for (const std::int32_t column : places.columns) {
-            static_cast<void>(store.findNonzero(column + 1, row + 1, cells[cell++]));
-        }
+        for (const std::int32_t column : places.columns) cells[cell++] = store.nonzeroAt(column + 1, row + 1);
     }
     values = Variant(std::move(array));
     return {};

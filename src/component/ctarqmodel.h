@@ -10,10 +10,13 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "component/backgroundrun.h"
 #include "engine/enginebinding.h"
 #include "engine/run.h"
+#include "frame/memberguard.h"
 #include "languages/languagetarget.h"
 #include "languages/mplimport.h"
 #include "model/modelstore.h"
@@ -29,7 +32,7 @@
 
 namespace tarq {
 
-// Two members are published with a leading underscore and a capital, and the last reference alone may delete the
+/// Only the last reference deletes it.
 class CTARQModel final
     : public CountedObject<CTARQModel, ITARQModel, IConnectionPointContainer, ISupportErrorInfo, IReadingNotes>,
       private LanguageTarget {
@@ -183,6 +186,16 @@ private:
         return static_cast<std::size_t>(amplOutputBufferMaxSize_);
     }
     void setOutput(std::string bytes) override;
+
+    // A member's few lines, as in frame/memberguard.h, for an object of this class.
+    template <class Operation>
+    static Status guarded(Operation&& operation) {
+        return tarq::guarded(classid::TARQModel, std::forward<Operation>(operation));
+    }
+    template <class Value, class Operation>
+    static Status guardedResult(Value* output, Operation&& operation) {
+        return tarq::guardedResult(classid::TARQModel, output, std::forward<Operation>(operation));
+    }
 
     void resetSolution();
     RunModel runModel();

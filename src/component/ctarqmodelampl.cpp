@@ -1,6 +1,5 @@
 // CTARQModel: models in AMPL, runs in AMPL's hands, and AMPL's stub files.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "languages/amplexecution.h"
 #include "languages/amplimport.h"
 #include "languages/amplstub.h"
@@ -8,16 +7,15 @@
 namespace tarq {
 
 Status CTARQModel::ReadAMPLModel(const std::string& MODFileName, const ValueList& DATFileNames) {
-    return guarded(classid::TARQModel,
-                   [&] { return readAmplModel(MODFileName, DATFileNames, locationOfAmplExe_, *this); });
+    return guarded([&] { return readAmplModel(MODFileName, DATFileNames, locationOfAmplExe_, *this); });
 }
 
 Status CTARQModel::ReadAMPLStub(const std::string& StubFileName) {
-    return guarded(classid::TARQModel, [&] { return readAmplStub(StubFileName, *this); });
+    return guarded([&] { return readAmplStub(StubFileName, *this); });
 }
 
 Status CTARQModel::ExecuteAMPLModel(const std::string& MODFileName) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         return executeAmplModel(MODFileName, {locationOfAmplExe_, locationOfTarqAmplExe_, binding_.location()},
                                 parameters_, *this);
     });
@@ -25,7 +23,7 @@ Status CTARQModel::ExecuteAMPLModel(const std::string& MODFileName) {
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 Status CTARQModel::_WriteAMPLSolStub(const std::string& StubFileName) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         return writeAmplActivities(StubFileName, store_, readShared(summary_.solverStatus),
                                    readShared(summary_.solutionStatus));
     });

@@ -2,25 +2,24 @@
 #include "component/bulknonzeros.h"
 #include "component/ctarqmodel.h"
 #include "component/objectivesum.h"
-#include "frame/memberguard.h"
 
 namespace tarq {
 
 Status CTARQModel::AddObjSum(const ValueList& CoeffsAndCols) {
-    return guarded(classid::TARQModel, [&] { return assignCosts(store_, CoeffsAndCols); });
+    return guarded([&] { return assignCosts(store_, CoeffsAndCols); });
 }
 
 Status CTARQModel::get_NZs(const Variant& RowIndices, const Variant& ColIndices, Variant* value) {
     if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return getNonzeros(store_, RowIndices, ColIndices, *value); });
+    return guarded([&] { return getNonzeros(store_, RowIndices, ColIndices, *value); });
 }
 
 Status CTARQModel::put_NZs(const Variant& RowIndices, const Variant& ColIndices, const Variant& value) {
-    return guarded(classid::TARQModel, [&] { return putNonzeros(store_, RowIndices, ColIndices, value); });
+    return guarded([&] { return putNonzeros(store_, RowIndices, ColIndices, value); });
 }
 
 Status CTARQModel::SetNZStair(const Variant& RowIndices, const Variant& ColIndices, const Variant& Nonzeros) {
-    return guarded(classid::TARQModel, [&] { return setNonzeroStair(store_, RowIndices, ColIndices, Nonzeros); });
+    return guarded([&] { return setNonzeroStair(store_, RowIndices, ColIndices, Nonzeros); });
 }
 
 }  // namespace tarq

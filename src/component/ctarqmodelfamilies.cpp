@@ -1,6 +1,5 @@
 // CTARQModel: the hidden members by which families keep their columns and rows.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "model/modeledit.h"
 
 namespace tarq {
@@ -13,33 +12,31 @@ std::string nameOrNone(const std::string* name) { return name != nullptr ? *name
 
 // NOLINTBEGIN(bugprone-reserved-identifier)
 Status CTARQModel::_AddVarSetElement(const std::string* bsName, IUnknown* family) {
-    return guarded(classid::TARQModel, [&] { return addFamilyColumn(store_, nameOrNone(bsName), family); });
+    return guarded([&] { return addFamilyMember<ColumnRecord>(store_, nameOrNone(bsName), family); });
 }
 
 Status CTARQModel::_AddResSetElement(const std::string* bsName, IUnknown* family) {
-    return guarded(classid::TARQModel, [&] { return addFamilyRow(store_, nameOrNone(bsName), family); });
+    return guarded([&] { return addFamilyMember<RowRecord>(store_, nameOrNone(bsName), family); });
 }
 
 Status CTARQModel::get_VarSetStartIndex(IUnknown* family, std::int32_t* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return getFamilyColumnStart(store_, family, *value); });
+    return guardedResult(value, [&] { return getFamilyStart<ColumnRecord>(store_, family); });
 }
 
 Status CTARQModel::get_ResSetStartIndex(IUnknown* family, std::int32_t* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return getFamilyRowStart(store_, family, *value); });
+    return guardedResult(value, [&] { return getFamilyStart<RowRecord>(store_, family); });
 }
 
 Status CTARQModel::_ClearTARQVarSet(IUnknown* family) {
-    return guarded(classid::TARQModel, [&] {
-        clearFamilyColumns(store_, family);
+    return guarded([&] {
+        clearFamily<ColumnRecord>(store_, family);
         return Outcome();
     });
 }
 
 Status CTARQModel::_ClearTARQResSet(IUnknown* family) {
-    return guarded(classid::TARQModel, [&] {
-        clearFamilyRows(store_, family);
+    return guarded([&] {
+        clearFamily<RowRecord>(store_, family);
         return Outcome();
     });
 }

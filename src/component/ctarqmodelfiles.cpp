@@ -1,6 +1,5 @@
 // CTARQModel: reading and writing model files.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "frame/result.h"
 #include "modelfiles/modelcutout.h"
 #include "modelfiles/modelfile.h"
@@ -9,18 +8,16 @@
 namespace tarq {
 
 Status CTARQModel::ReadModel(const std::string& FileName, TARQFileFormatType eFileFormat) {
-    return guarded(classid::TARQModel, [&] { return readModelFile(FileName, eFileFormat, *this); });
+    return guarded([&] { return readModelFile(FileName, eFileFormat, *this); });
 }
 
 Status CTARQModel::WriteModel(const std::string& FileName, TARQFileFormatType eFileFormat) {
-    return guarded(classid::TARQModel, [&] {
-        return writeModelFile(FileName, eFileFormat, {store_, parameters_, modelName_});
-    });
+    return guarded([&] { return writeModelFile(FileName, eFileFormat, {store_, parameters_, modelName_}); });
 }
 
 Status CTARQModel::WriteDebugModel(const std::string& FileName, const Variant& StartRow, const Variant& EndRow,
                                    const Variant& StartCol, const Variant& EndCol) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         TARQ_TRY(checkWrittenName(FileName));
         ModelCutout cutout{};
         Outcome resolved = resolveCutout(store_, {StartRow, EndRow, StartCol, EndCol}, cutout);

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "frame/result.h"
+#include "interfaces/sides.h"
 #include "items/ctarqres.h"
 #include "items/ctarqvar.h"
 #include "model/addressing.h"
@@ -16,74 +16,49 @@
 namespace tarq {
 namespace {
 
-/// The one or the other side of the model, and the words of its failures.
-struct Columns {
-    using Object = ITARQVar;
+template <class Record>
+struct ItemObject;
+template <>
+struct ItemObject<ColumnRecord> {
+    using Interface = ITARQVar;
     using Class = CTARQVar;
-    using Record = ColumnRecord;
-    static constexpr const char* notToAdd = "Passed object is no TARQVar.";
-    static constexpr const char* notToAttach = "Passed object is no TARQVar.";
-    static constexpr const char* notToCopy = "Only TARQVar objects allowed as argument.";
-
-    static Outcome resolve(const ModelStore& store, const Variant& address, std::int32_t& position) {
-        return resolveColumn(store, address, position);
-    }
-    static std::int32_t count(const ModelStore& store) { return store.columnCount(); }
-    static bool isOfFamily(const ModelStore& store, std::int32_t position) {
-        return store.column(position).family != nullptr;
-    }
-    static Outcome add(ModelStore& store, Record record) { return store.addColumnRecord(std::move(record)); }
-    static Outcome rename(ModelStore& store, std::int32_t position, const std::string& name) {
-        return store.renameColumn(position, name);
-    }
-    static Status read(ITARQVar& object, ColumnRecord& record) {
-        TARQ_TRY(object.get_LB(&record.lowerBound));
-        TARQ_TRY(object.get_UB(&record.upperBound));
-        TARQ_TRY(object.get_Cost(&record.cost));
-        return object.get_Type(&record.type);
-    }
-    static Outcome change(ModelStore& store, std::int32_t position, const ColumnRecord& record) {
-        return changeColumn(store, position,
-                            {.lowerBound = &record.lowerBound,
-                             .upperBound = &record.upperBound,
-                             .type = &record.type,
-                             .cost = &record.cost,
-                             .name = nullptr});
-    }
 };
-
-struct Rows {
-    using Object = ITARQRes;
+template <>
+struct ItemObject<RowRecord> {
+    using Interface = ITARQRes;
     using Class = CTARQRes;
-    using Record = RowRecord;
-    static constexpr const char* notToAdd = "Passed object is no TARQRes.";
-    static constexpr const char* notToAttach = "Passed object is no TARQRes";
-    static constexpr const char* notToCopy = "Only TARQRes objects allowed as argument.";
-
-    static Outcome resolve(const ModelStore& store, const Variant& address, std::int32_t& position) {
-        return resolveRow(store, address, position);
-    }
-    static std::int32_t count(const ModelStore& store) { return store.rowCount(); }
-    static bool isOfFamily(const ModelStore& store, std::int32_t position) {
-        return store.row(position).family != nullptr;
-    }
-    static Outcome add(ModelStore& store, Record record) { return store.addRowRecord(std::move(record)); }
-    static Outcome rename(ModelStore& store, std::int32_t position, const std::string& name) {
-        return store.renameRow(position, name);
-    }
-    static Status read(ITARQRes& object, RowRecord& record) {
-        TARQ_TRY(object.get_LB(&record.lowerBound));
-        return object.get_UB(&record.upperBound);
-    }
-    static Outcome change(ModelStore& store, std::int32_t position, const RowRecord& record) {
-        return changeRow(store, position,
-                         {.lowerBound = &record.lowerBound, .upperBound = &record.upperBound, .name = nullptr});
-    }
 };
 
-template <class Side>
-Ref<typename Side::Object> asked(IUnknown* object) {
-    return Ref<IUnknown>(object).query<typename Side::Object>();
+template <class Record>
+using InterfaceOf = typename ItemObject<Record>::Interface;
+
+template <class Record>
+constexpr const SideWords& words = wordsOf(Record::side);
+
+Status read(ITARQVar& object, ColumnRecord& record) {
+    TARQ_TRY(object.get_LB(&record.lowerBound));
+    TARQ_TRY(object.get_UB(&record.upperBound));
+    TARQ_TRY(object.get_Cost(&record.cost));
+    return object.get_Type(&record.type);
+}
+
+Status read(ITARQRes& object, RowRecord& record) {
+    TARQ_TRY(object.get_LB(&record.lowerBound));
+    return object.get_UB(&record.upperBound);
+}
+
+ItemChange changeTo(const ColumnRecord& record) {
+    return {
+        .lowerBound = &record.lowerBound, .upperBound = &record.upperBound, .type = &record.type, .cost = &record.cost};
+}
+
+ItemChange changeTo(const RowRecord& record) {
+    return {.lowerBound = &record.lowerBound, .upperBound = &record.upperBound};
+}
+
+template <class Record>
+Ref<InterfaceOf<Record>> asked(IUnknown* object) {
+    return Ref<IUnknown>(object).query<InterfaceOf<Record>>();
 }
 
 /// Makes an object stand for a column or row; where it stood before, it takes a copy of that first.
@@ -95,90 +70,91 @@ Status pointAt(Object& object, ITARQModel& model, std::int32_t number) {
     return object.SetITARQModel(&model, number);
 }
 
-template <class Side>
+template <class Record>
 Outcome addItem(ITARQModel& model, ModelStore& store, IUnknown* given) {
-    const auto object = asked<Side>(given);
-    if (!object) return {status::wrongClass, Side::notToAdd};
-    typename Side::Record record;
-    TARQ_TRY(Side::read(*object, record));
+    const auto object = asked<Record>(given);
+    if (!object) {
+        return {status::wrongClass, std::string("Passed object is no ").append(words<Record>.itemClass).append(".")};
+    }
+    Record record;
+    TARQ_TRY(read(*object, record));
     TARQ_TRY(object->get_Name(&record.name));
-    TARQ_TRY(Side::add(store, std::move(record)));
-    return pointAt(*object, model, Side::count(store));
+    TARQ_TRY(store.add(std::move(record)));
+    return pointAt(*object, model, store.table<Record>().count());
 }
 
-template <class Side>
+template <class Record>
 Outcome attachItem(ITARQModel& model, const ModelStore& store, IUnknown* given, const Variant& address) {
-    std::int32_t position = 0;
-    TARQ_TRY(Side::resolve(store, address, position));
-    const auto object = asked<Side>(given);
-    if (!object) return {status::wrongClass, Side::notToAttach};
+    TARQ_ASSIGN(const std::int32_t position, resolve<Record>(store, address));
+    const auto object = asked<Record>(given);
+    if (!object) return {status::wrongClass, std::string(words<Record>.nothingToAttach)};
     return pointAt(*object, model, position + 1);
 }
 
-template <class Side>
-Outcome makeItem(ITARQModel& model, const ModelStore& store, const Variant& address, Ref<IUnknown>& value) {
-    std::int32_t position = 0;
-    TARQ_TRY(Side::resolve(store, address, position));
+template <class Record>
+Result<Ref<IUnknown>> makeItem(ITARQModel& model, const ModelStore& store, const Variant& address) {
+    TARQ_ASSIGN(const std::int32_t position, resolve<Record>(store, address));
     void* made = nullptr;
-    if (!createInstance<typename Side::Class>(nullptr, IDispatch::id, &made).isOk()) return status::outOfMemory;
+    if (!createInstance<typename ItemObject<Record>::Class>(nullptr, IDispatch::id, &made).isOk()) {
+        return status::outOfMemory;
+    }
     Ref<IUnknown> object = Ref<IUnknown>::adopt(static_cast<IDispatch*>(made));
-    TARQ_TRY(attachItem<Side>(model, store, object.get(), Variant(position + 1)));
-    value = std::move(object);
-    return {};
+    TARQ_TRY(attachItem<Record>(model, store, object.get(), Variant(position + 1)));
+    return object;
 }
 
-template <class Side>
+template <class Record>
 Outcome copyItem(ModelStore& store, const Variant& address, IUnknown* given) {
-    std::int32_t position = 0;
-    TARQ_TRY(Side::resolve(store, address, position));
-    const bool keepsName = Side::isOfFamily(store, position);
-    const auto object = asked<Side>(given);
-    if (!object) return {status::wrongState, Side::notToCopy};
-    typename Side::Record record;
+    TARQ_ASSIGN(const std::int32_t position, resolve<Record>(store, address));
+    const bool keepsName = store.table<Record>()[position].family != nullptr;
+    const auto object = asked<Record>(given);
+    if (!object) {
+        return {status::wrongState,
+                std::string("Only ").append(words<Record>.itemClass).append(" objects allowed as argument.")};
+    }
+    Record record;
     if (!keepsName) {
         TARQ_TRY(object->get_Name(&record.name));
     }
-    TARQ_TRY(Side::read(*object, record));
+    TARQ_TRY(read(*object, record));
     if (!keepsName) {
-        TARQ_TRY(Side::rename(store, position, record.name));
+        TARQ_TRY(store.rename<Record>(position, record.name));
     }
-    return Side::change(store, position, record);
+    return changeItem<Record>(store, position, changeTo(record));
 }
 
 }  // namespace
 
 Status CTARQModel::AddVar(IUnknown* TARQVar) {
-    return guarded(classid::TARQModel, [&] { return addItem<Columns>(*this, store_, TARQVar); });
+    return guarded([&] { return addItem<ColumnRecord>(*this, store_, TARQVar); });
 }
 
 Status CTARQModel::AddRes(IUnknown* TARQRes) {
-    return guarded(classid::TARQModel, [&] { return addItem<Rows>(*this, store_, TARQRes); });
+    return guarded([&] { return addItem<RowRecord>(*this, store_, TARQRes); });
 }
 
 Status CTARQModel::AttachVar(IUnknown* TARQVar, const Variant& Index) {
-    return guarded(classid::TARQModel, [&] { return attachItem<Columns>(*this, store_, TARQVar, Index); });
+    return guarded([&] { return attachItem<ColumnRecord>(*this, store_, TARQVar, Index); });
 }
 
 Status CTARQModel::AttachRes(IUnknown* TARQRes, const Variant& Index) {
-    return guarded(classid::TARQModel, [&] { return attachItem<Rows>(*this, store_, TARQRes, Index); });
+    return guarded([&] { return attachItem<RowRecord>(*this, store_, TARQRes, Index); });
 }
 
 Status CTARQModel::get_Var(const Variant& Index, Ref<IUnknown>* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return makeItem<Columns>(*this, store_, Index, *value); });
+    return guardedResult(value, [&] { return makeItem<ColumnRecord>(*this, store_, Index); });
 }
 
 Status CTARQModel::get_Res(const Variant& Index, Ref<IUnknown>* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return makeItem<Rows>(*this, store_, Index, *value); });
+    return guardedResult(value, [&] { return makeItem<RowRecord>(*this, store_, Index); });
 }
 
 Status CTARQModel::put_Var(const Variant& Index, IUnknown* value) {
-    return guarded(classid::TARQModel, [&] { return copyItem<Columns>(store_, Index, value); });
+    return guarded([&] { return copyItem<ColumnRecord>(store_, Index, value); });
 }
 
 Status CTARQModel::put_Res(const Variant& Index, IUnknown* value) {
-    return guarded(classid::TARQModel, [&] { return copyItem<Rows>(store_, Index, value); });
+    return guarded([&] { return copyItem<RowRecord>(store_, Index, value); });
 }
 
 }  // namespace tarq

@@ -1,6 +1,5 @@
 // CTARQModel: models in MPL.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "tarq/component/serverregistry.h"
 
 namespace tarq {
@@ -11,7 +10,7 @@ Ref<IDispatch> createMplServer() { return createServer(mplServerProgId).query<ID
 }  // namespace
 
 Status CTARQModel::ReadMPLModel(const std::string& FileName) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         // What the server does may drop the last reference but this one, set another directory, or change the caller's
         // text.
         const Ref<IUnknown> held(static_cast<ITARQModel*>(this));

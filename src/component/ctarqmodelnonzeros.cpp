@@ -3,27 +3,25 @@
 #include <limits>
 
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "model/modeledit.h"
 
 namespace tarq {
 
 // NOLINTBEGIN(bugprone-reserved-identifier)
 Status CTARQModel::AddNZ(const Variant& Row, const Variant& Col, double newVal) {
-    return guarded(classid::TARQModel, [&] { return addNonzero(store_, Row, Col, newVal); });
+    return guarded([&] { return addNonzero(store_, Row, Col, newVal); });
 }
 
 Status CTARQModel::DelNZ(const Variant& Col, const Variant& Row) {
-    return guarded(classid::TARQModel, [&] { return deleteNonzero(store_, Col, Row); });
+    return guarded([&] { return deleteNonzero(store_, Col, Row); });
 }
 
 Status CTARQModel::get_NZ(const Variant& Row, const Variant& Col, double* value) {
-    if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return getNonzero(store_, Row, Col, *value); });
+    return guardedResult(value, [&] { return getNonzero(store_, Row, Col); });
 }
 
 Status CTARQModel::put_NZ(const Variant& Row, const Variant& Col, double value) {
-    return guarded(classid::TARQModel, [&] { return putNonzero(store_, Row, Col, value); });
+    return guarded([&] { return putNonzero(store_, Row, Col, value); });
 }
 
 Status CTARQModel::get_NumberOfNZ(std::int32_t* value) {

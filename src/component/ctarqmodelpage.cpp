@@ -1,6 +1,5 @@
 // CTARQModel: the parameter page.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "tarq/component/createobject.h"
 #include "tarq/interfaces/ipropertypage.h"
 
@@ -8,7 +7,7 @@ namespace tarq {
 
 Status CTARQModel::ShowPropertyPage(std::int32_t* pbDirty) {
     if (pbDirty == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         const Ref<IUnknown> held(static_cast<ITARQModel*>(this));
         // The page clears requiresSave_ once it is its turn, so that a call refused leaves the open page's mark alone.
         const Ref<IPropertyPage> page = createObject<IPropertyPage>("tarqprop1");

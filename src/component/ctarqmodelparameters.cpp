@@ -1,6 +1,5 @@
 // CTARQModel: the solver parameters.
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "parameters/parameteraccess.h"
 #include "parameters/profile.h"
 #include "parameters/solverfilenames.h"
@@ -17,12 +16,11 @@ bool anyNull(Pointers... pointers) {
 
 Status CTARQModel::get_Parameter(const std::string& ParameterName, Variant* value) {
     if (value == nullptr) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] { return readParameter(parameters_, ParameterName, *value); });
+    return guarded([&] { return readParameter(parameters_, ParameterName, *value); });
 }
 
 Status CTARQModel::put_Parameter(const std::string& ParameterName, const Variant& value) {
-    return guarded(classid::TARQModel,
-                   [&] { return writeParameter(parameters_, ParameterName, value, store_.infinity()); });
+    return guarded([&] { return writeParameter(parameters_, ParameterName, value, store_.infinity()); });
 }
 
 Status CTARQModel::get_NumberOfParameters(std::int32_t* value) {
@@ -37,7 +35,7 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
                 lpControl)) {
         return status::nullPointer;
     }
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         ParameterInfo info;
         Outcome outcome = parameterInfo(parameters_, ParameterID, info);
         if (!outcome.isOk()) return outcome;
@@ -61,7 +59,7 @@ Status CTARQModel::GetParameterInfo(std::int32_t ParameterID, std::int32_t* Type
 Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lOptionID, std::int32_t* lpOptionValue,
                                       std::string* bsOptionName) {
     if (anyNull(lpOptionValue, bsOptionName)) return status::nullPointer;
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         ParameterOption option{};
         Outcome outcome = parameterOption(lParameterID, lOptionID, option);
         if (!outcome.isOk()) return outcome;
@@ -72,22 +70,22 @@ Status CTARQModel::GetParameterOption(std::int32_t lParameterID, std::int32_t lO
 }
 
 Status CTARQModel::ReadProfile(const std::string& ProfileName) {
-    return guarded(classid::TARQModel, [&] { return readProfile(ProfileName, parameters_, store_.infinity()); });
+    return guarded([&] { return readProfile(ProfileName, parameters_, store_.infinity()); });
 }
 
 Status CTARQModel::WriteProfile(const std::string& ProfileName) {
-    return guarded(classid::TARQModel, [&] { return writeProfile(ProfileName, parameters_); });
+    return guarded([&] { return writeProfile(ProfileName, parameters_); });
 }
 
 Status CTARQModel::ResetParameters() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         parameters_.reset();
         return Outcome();
     });
 }
 
 Status CTARQModel::GenFileNames(const std::string& FileName) {
-    return guarded(classid::TARQModel, [&] { return generateFileNames(parameters_, FileName); });
+    return guarded([&] { return generateFileNames(parameters_, FileName); });
 }
 
 }  // namespace tarq

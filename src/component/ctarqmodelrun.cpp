@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 
 namespace tarq {
 
@@ -20,7 +19,7 @@ RunModel CTARQModel::runModel() {
 }
 
 Status CTARQModel::Optimize() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         // A sink may drop the last reference but this one.
         const Ref<IUnknown> held(static_cast<ITARQModel*>(this));
         RunModel model = runModel();
@@ -30,7 +29,7 @@ Status CTARQModel::Optimize() {
 }
 
 Status CTARQModel::OptimizeAsync() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         const auto run = std::make_shared<BackgroundRun>(Ref<IUnknown>(static_cast<ITARQModel*>(this)), runModel());
         if (busy_.exchange(true)) return Outcome(status::componentFailure, "Component is busy at the moment.");
         {
@@ -47,7 +46,7 @@ Status CTARQModel::OptimizeAsync() {
 }
 
 Status CTARQModel::KillThread() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         std::shared_ptr<BackgroundRun> run;
         {
             const std::lock_guard lock(backgroundMutex_);
@@ -85,7 +84,7 @@ Status CTARQModel::get_LocationOfTARQDLL(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfTARQDLL(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return binding_.setLocation(value); });
+    return guarded([&] { return binding_.setLocation(value); });
 }
 
 Status CTARQModel::get_LastSolverMessage(std::string* value) {

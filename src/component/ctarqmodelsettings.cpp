@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "component/ctarqmodel.h"
-#include "frame/memberguard.h"
 #include "frame/text.h"
 #include "parameters/parameteraccess.h"
 
@@ -55,14 +54,14 @@ void CTARQModel::setOutput(std::string bytes) { amplOutputBuffer_ = wellFormedTe
 Status CTARQModel::Test() { return status::ok; }
 
 Status CTARQModel::DelModel() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         clearModel();
         return Outcome();
     });
 }
 
 Status CTARQModel::AutoRenameVariables() {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         store_.autoRename();
         return Outcome();
     });
@@ -73,7 +72,7 @@ Status CTARQModel::get_Name(std::string* value) {
 }
 
 Status CTARQModel::put_Name(const std::string& value) {
-    return guarded(classid::TARQModel, [&] {
+    return guarded([&] {
         objectName_ = value;
         return Outcome();
     });
@@ -84,7 +83,7 @@ Status CTARQModel::get_ModelName(std::string* value) {
 }
 
 Status CTARQModel::put_ModelName(const std::string& value) {
-    return guarded(classid::TARQModel, [&]() -> Outcome {
+    return guarded([&]() -> Outcome {
         if (utf16Length(value) > maxModelNameLength) return {status::textTooLong, "Passed string is to long."};
         modelName_ = value;
         return {};
@@ -109,7 +108,7 @@ Status CTARQModel::get_LocationOfMathProgDLL(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfMathProgDLL(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfMathProgDll_, value); });
+    return guarded([&] { return storePath(locationOfMathProgDll_, value); });
 }
 
 Status CTARQModel::get_LocationOfAMPLEXE(std::string* value) {
@@ -117,7 +116,7 @@ Status CTARQModel::get_LocationOfAMPLEXE(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfAMPLEXE(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfAmplExe_, value); });
+    return guarded([&] { return storePath(locationOfAmplExe_, value); });
 }
 
 Status CTARQModel::get_LocationOfTARQAMPLEXE(std::string* value) {
@@ -125,7 +124,7 @@ Status CTARQModel::get_LocationOfTARQAMPLEXE(std::string* value) {
 }
 
 Status CTARQModel::put_LocationOfTARQAMPLEXE(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(locationOfTarqAmplExe_, value); });
+    return guarded([&] { return storePath(locationOfTarqAmplExe_, value); });
 }
 
 Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
@@ -133,7 +132,7 @@ Status CTARQModel::get_MPLWorkingDirectory(std::string* value) {
 }
 
 Status CTARQModel::put_MPLWorkingDirectory(const std::string& value) {
-    return guarded(classid::TARQModel, [&] { return storePath(mplWorkingDirectory_, value); });
+    return guarded([&] { return storePath(mplWorkingDirectory_, value); });
 }
 
 Status CTARQModel::get_AMPLOutputBuffer(std::string* value) {
@@ -145,7 +144,7 @@ Status CTARQModel::get_AMPLOutputBufferMaxSize(std::int32_t* value) {
 }
 
 Status CTARQModel::put_AMPLOutputBufferMaxSize(std::int32_t value) {
-    return guarded(classid::TARQModel, [&]() -> Outcome {
+    return guarded([&]() -> Outcome {
         if (value < minAmplOutputBufferSize) {
             return {status::invalidArgument, "AMPLOutputBuffer must be at least 1024 Bytes long"};
         }

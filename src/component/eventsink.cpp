@@ -1,11 +1,10 @@
 #include "tarq/component/eventsink.h"
 
 #include <memory>
-#include <new>
 #include <utility>
 
-#include "frame/result.h"
 #include "tarq/frame/connectionpoint.h"
+#include "tarq/frame/contained.h"
 #include "tarq/frame/countedobject.h"
 #include "tarq/interfaces/itarqmodelevents.h"
 
@@ -30,32 +29,30 @@ private:
     std::function<void()> handler_;
 };
 
-Status pointOf(IUnknown& model, Ref<IConnectionPoint>& point) {
+/// Calls `act` with the point that a model's events come from.
+template <class Act>
+Status atPointOf(IUnknown& model, const Act& act) {
     const auto container = Ref<IUnknown>(&model).query<IConnectionPointContainer>();
     if (!container) return status::noConnection;
     IConnectionPoint* found = nullptr;
-    const Status result = container->FindConnectionPoint(_ITARQModelEvents::id, &found);
-    point = Ref<IConnectionPoint>::adopt(found);
-    return result;
+    const Status answer = container->FindConnectionPoint(_ITARQModelEvents::id, &found);
+    const auto point = Ref<IConnectionPoint>::adopt(found);
+    return answer.isOk() ? act(*point) : answer;
 }
 
 }  // namespace
 
 Status adviseFinished(IUnknown& model, std::function<void()> handler, std::uint32_t* cookie) {
-    Ref<IConnectionPoint> point;
-    TARQ_TRY(pointOf(model, point));
-    try {
-        const Ref<_ITARQModelEvents> sink(std::make_unique<FunctionSink>(std::move(handler)).release());
-        return point->Advise(sink.get(), cookie);
-    } catch (const std::bad_alloc&) {
-        return status::outOfMemory;
-    }
+    return atPointOf(model, [&](IConnectionPoint& point) {
+        return contained([&] {
+            const Ref<_ITARQModelEvents> sink(std::make_unique<FunctionSink>(std::move(handler)).release());
+            return point.Advise(sink.get(), cookie);
+        });
+    });
 }
 
 Status unadviseFinished(IUnknown& model, std::uint32_t cookie) {
-    Ref<IConnectionPoint> point;
-    TARQ_TRY(pointOf(model, point));
-    return point->Unadvise(cookie);
+    return atPointOf(model, [&](IConnectionPoint& point) { return point.Unadvise(cookie); });
 }
 
 }  // namespace tarq

@@ -4,6 +4,7 @@
 
 #include "tarq/component/classtable.h"
 #include "tarq/frame/classfactory.h"
+#include "tarq/frame/contained.h"
 #include "tarq/frame/module.h"
 
 namespace tarq {
@@ -60,13 +61,10 @@ std::int32_t DllGetClassObject(const tarq::Guid* classId, const tarq::Guid* inte
     if (out == nullptr) return tarq::code(tarq::status::nullPointer);
     *out = nullptr;
     if (classId == nullptr || interfaceId == nullptr) return tarq::code(tarq::status::nullPointer);
-    try {
-        tarq::ClassFactory* factory = tarq::factoryOf(*classId);
-        if (factory == nullptr) return tarq::code(tarq::status::classNotInLibrary);
-        return tarq::code(factory->QueryInterface(*interfaceId, out));
-    } catch (...) {
-        return tarq::code(tarq::status::outOfMemory);
-    }
+    return tarq::code(tarq::contained([&] {
+        tarq::ClassFactory* const factory = tarq::factoryOf(*classId);
+        return factory == nullptr ? tarq::status::classNotInLibrary : factory->QueryInterface(*interfaceId, out);
+    }));
 }
 
 std::int32_t DllCanUnloadNow() { return tarq::module::canUnload() ? 0 : 1; }

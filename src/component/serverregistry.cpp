@@ -7,6 +7,7 @@
 #include <string>
 
 #include "frame/text.h"
+#include "platform/exceptionbarrier.h"
 
 namespace tarq {
 namespace {
@@ -51,13 +52,12 @@ void unregisterServer(std::string_view progId) {
     removed = registry().factories.extract(key);
 }
 
-Ref<IUnknown> createServer(std::string_view progId) noexcept {
-    try {
+Ref<IUnknown> createServer(std::string_view progId) {
+    const auto create = [progId] {
         const std::shared_ptr<ServerFactory> factory = findFactory(progId);
         return factory ? (*factory)() : Ref<IUnknown>();
-    } catch (...) {
-        return {};
-    }
+    };
+    return withoutException(create, [] { return Ref<IUnknown>(); });
 }
 
 }  // namespace tarq

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,8 +12,8 @@
 #include "engine/modeltransfer.h"
 #include "engine/runstatus.h"
 #include "parameters/parameterrows.h"
-#include "platform/exceptionbarrier.h"
 #include "platform/thread.h"
+#include "tarq/frame/contained.h"
 
 namespace tarq {
 namespace {
@@ -85,15 +84,11 @@ private:
 Status Run::execute() {
     model_.stopRequested.store(false, std::memory_order_relaxed);
     const auto steps = [this] {
-        try {
-            noted_.emplace(model_);
-            return runSteps();
-        } catch (const std::bad_alloc&) {
-            return end(status::outOfMemory);
-        }
+        noted_.emplace(model_);
+        return runSteps();
     };
     // Whatever comes, the engine has to be released and the run has to end in order.
-    return close(withoutException(steps, [] { return end(status::generalFailure); }));
+    return close(contained(steps, end));
 }
 
 Ending Run::runSteps() {

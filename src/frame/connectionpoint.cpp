@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/memberguard.h"
+#include "tarq/frame/contained.h"
 
 namespace tarq {
 
@@ -58,7 +58,7 @@ Ref<IDispatch> ConnectionPoint::sinkIn(std::size_t slot) {
     return slot < slots_.size() ? slots_[slot] : Ref<IDispatch>();
 }
 
-Status ConnectionPoint::fire(std::int32_t event) noexcept {
+Status ConnectionPoint::fire(std::int32_t event) {
     Status last;
     for (std::size_t slot = 0;; ++slot) {
         {
@@ -67,11 +67,8 @@ Status ConnectionPoint::fire(std::int32_t event) noexcept {
         }
         const Ref<IDispatch> sink = sinkIn(slot);
         if (!sink) continue;
-        try {
-            last = sink->Invoke(event, invoke::method, {}, nullptr, nullptr);
-        } catch (...) {
-            last = status::generalFailure;  // a sink's exception is its own; the run goes on
-        }
+        // A sink's exception is its own; the run goes on.
+        last = contained([&] { return sink->Invoke(event, invoke::method, {}, nullptr, nullptr); });
     }
 }
 

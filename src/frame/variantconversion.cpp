@@ -2,10 +2,11 @@
 #include <cmath>
 
 #include "frame/localnumbers.h"
-#include "frame/memberguard.h"
 #include "frame/numbertext.h"
 #include "platform/userlocale.h"
+#include "tarq/frame/contained.h"
 #include "tarq/frame/dispatch.h"
+#include "tarq/frame/objecterror.h"
 #include "tarq/frame/variant.h"
 
 namespace tarq {

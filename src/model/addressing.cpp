@@ -6,66 +6,52 @@
 namespace tarq {
 namespace {
 
-/// What the two resolvers differ in.
-struct AddressedTable {
-    std::int32_t (ModelStore::*find)(std::string_view name) const;
-    std::int32_t (ModelStore::*count)() const;
-    std::string_view nameBefore;
-    std::string_view notConvertible;
-    std::string_view belowOne;
-    std::string_view aboveCount;
-};
+template <class Record>
+constexpr const SideWords& words = wordsOf(Record::side);
 
-constexpr AddressedTable columnTable{
-    &ModelStore::findColumn,
-    &ModelStore::columnCount,
-    "Column name '",
-    "Col index is not convertible to string or integer.",
-    "Column index is less than 1.",
-    "Column index is greater than number of columns.",
-};
-constexpr AddressedTable rowTable{
-    &ModelStore::findRow,
-    &ModelStore::rowCount,
-    "Row name '",
-    "Row index must be convertible to string or integer.",
-    "Row index is less than 1.",
-    "Row index is greater than number of rows.",
-};
-
-Outcome resolveName(const AddressedTable& table, const ModelStore& store, const std::string& name,
-                    std::int32_t& position) {
-    const std::int32_t found = (store.*table.find)(name);
-    if (found < 0) {
-        return {status::invalidArgument, std::string(table.nameBefore) + name + "' could not be found."};
-    }
-    position = found;
-    return {};
+template <class Record>
+Result<std::int32_t> resolveName(const ModelStore& store, const std::string& name) {
+    const std::int32_t found = store.table<Record>().find(name);
+    if (found >= 0) return found;
+    return Outcome(status::invalidArgument,
+                   std::string(words<Record>.kind).append(" name '").append(name).append("' could not be found."));
 }
 
-Outcome resolve(const AddressedTable& table, const ModelStore& store, const Variant& address, std::int32_t& position) {
-    // A plain text needs no copy of its own, as it isn't converted.
-    if (address.isText()) return resolveName(table, store, address.text(), position);
-    Variant value = address.copyDereferenced();
-    if (value.isText()) return resolveName(table, store, value.text(), position);
-    // A text that an object gives is neither a name nor a number, since as an address it would be a name.
-    const bool isNumber = !value.isObject() || (value.takeDefaultValue() && !value.isText());
-    if (!isNumber || !value.toInteger()) return {status::wrongKind, std::string(table.notConvertible)};
-    const std::int32_t number = value.integer();
-    if (number < 1) return {status::invalidArgument, std::string(table.belowOne)};
-    if (number > (store.*table.count)()) return {status::invalidArgument, std::string(table.aboveCount)};
-    position = number - 1;
-    return {};
+Outcome outsideTable(std::string_view kind, std::string_view where) {
+    return {status::invalidArgument, std::string(kind).append(" index is ").append(where)};
 }
 
 }  // namespace
 
+template <class Record>
+Result<std::int32_t> resolve(const ModelStore& store, const Variant& address) {
+    // A plain text needs no copy of its own, as it isn't converted.
+    if (address.isText()) return resolveName<Record>(store, address.text());
+    Variant value = address.copyDereferenced();
+    if (value.isText()) return resolveName<Record>(store, value.text());
+    // A text that an object gives is neither a name nor a number, since as an address it would be a name.
+    const bool isNumber = !value.isObject() || (value.takeDefaultValue() && !value.isText());
+    if (!isNumber || !value.toInteger()) return Outcome(status::wrongKind, std::string(words<Record>.badAddress));
+    const std::int32_t number = value.integer();
+    if (number < 1) return outsideTable(words<Record>.kind, "less than 1.");
+    if (number > store.table<Record>().count()) {
+        return outsideTable(words<Record>.kind,
+                            std::string("greater than number of ").append(words<Record>.plural).append("."));
+    }
+    return number - 1;
+}
+
+template Result<std::int32_t> resolve<ColumnRecord>(const ModelStore& store, const Variant& address);
+template Result<std::int32_t> resolve<RowRecord>(const ModelStore& store, const Variant& address);
+
 Outcome resolveColumn(const ModelStore& store, const Variant& address, std::int32_t& position) {
-    return resolve(columnTable, store, address, position);
+    TARQ_ASSIGN(position, resolve<ColumnRecord>(store, address));
+    return {};
 }
 
 Outcome resolveRow(const ModelStore& store, const Variant& address, std::int32_t& position) {
-    return resolve(rowTable, store, address, position);
+    TARQ_ASSIGN(position, resolve<RowRecord>(store, address));
+    return {};
 }
 
 }  // namespace tarq

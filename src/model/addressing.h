@@ -7,14 +7,19 @@
 
 #include <cstdint>
 
+#include "frame/result.h"
 #include "model/modelstore.h"
 #include "tarq/frame/status.h"
 #include "tarq/frame/variant.h"
 
 namespace tarq {
 
-/// Sets `position`, 0-based. Fails with invalidArgument for an unknown name or a number outside the table, and
-/// wrongKind for a value that is neither; `position` is left alone then.
+/// The 0-based position of a column or row; `Record` is ColumnRecord or RowRecord. Fails with invalidArgument for an
+/// unknown name or a number outside the table, and wrongKind for a value that is neither.
+template <class Record>
+[[nodiscard]] Result<std::int32_t> resolve(const ModelStore& store, const Variant& address);
+
+/// The same with an output, which a failure leaves alone.
 [[nodiscard]] Outcome resolveColumn(const ModelStore& store, const Variant& address, std::int32_t& position);
 [[nodiscard]] Outcome resolveRow(const ModelStore& store, const Variant& address, std::int32_t& position);
 

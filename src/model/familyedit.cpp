@@ -2,61 +2,52 @@
 
 #include <utility>
 
+#include "interfaces/sides.h"
+
 namespace tarq {
-namespace {
 
-/// Position behind the members that stand together from `first` on.
-template <class FamilyOf>
-std::int32_t endOfMembers(std::int32_t first, std::int32_t count, const FamilyOf& familyOf) {
+template <class Record>
+Outcome addFamilyMember(ModelStore& store, const std::string& name, IUnknown* family) {
+    Record record;
+    record.name = name;
+    record.upperBound = store.infinity();
+    record.family = FamilyMark::of(family);
+    return store.add(std::move(record));
+}
+
+template <class Record>
+Result<std::int32_t> getFamilyStart(const ModelStore& store, IUnknown* family) {
+    constexpr const SideWords& words = wordsOf(Record::side);
+    const std::int32_t first = store.table<Record>().findFamily(FamilyMark::of(family));
+    if (first < 0) return Outcome(words.noFamily, std::string(words.noFamilyMessage));
+    return first + 1;
+}
+
+template <class Record>
+void clearFamily(ModelStore& store, IUnknown* family) {
+    const RecordTable<Record>& table = store.table<Record>();
+    const std::int32_t first = table.findFamily(FamilyMark::of(family));
+    if (first < 0) return;
     std::int32_t end = first + 1;
-    while (end < count && familyOf(end) == familyOf(first)) ++end;
-    return end;
+    while (table.holds(end) && table[end].family == table[first].family) ++end;
+    store.remove<Record>(first + 1, end);
 }
 
-}  // namespace
-
-Outcome addFamilyColumn(ModelStore& store, const std::string& name, IUnknown* family) {
-    ColumnRecord column;
-    column.name = name;
-    column.upperBound = store.infinity();
-    column.family = FamilyMark::of(family);
-    return store.addColumnRecord(std::move(column));
-}
-
-Outcome addFamilyRow(ModelStore& store, const std::string& name, IUnknown* family) {
-    RowRecord row;
-    row.name = name;
-    row.upperBound = store.infinity();
-    row.family = FamilyMark::of(family);
-    return store.addRowRecord(std::move(row));
-}
+template Outcome addFamilyMember<ColumnRecord>(ModelStore& store, const std::string& name, IUnknown* family);
+template Outcome addFamilyMember<RowRecord>(ModelStore& store, const std::string& name, IUnknown* family);
+template Result<std::int32_t> getFamilyStart<ColumnRecord>(const ModelStore& store, IUnknown* family);
+template Result<std::int32_t> getFamilyStart<RowRecord>(const ModelStore& store, IUnknown* family);
+template void clearFamily<ColumnRecord>(ModelStore& store, IUnknown* family);
+template void clearFamily<RowRecord>(ModelStore& store, IUnknown* family);
 
 Outcome getFamilyColumnStart(const ModelStore& store, IUnknown* family, std::int32_t& number) {
-    const std::int32_t first = store.findFamilyColumn(FamilyMark::of(family));
-    if (first < 0) return {status::wrongState, "TARQVarSet is not part of the model"};
-    number = first + 1;
+    TARQ_ASSIGN(number, getFamilyStart<ColumnRecord>(store, family));
     return {};
 }
 
 Outcome getFamilyRowStart(const ModelStore& store, IUnknown* family, std::int32_t& number) {
-    const std::int32_t first = store.findFamilyRow(FamilyMark::of(family));
-    if (first < 0) return status::none;
-    number = first + 1;
+    TARQ_ASSIGN(number, getFamilyStart<RowRecord>(store, family));
     return {};
-}
-
-void clearFamilyColumns(ModelStore& store, IUnknown* family) {
-    const std::int32_t first = store.findFamilyColumn(FamilyMark::of(family));
-    if (first < 0) return;
-    const auto familyOf = [&](std::int32_t position) { return store.column(position).family; };
-    store.removeColumns(first + 1, endOfMembers(first, store.columnCount(), familyOf));
-}
-
-void clearFamilyRows(ModelStore& store, IUnknown* family) {
-    const std::int32_t first = store.findFamilyRow(FamilyMark::of(family));
-    if (first < 0) return;
-    const auto familyOf = [&](std::int32_t position) { return store.row(position).family; };
-    store.removeRows(first + 1, endOfMembers(first, store.rowCount(), familyOf));
 }
 
 }  // namespace tarq

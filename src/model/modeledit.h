@@ -5,7 +5,6 @@
 // Arguments stand in the order of the member's own. No argument is ever changed.
 #pragma once
 
-#include "model/columnedit.h"
 #include "model/familyedit.h"
+#include "model/itemedit.h"
 #include "model/nonzeroedit.h"
-#include "model/rowedit.h"

@@ -4,67 +4,53 @@
 #include <utility>
 
 namespace tarq {
-namespace {
-
-constexpr NameTexts columnTexts{"Duplicate col name: ", "Col name '", "' is too long.", status::badColumnName};
-constexpr NameTexts rowTexts{"Duplicate row name: ", "Row name '", "' is too long.", status::badRowName};
-
-}  // namespace
-
-ModelStore::ModelStore() : columns_(columnTexts), rows_(rowTexts) {}
 
 void ModelStore::setInfinity(double value) {
     const auto held = gate_.edit();
     infinity_ = value;
 }
 
-void ModelStore::reserveColumns(std::int32_t count) {
+template <class Record>
+void ModelStore::reserve(std::int32_t count) {
     const auto held = gate_.edit();
-    columns_.reserve(count);
+    tableOf<Record>(*this).reserve(count);
 }
 
-void ModelStore::reserveRows(std::int32_t count) {
+template <class Record>
+Outcome ModelStore::add(Record&& record) {
     const auto held = gate_.edit();
-    rows_.reserve(count);
+    return tableOf<Record>(*this).add(std::forward<Record>(record));
 }
 
-Outcome ModelStore::addColumnRecord(ColumnRecord&& record) {
+template <class Record>
+Outcome ModelStore::rename(std::int32_t position, std::string_view name) {
     const auto held = gate_.edit();
-    return columns_.add(std::move(record));
+    return tableOf<Record>(*this).rename(position, std::string(name));
 }
 
-Outcome ModelStore::addRowRecord(RowRecord&& record) {
-    const auto held = gate_.edit();
-    return rows_.add(std::move(record));
-}
-
-Outcome ModelStore::renameColumn(std::int32_t position, std::string_view name) {
-    const auto held = gate_.edit();
-    return columns_.rename(position, std::string(name));
-}
-
-Outcome ModelStore::renameRow(std::int32_t position, std::string_view name) {
-    const auto held = gate_.edit();
-    return rows_.rename(position, std::string(name));
-}
-
-void ModelStore::removeColumns(std::int32_t firstNumber, std::int32_t lastNumber) {
+template <class Record>
+void ModelStore::remove(std::int32_t firstNumber, std::int32_t lastNumber) {
+    RecordTable<Record>& table = tableOf<Record>(*this);
     const std::int32_t first = std::max(firstNumber, 1);
-    const std::int32_t last = std::min(lastNumber, columnCount());
+    const std::int32_t last = std::min(lastNumber, table.count());
     if (first > last) return;
     const auto held = gate_.edit();
-    columns_.remove(first, last);
-    nonzeros_.removeColumns(first, last);
+    table.remove(first, last);
+    if constexpr (Record::side == ModelSide::Column) {
+        nonzeros_.removeColumns(first, last);
+    } else {
+        nonzeros_.removeRows(first, last);
+    }
 }
 
-void ModelStore::removeRows(std::int32_t firstNumber, std::int32_t lastNumber) {
-    const std::int32_t first = std::max(firstNumber, 1);
-    const std::int32_t last = std::min(lastNumber, rowCount());
-    if (first > last) return;
-    const auto held = gate_.edit();
-    rows_.remove(first, last);
-    nonzeros_.removeRows(first, last);
-}
+template void ModelStore::reserve<ColumnRecord>(std::int32_t count);
+template void ModelStore::reserve<RowRecord>(std::int32_t count);
+template Outcome ModelStore::add(ColumnRecord&& record);
+template Outcome ModelStore::add(RowRecord&& record);
+template Outcome ModelStore::rename<ColumnRecord>(std::int32_t position, std::string_view name);
+template Outcome ModelStore::rename<RowRecord>(std::int32_t position, std::string_view name);
+template void ModelStore::remove<ColumnRecord>(std::int32_t firstNumber, std::int32_t lastNumber);
+template void ModelStore::remove<RowRecord>(std::int32_t firstNumber, std::int32_t lastNumber);
 
 bool ModelStore::holdsPlace(std::int32_t columnNumber, std::int32_t rowNumber) const {
     return columnNumber >= 1 && columnNumber <= columnCount() && rowNumber >= 1 && rowNumber <= rowCount();
@@ -78,12 +64,6 @@ void ModelStore::setNonzero(std::int32_t columnNumber, std::int32_t rowNumber, d
 void ModelStore::addToNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double delta) {
     const auto held = gate_.edit();
     if (holdsPlace(columnNumber, rowNumber)) nonzeros_.add(columnNumber, rowNumber, delta);
-}
-
-bool ModelStore::findNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double& value) const {
-    const double* found = nonzeros_.find(columnNumber, rowNumber);
-    value = found != nullptr ? *found : 0.0;
-    return found != nullptr;
 }
 
 bool ModelStore::eraseNonzero(std::int32_t columnNumber, std::int32_t rowNumber) {

@@ -9,7 +9,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "interfaces/limits.h"
+#include "interfaces/sides.h"
 #include "model/familymark.h"
 #include "model/nonzerotable.h"
 #include "model/recordtable.h"
@@ -20,10 +23,12 @@
 namespace tarq {
 
 struct ColumnRecord {
+    static constexpr ModelSide side = ModelSide::Column;
+
     std::string name;
     TARQColRowStatusType status = TARQColRowStatusType::UndefinedVarStatus;
     double lowerBound = 0.0;
-    double upperBound = 1e25;
+    double upperBound = standardInfinity;
     double ipValue = 0.0;
     double lpValue = 0.0;
     double reducedCost = 0.0;
@@ -33,6 +38,8 @@ struct ColumnRecord {
 };
 
 struct RowRecord {
+    static constexpr ModelSide side = ModelSide::Row;
+
     std::string name;
     TARQColRowStatusType status = TARQColRowStatusType::UndefinedVarStatus;
     double lowerBound = 0.0;
@@ -45,58 +52,68 @@ struct RowRecord {
 
 class ModelStore {
 public:
-    ModelStore();
-
     /// Held by whoever changes the fields of a record, or makes several changes that belong together.
     [[nodiscard]] RunGate& gate() const { return gate_; }
 
-    [[nodiscard]] std::int32_t columnCount() const { return columns_.count(); }
-    [[nodiscard]] std::int32_t rowCount() const { return rows_.count(); }
-    /// The model's value for infinity, 1e25 unless a model file says otherwise.
+    /// The model's value for infinity, `standardInfinity` unless a model file says otherwise.
     [[nodiscard]] double infinity() const { return infinity_; }
     void setInfinity(double value);
 
-    /// The record at a 0-based position below the count. Names change only through renameColumn and renameRow.
+    // Both sides alike: `Record` is ColumnRecord or RowRecord.
+
+    /// The columns or rows to read: counted, by 0-based position, found by name and by family.
+    template <class Record>
+    [[nodiscard]] const RecordTable<Record>& table() const {
+        return tableOf<Record>(*this);
+    }
+    /// The record at a 0-based position below the count. Names change only through `rename`.
+    template <class Record>
+    [[nodiscard]] Record& record(std::int32_t position) {
+        return tableOf<Record>(*this)[position];
+    }
+    /// Makes room for so many records in all, for readers that know the number beforehand.
+    template <class Record>
+    void reserve(std::int32_t count);
+    /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
+    /// A name that is taken is badColumnName for columns and badRowName for rows, and nothing is added.
+    template <class Record>
+    [[nodiscard]] Outcome add(Record&& record);
+    /// Gives the record at a 0-based position another name, or none. Fails with the same statuses: a name of more than
+    /// `longestItemName` bytes changes nothing; a name that is taken leaves the record without a name. A position
+    /// outside the table is indexOutOfRange.
+    template <class Record>
+    [[nodiscard]] Outcome rename(std::int32_t position, std::string_view name);
+    /// Removes the records from `firstNumber` to `lastNumber` with their nonzeros; what lies behind moves up. Numbers
+    /// outside the table are ignored. One pass over the nonzeros, and what RecordTable::remove tells.
+    template <class Record>
+    void remove(std::int32_t firstNumber, std::int32_t lastNumber);
+
+    // The same of one side.
+
+    [[nodiscard]] std::int32_t columnCount() const { return columns_.count(); }
+    [[nodiscard]] std::int32_t rowCount() const { return rows_.count(); }
     [[nodiscard]] const ColumnRecord& column(std::int32_t position) const { return columns_[position]; }
     [[nodiscard]] ColumnRecord& column(std::int32_t position) { return columns_[position]; }
     [[nodiscard]] const RowRecord& row(std::int32_t position) const { return rows_[position]; }
     [[nodiscard]] RowRecord& row(std::int32_t position) { return rows_[position]; }
-
-    /// 0-based position of the column or row of this name, -1 when there is none. The empty name is never found.
     [[nodiscard]] std::int32_t findColumn(std::string_view name) const { return columns_.find(name); }
     [[nodiscard]] std::int32_t findRow(std::string_view name) const { return rows_.find(name); }
-
-    /// 0-based position of the first column or row with this mark, -1 when there is none.
-    [[nodiscard]] std::int32_t findFamilyColumn(FamilyMark family) const { return columns_.findFamily(family); }
-    [[nodiscard]] std::int32_t findFamilyRow(FamilyMark family) const { return rows_.findFamily(family); }
-    /// Fetches what finding and adding a name will look at: for readers that know the names that come next.
     void prefetchColumn(std::string_view name) const { columns_.prefetch(name); }
     void prefetchRow(std::string_view name) const { rows_.prefetch(name); }
-
-    /// Makes room for so many records in all, for readers that know the number beforehand.
-    void reserveColumns(std::int32_t count);
-    void reserveRows(std::int32_t count);
-
-    /// Adds a record behind the last one, as it stands: bounds aren't clamped and the length of the name isn't tested.
-    /// A name that is taken is badColumnName for columns and badRowName for rows, and nothing is added.
-    [[nodiscard]] Outcome addColumnRecord(ColumnRecord&& record);
-    [[nodiscard]] Outcome addRowRecord(RowRecord&& record);
-    /// Gives the record at a 0-based position another name, or none. Fails with the same statuses: a name of more than
-    /// 64 bytes changes nothing; a name that is taken leaves the record without a name. A position outside the table is
-    /// indexOutOfRange.
-    [[nodiscard]] Outcome renameColumn(std::int32_t position, std::string_view name);
-    [[nodiscard]] Outcome renameRow(std::int32_t position, std::string_view name);
-    /// Removes the records from `firstNumber` to `lastNumber` with their nonzeros; what lies behind moves up. Numbers
-    /// outside the table are ignored. One pass over the nonzeros, and what RecordTable::remove tells.
-    void removeColumns(std::int32_t firstNumber, std::int32_t lastNumber);
-    void removeRows(std::int32_t firstNumber, std::int32_t lastNumber);
+    void reserveColumns(std::int32_t count) { reserve<ColumnRecord>(count); }
+    void reserveRows(std::int32_t count) { reserve<RowRecord>(count); }
+    [[nodiscard]] Outcome addColumnRecord(ColumnRecord&& record) { return add(std::move(record)); }
+    [[nodiscard]] Outcome addRowRecord(RowRecord&& record) { return add(std::move(record)); }
 
     /// Column number first, row number second, as everywhere in the store. A place outside the tables holds no nonzero:
     /// setting, adding and loading pass over it. Setting 0.0, or adding up to it, erases.
     void setNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double value);
     void addToNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double delta);
-    /// Sets `value`, to 0.0 when there is no nonzero.
-    [[nodiscard]] bool findNonzero(std::int32_t columnNumber, std::int32_t rowNumber, double& value) const;
+    /// 0.0 where there is no nonzero.
+    [[nodiscard]] double nonzeroAt(std::int32_t columnNumber, std::int32_t rowNumber) const {
+        const double* const found = nonzeros_.find(columnNumber, rowNumber);
+        return found != nullptr ? *found : 0.0;
+    }
     /// True when there was a nonzero.
     bool eraseNonzero(std::int32_t columnNumber, std::int32_t rowNumber);
     /// Sets all that the loader has collected, in its order, and leaves the loader empty. The rows and columns must
@@ -116,12 +133,20 @@ public:
     void clear() noexcept;
 
 private:
+    template <class Record, class Store>
+    [[nodiscard]] static auto& tableOf(Store& store) {
+        if constexpr (Record::side == ModelSide::Column) {
+            return store.columns_;
+        } else {
+            return store.rows_;
+        }
+    }
     [[nodiscard]] bool holdsPlace(std::int32_t columnNumber, std::int32_t rowNumber) const;
 
     RecordTable<ColumnRecord> columns_;
     RecordTable<RowRecord> rows_;
     NonzeroTable nonzeros_;
-    double infinity_ = 1e25;
+    double infinity_ = standardInfinity;
     mutable RunGate gate_;
 };
 

@@ -13,41 +13,33 @@ struct Place {
     std::int32_t rowNumber = 0;
 };
 
-Outcome resolvePlace(const ModelStore& store, const Variant& column, const Variant& row, Place& place) {
-    Place position;
-    TARQ_TRY(resolveColumn(store, column, position.columnNumber));
-    TARQ_TRY(resolveRow(store, row, position.rowNumber));
-    place = {position.columnNumber + 1, position.rowNumber + 1};
-    return {};
+Result<Place> resolvePlace(const ModelStore& store, const Variant& column, const Variant& row) {
+    TARQ_ASSIGN(const std::int32_t columnPosition, resolve<ColumnRecord>(store, column));
+    TARQ_ASSIGN(const std::int32_t rowPosition, resolve<RowRecord>(store, row));
+    return Place{columnPosition + 1, rowPosition + 1};
 }
 
 }  // namespace
 
 Outcome addNonzero(ModelStore& store, const Variant& row, const Variant& column, double delta) {
-    Place place;
-    TARQ_TRY(resolvePlace(store, column, row, place));
+    TARQ_ASSIGN(const Place place, resolvePlace(store, column, row));
     store.addToNonzero(place.columnNumber, place.rowNumber, delta);
     return {};
 }
 
 Outcome deleteNonzero(ModelStore& store, const Variant& column, const Variant& row) {
-    Place place;
-    TARQ_TRY(resolvePlace(store, column, row, place));
+    TARQ_ASSIGN(const Place place, resolvePlace(store, column, row));
     if (store.eraseNonzero(place.columnNumber, place.rowNumber)) return {};
     return {status::noSuchNonzero, "Nonzero element does not exist"};
 }
 
-Outcome getNonzero(const ModelStore& store, const Variant& row, const Variant& column, double& value) {
-    Place place;
-    TARQ_TRY(resolvePlace(store, column, row, place));
-    // Without a nonzero the value is 0.0, which is what is asked for.
-    static_cast<void>(store.findNonzero(place.columnNumber, place.rowNumber, value));
-    return {};
+Result<double> getNonzero(const ModelStore& store, const Variant& row, const Variant& column) {
+    TARQ_ASSIGN(const Place place, resolvePlace(store, column, row));
+    return store.nonzeroAt(place.columnNumber, place.rowNumber);
 }
 
 Outcome putNonzero(ModelStore& store, const Variant& row, const Variant& column, double value) {
-    Place place;
-    TARQ_TRY(resolvePlace(store, column, row, place));
+    TARQ_ASSIGN(const Place place, resolvePlace(store, column, row));
     store.setNonzero(place.columnNumber, place.rowNumber, value);
     return {};
 }

@@ -15,6 +15,9 @@
 #include <vector>
 
 #include "frame/nameindex.h"
+#include "interfaces/commonfailures.h"
+#include "interfaces/limits.h"
+#include "interfaces/sides.h"
 #include "model/familystarts.h"
 #include "model/positionguess.h"
 #include "model/removedplaces.h"
@@ -23,22 +26,9 @@
 
 namespace tarq {
 
-/// Longest name of a column or row in bytes. Checked where a client gives a name; readers have limits of their own.
-inline constexpr std::size_t nameLengthLimit = 64;
-
-/// How the failures of one kind of record are worded.
-struct NameTexts {
-    std::string_view duplicate;      ///< the name follows
-    std::string_view tooLongBefore;  ///< the name follows
-    std::string_view tooLongAfter;
-    Status badName;
-};
-
 template <class Record>
 class RecordTable {
 public:
-    explicit RecordTable(const NameTexts& texts) : texts_(&texts) {}
-
     [[nodiscard]] std::int32_t count() const { return placeCount() - removed_.count(); }
     [[nodiscard]] bool holds(std::int32_t position) const { return position >= 0 && position < count(); }
     [[nodiscard]] const Record& operator[](std::int32_t position) const { return at(removed_.placeOf(position)); }
@@ -71,9 +61,10 @@ public:
 
     /// A name that is taken costs the record its old name as well.
     Outcome rename(std::int32_t position, std::string name) {
-        if (!holds(position)) return {status::indexOutOfRange, "Index out of valid range."};
-        if (name.size() > nameLengthLimit) {
-            return {texts_->badName, std::string(texts_->tooLongBefore) + name + std::string(texts_->tooLongAfter)};
+        if (!holds(position)) return failures::indexRange();
+        if (name.size() > longestItemName) {
+            return {words.badName,
+                    std::string(words.shortKind).append(" name '").append(name).append("' is too long.")};
         }
         const std::int32_t place = removed_.placeOf(position);
         Record& record = at(place);
@@ -189,11 +180,12 @@ private:
             throw;
         }
     }
-    [[nodiscard]] Outcome duplicate(const std::string& name) const {
-        return {texts_->badName, std::string(texts_->duplicate) + name};
+    [[nodiscard]] static Outcome duplicate(const std::string& name) {
+        return {words.badName, std::string("Duplicate ").append(words.shortKindInside).append(" name: ").append(name)};
     }
 
-    const NameTexts* texts_;
+    static constexpr const SideWords& words = wordsOf(Record::side);
+
     std::vector<Record> records_;  ///< with gaps where some were removed
     RemovedPlaces removed_;
     NameIndex names_;        ///< of places

@@ -12,12 +12,31 @@ namespace tarq {
 
 class RunGate {
 public:
-    using Hold = std::unique_lock<std::recursive_mutex>;
+    /// Holds the gate, or nothing, until its end; it stays where it was made.
+    class Hold {
+    public:
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        ~Hold() {
+            if (held_ != nullptr) [[unlikely]]
+                held_->unlock();
+        }
+
+    private:
+        friend class RunGate;
+
+        explicit Hold(std::recursive_mutex* mutex) : held_(mutex) {
+            if (held_ != nullptr) [[unlikely]]
+                held_->lock();
+        }
+
+        std::recursive_mutex* const held_;
+    };
 
     /// For as long as an edit takes, or the reading of a solution; may be nested.
-    [[nodiscard]] Hold edit() { return runs_.load(std::memory_order_relaxed) == 0 ? Hold() : Hold(mutex_); }
+    [[nodiscard]] Hold edit() { return Hold(runs_.load(std::memory_order_relaxed) == 0 ? nullptr : &mutex_); }
     /// For a run, while it reads the model or writes into it.
-    [[nodiscard]] Hold moment() { return Hold(mutex_); }
+    [[nodiscard]] Hold moment() { return Hold(&mutex_); }
 
 private:
     friend class RunPresence;

@@ -111,7 +111,7 @@ TEST_F(RunSequence, EveryParameterIsPassedAsTextInTableOrder) {
 
 TEST_F(RunSequence, EmptySidesOfAModelAreTransferred) {
     use("scripted_full");
-    store.removeRows(1, 2);
+    store.remove<RowRecord>(1, 2);
     EXPECT_EQ(run(), status::ok);
     EXPECT_NE(calls().find("PutModel 0 1e+25 0 3 0 | | | | 0 -1e+25 0 | 10 5 1 | 1 -2 0.5 | 0 0 0\n"),
               std::string::npos);

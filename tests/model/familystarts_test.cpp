@@ -53,28 +53,30 @@ TEST(FamilyStartsTest, FirstMembersAndNamesAgreeWithAWalkAfterAnyEdits) {
             case 0:
                 if (count > 0) {
                     const std::int32_t first = 1 + below(count);
-                    store.removeRows(first, first + below(6));
+                    store.remove<RowRecord>(first, first + below(6));
                 }
                 break;
             case 1:
-                clearFamilyRows(store, &family);
+                clearFamily<RowRecord>(store, &family);
                 break;
             case 2:
                 if (below(40) == 0) store.clear();
-                ASSERT_THAT(store.addRowRecord({}), succeeds());
+                ASSERT_THAT(store.add(RowRecord()), succeeds());
                 break;
             default:
                 // Members that stand apart too, which only clients of their own make.
                 for (std::int32_t member = below(4); member >= 0; --member) {
-                    ASSERT_THAT(addFamilyRow(store, std::to_string(step) + '.' + std::to_string(member), &family),
-                                succeeds());
+                    ASSERT_THAT(
+                        addFamilyMember<RowRecord>(store, std::to_string(step) + '.' + std::to_string(member), &family),
+                        succeeds());
                 }
         }
         for (NumberedFamily& each : families) {
             const FamilyMark mark = FamilyMark::of(&each);
             std::int32_t expected = 0;
             while (expected < store.rowCount() && store.row(expected).family != mark) ++expected;
-            ASSERT_EQ(store.findFamilyRow(mark), expected == store.rowCount() ? -1 : expected) << "step " << step;
+            ASSERT_EQ(store.table<RowRecord>().findFamily(mark), expected == store.rowCount() ? -1 : expected)
+                << "step " << step;
         }
         for (std::int32_t row = 0; row < store.rowCount(); ++row) {
             const std::string& name = store.row(row).name;

@@ -19,10 +19,10 @@ using testing::ElementsAre;
 class ModelStoreTest : public testing::Test {
 protected:
     void addColumns(const std::vector<std::string>& names) {
-        for (const std::string& name : names) ASSERT_THAT(store_.addColumnRecord({.name = name}), succeeds());
+        for (const std::string& name : names) ASSERT_THAT(store_.add(ColumnRecord{.name = name}), succeeds());
     }
     void addRows(const std::vector<std::string>& names) {
-        for (const std::string& name : names) ASSERT_THAT(store_.addRowRecord({.name = name}), succeeds());
+        for (const std::string& name : names) ASSERT_THAT(store_.add(RowRecord{.name = name}), succeeds());
     }
     /// "column,row" and value of every nonzero, in the order of the walk.
     std::vector<std::string> nonzeros() const {
@@ -40,8 +40,8 @@ protected:
 TEST_F(ModelStoreTest, TakenNameIsRefusedAndNothingIsAdded) {
     addColumns({"x", "", "", "X"});
     addRows({"x"});
-    EXPECT_THAT(store_.addColumnRecord({.name = "x"}), failsWith(status::badColumnName, "Duplicate col name: x"));
-    EXPECT_THAT(store_.addRowRecord({.name = "x"}), failsWith(status::badRowName, "Duplicate row name: x"));
+    EXPECT_THAT(store_.add(ColumnRecord{.name = "x"}), failsWith(status::badColumnName, "Duplicate col name: x"));
+    EXPECT_THAT(store_.add(RowRecord{.name = "x"}), failsWith(status::badRowName, "Duplicate row name: x"));
     EXPECT_EQ(store_.columnCount(), 4);
     EXPECT_EQ(store_.rowCount(), 1);
     EXPECT_EQ(store_.findColumn("X"), 3);
@@ -50,19 +50,19 @@ TEST_F(ModelStoreTest, TakenNameIsRefusedAndNothingIsAdded) {
 
 TEST_F(ModelStoreTest, RenamingToATakenNameCostsTheOldNameToo) {
     addColumns({"x", "y"});
-    EXPECT_THAT(store_.renameColumn(1, "x"), failsWith(status::badColumnName, "Duplicate col name: x"));
+    EXPECT_THAT(store_.rename<ColumnRecord>(1, "x"), failsWith(status::badColumnName, "Duplicate col name: x"));
     EXPECT_EQ(store_.column(1).name, "");
     EXPECT_EQ(store_.findColumn("y"), -1);
     EXPECT_EQ(store_.findColumn("x"), 0);
-    EXPECT_THAT(store_.renameColumn(0, "y"), succeeds());
+    EXPECT_THAT(store_.rename<ColumnRecord>(0, "y"), succeeds());
     EXPECT_EQ(store_.findColumn("y"), 0);
 }
 
 TEST_F(ModelStoreTest, RenamingToTheSameOrToNoNameWorks) {
     addRows({"r", "a name that is too long to lie inside the string"});
-    EXPECT_THAT(store_.renameRow(1, store_.row(1).name), succeeds());
+    EXPECT_THAT(store_.rename<RowRecord>(1, store_.row(1).name), succeeds());
     EXPECT_EQ(store_.findRow("a name that is too long to lie inside the string"), 1);
-    EXPECT_THAT(store_.renameRow(0, ""), succeeds());
+    EXPECT_THAT(store_.rename<RowRecord>(0, ""), succeeds());
     EXPECT_EQ(store_.findRow("r"), -1);
 }
 
@@ -70,12 +70,12 @@ TEST_F(ModelStoreTest, LongNameAndPositionOutsideChangeNothing) {
     addColumns({"x"});
     addRows({"r"});
     const std::string longName(65, 'n');
-    EXPECT_THAT(store_.renameColumn(0, longName),
+    EXPECT_THAT(store_.rename<ColumnRecord>(0, longName),
                 failsWith(status::badColumnName, "Col name '" + longName + "' is too long."));
-    EXPECT_THAT(store_.renameRow(0, longName),
+    EXPECT_THAT(store_.rename<RowRecord>(0, longName),
                 failsWith(status::badRowName, "Row name '" + longName + "' is too long."));
-    EXPECT_THAT(store_.renameColumn(0, std::string(64, 'n')), succeeds());
-    EXPECT_THAT(store_.renameRow(1, "s"), failsWith(status::indexOutOfRange, "Index out of valid range."));
+    EXPECT_THAT(store_.rename<ColumnRecord>(0, std::string(64, 'n')), succeeds());
+    EXPECT_THAT(store_.rename<RowRecord>(1, "s"), failsWith(status::indexOutOfRange, "Index out of valid range."));
     EXPECT_EQ(store_.findRow("r"), 0);
 }
 
@@ -85,15 +85,15 @@ TEST_F(ModelStoreTest, RemovedColumnTakesItsNonzerosAndMovesTheOthersUp) {
     for (const std::int32_t row : {1, 2}) {
         for (const std::int32_t column : {1, 2, 3}) store_.setNonzero(column, row, 10 * column + row);
     }
-    store_.removeColumns(2, 2);
+    store_.remove<ColumnRecord>(2, 2);
     EXPECT_EQ(store_.findColumn("b"), -1);
     EXPECT_EQ(store_.findColumn("c"), 1);
     EXPECT_THAT(nonzeros(), ElementsAre("1,1=11", "2,1=31", "1,2=12", "2,2=32"));
-    store_.removeRows(-5, 1);
+    store_.remove<RowRecord>(-5, 1);
     EXPECT_EQ(store_.findRow("s"), 0);
     EXPECT_THAT(nonzeros(), ElementsAre("1,1=12", "2,1=32"));
-    store_.removeColumns(3, 2);
-    store_.removeColumns(1, std::numeric_limits<std::int32_t>::max());
+    store_.remove<ColumnRecord>(3, 2);
+    store_.remove<ColumnRecord>(1, std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(store_.columnCount(), 0);
     EXPECT_EQ(store_.nonzeros().size(), 0);
 }
@@ -106,15 +106,15 @@ TEST_F(ModelStoreTest, NameIndexFollowsRandomChanges) {
         const auto position = names.empty() ? 0 : static_cast<std::int32_t>(random() % names.size());
         const bool isTaken = std::ranges::find(names, name) != names.end();
         if (step % 3 != 0 || names.empty()) {
-            EXPECT_EQ(store_.addColumnRecord({.name = name}).isOk(), !isTaken);
+            EXPECT_EQ(store_.add(ColumnRecord{.name = name}).isOk(), !isTaken);
             if (!isTaken) names.push_back(name);
         } else if (step % 2 == 0) {
             const bool isOwn = names[static_cast<std::size_t>(position)] == name;
-            EXPECT_EQ(store_.renameColumn(position, name).isOk(), !isTaken || isOwn);
+            EXPECT_EQ(store_.rename<ColumnRecord>(position, name).isOk(), !isTaken || isOwn);
             names[static_cast<std::size_t>(position)] = isTaken && !isOwn ? "" : name;
         } else {
             const auto last = std::min(position + 3, static_cast<std::int32_t>(names.size()));
-            store_.removeColumns(position + 1, last);
+            store_.remove<ColumnRecord>(position + 1, last);
             names.erase(names.begin() + position, names.begin() + last);
         }
     }
@@ -135,12 +135,12 @@ constexpr SeriesCase seriesCases[] = {
     {"none", [](ModelStore&) {}, 3},
     {"another record has the name",
      [](ModelStore& store) {
-         EXPECT_THAT(store.renameColumn(3, "y"), succeeds());
-         EXPECT_THAT(store.renameColumn(7, "x3"), succeeds());
+         EXPECT_THAT(store.rename<ColumnRecord>(3, "y"), succeeds());
+         EXPECT_THAT(store.rename<ColumnRecord>(7, "x3"), succeeds());
      },
      7},
-    {"a record before it is gone", [](ModelStore& store) { store.removeColumns(2, 2); }, 2},
-    {"all from there on are gone", [](ModelStore& store) { store.removeColumns(4, 10); }, -1},
+    {"a record before it is gone", [](ModelStore& store) { store.remove<ColumnRecord>(2, 2); }, 2},
+    {"all from there on are gone", [](ModelStore& store) { store.remove<ColumnRecord>(4, 10); }, -1},
     {"nothing is left", [](ModelStore& store) { store.clear(); }, -1},
 };
 
@@ -173,12 +173,9 @@ TEST_F(ModelStoreTest, NonzerosThatAddUpToZeroVanish) {
     EXPECT_EQ(store_.nonzeros().size(), 0);
     store_.addToNonzero(1, 1, 2.0);
     store_.addToNonzero(1, 1, 3.0);
-    double value = 0.0;
-    EXPECT_TRUE(store_.findNonzero(1, 1, value));
-    EXPECT_EQ(value, 5.0);
+    EXPECT_EQ(store_.nonzeroAt(1, 1), 5.0);
     store_.addToNonzero(1, 1, -5.0);
-    EXPECT_FALSE(store_.findNonzero(1, 1, value));
-    EXPECT_EQ(value, 0.0);
+    EXPECT_EQ(store_.nonzeroAt(1, 1), 0.0);
     EXPECT_EQ(store_.nonzeros().size(), 0);
 }
 

@@ -148,7 +148,7 @@ TEST_F(ModelWriter, TripletHoldsAllWithRowsAsTheirSlacks) {
 
 TEST_F(ModelWriter, LindoWritesSumsInLinesAndStatementsBehindThem) {
     buildAll();
-    file_.target.modelStore.removeRows(4, 5);
+    file_.target.modelStore.remove<RowRecord>(4, 5);
     file_.target.modelStore.column(5).lowerBound = -5;
     file_.target.modelStore.column(6).lowerBound = 0;
     ASSERT_THAT(file_.parameters.setString(parameterIndex("xminmx"), "max"), succeeds());

@@ -49,9 +49,7 @@ struct MpsModel final : ModelFileTarget {
         return modelStore.column(modelStore.findColumn(columnName));
     }
     [[nodiscard]] double nonzero(std::string_view columnName, std::string_view rowName) {
-        double value = 0;
-        (void)modelStore.findNonzero(modelStore.findColumn(columnName) + 1, modelStore.findRow(rowName) + 1, value);
-        return value;
+        return modelStore.nonzeroAt(modelStore.findColumn(columnName) + 1, modelStore.findRow(rowName) + 1);
     }
 
     ModelStore modelStore;

@@ -80,10 +80,9 @@ void expectEqual(const ModelStore& read, const ModelStore& written) {
         EXPECT_TRUE(near(column.upperBound, expected.upperBound)) << expected.name;
         EXPECT_TRUE(near(column.cost, expected.cost)) << expected.name;
         for (std::int32_t row = 1; row <= written.rowCount(); ++row) {
-            double here = 0;
-            double there = 0;
-            EXPECT_EQ(read.findNonzero(found + 1, row, here), written.findNonzero(i + 1, row, there));
-            EXPECT_TRUE(near(here, there)) << expected.name << ' ' << row;
+            const double here = read.nonzeroAt(found + 1, row);
+            const double there = written.nonzeroAt(i + 1, row);
+            EXPECT_TRUE((here == 0) == (there == 0) && near(here, there)) << expected.name << ' ' << row;
         }
     }
     for (std::int32_t i = 0; i < written.rowCount(); ++i) {

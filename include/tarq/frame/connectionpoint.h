@@ -61,7 +61,7 @@ public:
 
     /// Calls member `event` of every sink, on this thread, without arguments. A sink may subscribe, unsubscribe and
     /// release meanwhile. Returns the last call's status.
-    Status fire(std::int32_t event) noexcept;
+    Status fire(std::int32_t event);
 
 private:
     [[nodiscard]] Ref<IDispatch> sinkIn(std::size_t slot);

@@ -6,8 +6,8 @@
 #include <concepts>
 #include <cstdint>
 #include <memory>
-#include <new>
 
+#include "tarq/frame/contained.h"
 #include "tarq/frame/dispatch.h"
 #include "tarq/frame/membertable.h"
 #include "tarq/frame/module.h"
@@ -54,13 +54,8 @@ public:
     Status Invoke(std::int32_t member, std::uint16_t kinds, const InvokeArguments& arguments, Variant* result,
                   std::uint32_t* argument) {
         clearLastError();
-        try {
-            return DefaultInterface::memberTable().invoke(*this, member, kinds, arguments, result, argument);
-        } catch (const std::bad_alloc&) {
-            return status::outOfMemory;
-        } catch (...) {
-            return status::generalFailure;
-        }
+        return contained(
+            [&] { return DefaultInterface::memberTable().invoke(*this, member, kinds, arguments, result, argument); });
     }
     // NOLINTEND(modernize-use-override)
 
@@ -125,22 +120,18 @@ private:
 /// which it keeps its inner part alive, outOfMemory when there is no memory, and what the final construction or the
 /// query fails with; there is no object then and *out is null.
 template <class Class>
-Status createInstance(IUnknown* outer, const Guid& interfaceId, void** out) noexcept {
+Status createInstance(IUnknown* outer, const Guid& interfaceId, void** out) {
     if (out == nullptr) return status::nullPointer;
     *out = nullptr;
     if (outer != nullptr && interfaceId != IUnknown::id) return status::noAggregation;
-    try {
+    return contained([&]() -> Status {
         Class* const object = std::make_unique<Class>().release();
         object->aggregate(outer);
         // Held while it is made ready, so that a reference taken and dropped meanwhile doesn't end it.
         const Ref<IUnknown> held(&object->identity());
         if (const Status ready = object->finalConstruct(); !ready.isOk()) return ready;
         return held->QueryInterface(interfaceId, out);
-    } catch (const std::bad_alloc&) {
-        return status::outOfMemory;
-    } catch (...) {
-        return status::generalFailure;
-    }
+    });
 }
 
 }  // namespace tarq
