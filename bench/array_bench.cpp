@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "indexed/ctarqarray.h"
-#include "indexed/matrixproduct.h"
+#include "indexed/arrays/ctarqarray.h"
+#include "indexed/arrays/matrixproduct.h"
 #include "tarq/frame/safearray.h"
 
 namespace {

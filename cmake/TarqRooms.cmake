@@ -1,12 +1,13 @@
-# A room is a folder under src/ that is compiled into one object library, tarq_<room>.
+# A room is a folder under src/ that is compiled, with its folders, into one object library, tarq_<room>. What lies in a
+# folder posix/ is for systems of that kind alone.
 
 # tarq_room(NAME [DEPENDS ROOM...] [LIBRARIES TARGET...])
 function(tarq_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "DEPENDS;LIBRARIES")
   set(folder "${PROJECT_SOURCE_DIR}/src/${name}")
-  file(GLOB sources CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h")
-  if(UNIX)
-    file(GLOB system_sources CONFIGURE_DEPENDS "${folder}/posix/*.cpp")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h")
+  if(NOT UNIX)
+    list(FILTER sources EXCLUDE REGEX "/posix/[^/]*$")
   endif()
 
   set(floors_below ${room_DEPENDS})
@@ -23,10 +24,10 @@ function(tarq_room name)
   add_custom_command(OUTPUT "${stamp}"
     COMMAND "${CMAKE_COMMAND}" "-DROOM=${name}" "-DFOLDER=${folder}" "-DALLOWED=${floors_below}" "-DSTAMP=${stamp}"
             -P "${PROJECT_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
-    DEPENDS ${sources} ${system_sources} "${PROJECT_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
+    DEPENDS ${sources} "${PROJECT_SOURCE_DIR}/cmake/CheckRoomIncludes.cmake"
     COMMENT "Checking the includes of ${name}" VERBATIM)
 
-  add_library(tarq_${name} OBJECT ${sources} ${system_sources} "${stamp}")
+  add_library(tarq_${name} OBJECT ${sources} "${stamp}")
   set_target_properties(tarq_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(tarq_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
   target_compile_definitions(tarq_${name} PUBLIC TARQ_BUILDING_COMPONENT)

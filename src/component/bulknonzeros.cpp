@@ -11,9 +11,9 @@
 
 #include "component/indexlists.h"
 #include "frame/result.h"
-#include "indexed/indexset.h"
-#include "indexed/plainvalue.h"
-#include "indexed/valueimport.h"
+#include "indexed/dimensions/indexset.h"
+#include "indexed/values/plainvalue.h"
+#include "indexed/values/valueimport.h"
 #include "tarq/frame/safearray.h"
 
 namespace tarq {

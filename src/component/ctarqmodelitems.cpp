@@ -7,9 +7,9 @@
 
 #include "component/ctarqmodel.h"
 #include "frame/result.h"
-#include "indexed/ctarqres.h"
-#include "indexed/ctarqvar.h"
 #include "interfaces/sides.h"
+#include "items/ctarqres.h"
+#include "items/ctarqvar.h"
 #include "model/addressing.h"
 #include "model/modeledit.h"
 

@@ -9,9 +9,9 @@
 
 #include "frame/convertelement.h"
 #include "frame/result.h"
-#include "indexed/objectvalues.h"
-#include "indexed/plainvalue.h"
-#include "indexed/valueimport.h"
+#include "indexed/values/objectvalues.h"
+#include "indexed/values/plainvalue.h"
+#include "indexed/values/valueimport.h"
 #include "model/addressing.h"
 #include "model/familyedit.h"
 #include "tarq/frame/object.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "frame/result.h"
-#include "indexed/termlist.h"
+#include "indexed/values/termlist.h"
 
 namespace tarq {
 

@@ -23,7 +23,7 @@ constexpr std::uint64_t keyOf(std::string_view name) {
 
 /// Finds positions by name with a binary search over sorted keys.
 template <std::size_t Count>
-struct NameIndex {
+struct SortedNames {
     std::array<std::uint64_t, Count> keys{};
     std::array<std::uint8_t, Count> positions{};
 
@@ -37,9 +37,9 @@ struct NameIndex {
 };
 
 template <class Named, std::size_t Count>
-consteval NameIndex<Count> indexByName(const std::array<Named, Count>& named) {
+consteval SortedNames<Count> indexByName(const std::array<Named, Count>& named) {
     static_assert(Count <= std::numeric_limits<std::uint8_t>::max());
-    NameIndex<Count> index;
+    SortedNames<Count> index;
     for (std::size_t position = 0; position < Count; ++position) index.keys[position] = keyOf(named[position].name);
     std::ranges::sort(index.keys);
     for (std::size_t position = 0; position < Count; ++position) {
@@ -49,8 +49,8 @@ consteval NameIndex<Count> indexByName(const std::array<Named, Count>& named) {
     return index;
 }
 
-constexpr NameIndex rowIndex = indexByName(rows);
-constexpr NameIndex slotIndex = indexByName(results);
+constexpr SortedNames rowIndex = indexByName(rows);
+constexpr SortedNames slotIndex = indexByName(results);
 
 constexpr bool isWellNamed(std::string_view name) {
     return !name.empty() && name.size() <= maximumParameterNameLength &&

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "indexed/ctarqarray.h"
-#include "indexed/ctarqarrayenum.h"
+#include "indexed/arrays/ctarqarray.h"
+#include "indexed/arrays/ctarqarrayenum.h"
 #include "tests/indexed/datafixture.h"
 
 namespace tarq {

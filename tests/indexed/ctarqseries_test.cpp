@@ -1,10 +1,10 @@
 // Series and their enumerators.
-#include "indexed/ctarqseries.h"
+#include "indexed/sets/ctarqseries.h"
 
 #include <cmath>
 #include <limits>
 
-#include "indexed/ctarqseriesenum.h"
+#include "indexed/sets/ctarqseriesenum.h"
 #include "tests/indexed/datafixture.h"
 
 namespace tarq {

@@ -3,7 +3,7 @@
 #include <limits>
 #include <random>
 
-#include "indexed/elementlookup.h"
+#include "indexed/sets/elementlookup.h"
 #include "tarq/frame/module.h"
 #include "tests/indexed/datafixture.h"
 

@@ -1,9 +1,9 @@
 // The enumerators of sets that clients steer by items and steps.
-#include "indexed/ctarqsetenum.h"
+#include "indexed/sets/ctarqsetenum.h"
 
 #include <limits>
 
-#include "indexed/positionwalk.h"
+#include "indexed/sets/positionwalk.h"
 #include "tests/indexed/datafixture.h"
 
 namespace tarq {

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "indexed/ctarqseries.h"
-#include "indexed/ctarqset.h"
-#include "indexed/ctarqsetenum.h"
+#include "indexed/sets/ctarqseries.h"
+#include "indexed/sets/ctarqset.h"
+#include "indexed/sets/ctarqsetenum.h"
 #include "tarq/frame/countedobject.h"
 #include "tarq/frame/ienumvariant.h"
 #include "tarq/frame/safearray.h"

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "indexed/spreadsheetrange.h"
+#include "indexed/values/spreadsheetrange.h"
 #include "tarq/frame/dispatch.h"
 
 namespace tarq {

@@ -1,5 +1,5 @@
 // Term lists: which elements are read as coefficients and which as columns.
-#include "indexed/termlist.h"
+#include "indexed/values/termlist.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

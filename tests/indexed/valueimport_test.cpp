@@ -1,5 +1,5 @@
 // What a caller's arrays, objects, ranges and single values give to the cells that they are assigned to.
-#include "indexed/valueimport.h"
+#include "indexed/values/valueimport.h"
 
 #include "tests/indexed/arrayfixture.h"
 #include "tests/indexed/standinrange.h"
