@@ -81,7 +81,9 @@ std::vector<PageMessage> ParameterPage::writeRows() {
     std::vector<PageMessage> messages;
     for (std::size_t row = 0; row < rows_.size(); ++row) {
         if (!hasKnownType(rows_[row])) {
-            messages.push_back({"Internal error in TARQ parameter mapping. Contact developper.", TARQPageStop});
+            PageMessage& message = messages.emplace_back();
+            message.text = "Internal error in TARQ parameter mapping. Contact developper.";
+            message.icon = TARQPageStop;
             continue;
         }
         const std::string name(rows_[row].name);
