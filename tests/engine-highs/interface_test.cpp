@@ -85,6 +85,9 @@ TEST_F(InterfaceTest, OperationsOutOfOrderFail) {
     EXPECT_NE(lpSolution(nullptr, reals.data()), TarqSuccess);
     EXPECT_NE(lpSolution(&real, nullptr), TarqSuccess);
     EXPECT_EQ(lpSolution(&real, reals.data()), TarqSuccess);
+    ASSERT_EQ(put(TestModel{}.column(0, infinite, -1, TarqIntegerColumn)), TarqSuccess);
+    ASSERT_EQ(optimizeLpNow(&whole), TarqSuccess);
+    EXPECT_EQ(optimizeIpNow(), TarqInputError) << "its relaxation has no optimum";
     startAnew();
     EXPECT_NE(lpSolution(&real, reals.data()), TarqSuccess);
     for (const auto unused : {::Break, ::GetDim, ::NewModel, ::Optimize, ::SetMaxIPDim}) {

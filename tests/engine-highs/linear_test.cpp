@@ -167,6 +167,9 @@ TEST_F(LinearTest, StatesAreThePublishedOnes) {
     const StageResult interior = optimizeLp(denseLp(5), {"xlptyp=4", "xipxov=0", "xrduce=0"});
     EXPECT_EQ(basics(interior), 0);
     EXPECT_GT(std::ranges::count(interior.states, TarqSuperbasic), 0);
+    const TestModel bounded = TestModel{}.column(0, 9, 0.5).column(0, 9, -1).row(-infinite, {1, 1}, 50);
+    EXPECT_THAT(optimizeLp(bounded, {"xlptyp=4", "xipxov=0", "xrduce=0"}).states,
+                ElementsAre(TarqAtLowerBound, TarqAtUpperBound, TarqSuperbasic));
     EXPECT_EQ(optimizeLp(TestModel{}.column(-infinite, infinite, 0)).states.at(0), TarqSuperbasic);
 }
 
