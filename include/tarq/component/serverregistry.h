@@ -33,8 +33,8 @@ requires(!std::convertible_to<Factory, ServerFactory> &&
 /// Takes a server away. An unknown ProgID does nothing, and objects that were made live on.
 TARQ_API void unregisterServer(std::string_view progId);
 
-/// A new object of the server entered under `progId`; null when there is none or it can't be created. Throws nothing, whatever the
-/// factory does.
+/// A new object of the server entered under `progId`; null when there is none or it can't be created. Throws nothing,
+/// whatever the factory does.
 [[nodiscard]] TARQ_API Ref<IUnknown> createServer(std::string_view progId);
 
 }  // namespace tarq
