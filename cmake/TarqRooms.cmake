@@ -32,7 +32,6 @@ function(tarq_room name)
   target_include_directories(tarq_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
   target_compile_definitions(tarq_${name} PUBLIC TARQ_BUILDING_COMPONENT)
   target_link_libraries(tarq_${name} PRIVATE tarq_options PUBLIC tarq_formatting Threads::Threads ${CMAKE_DL_LIBS} ${room_LIBRARIES})
-  tarq_share_headers(tarq_${name} tarq_platform ${tarq_standard_headers} <fmt/format.h>)
 endfunction()
 
 # Links TARGET with the objects of the rooms named and of all rooms below them.
