@@ -20,7 +20,7 @@ extern "C" {
 #endif
 
 /* The numbers in which the operations answer. */
-enum {
+enum TarqMathProgValue {
     MP_CLASS_LP = 100, /* no integer column; any other class has some */
     MP_TYPE_FREE = 110,
     MP_TYPE_LOWER = 111,
