@@ -6,8 +6,8 @@
 #include "component/ctarqmodel.h"
 #include "frame/text.h"
 #include "interfaces/commonfailures.h"
-#include "tarq/interfaces/limits.h"
 #include "parameters/parameteraccess.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 namespace {

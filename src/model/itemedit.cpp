@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "interfaces/commonfailures.h"
-#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 namespace {

@@ -11,7 +11,6 @@
 #include <string_view>
 #include <utility>
 
-#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
 #include "model/familymark.h"
 #include "model/nonzerotable.h"
@@ -19,6 +18,7 @@
 #include "model/rungate.h"
 #include "tarq/frame/status.h"
 #include "tarq/interfaces/enumerations.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 

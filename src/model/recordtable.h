@@ -16,13 +16,13 @@
 
 #include "frame/nameindex.h"
 #include "interfaces/commonfailures.h"
-#include "tarq/interfaces/limits.h"
 #include "interfaces/sides.h"
 #include "model/familystarts.h"
 #include "model/positionguess.h"
 #include "model/removedplaces.h"
 #include "platform/largepages.h"
 #include "tarq/frame/status.h"
+#include "tarq/interfaces/limits.h"
 
 namespace tarq {
 
